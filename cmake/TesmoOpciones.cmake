@@ -1,0 +1,59 @@
+# Opciones comunes a todos los destinos y las funciones con que se declaran motores, pruebas y medidas.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Tipo de construcción" FORCE)
+endif()
+
+# Los resultados se fijan bit a bit: sin contraer productos y sumas y sin matemática relajada.
+add_library(tesmo_opciones INTERFACE)
+target_include_directories(tesmo_opciones INTERFACE ${PROJECT_SOURCE_DIR})
+if(MSVC)
+  target_compile_options(tesmo_opciones INTERFACE /W4 /utf-8 /fp:precise)
+else()
+  target_compile_options(tesmo_opciones INTERFACE -Wall -Wextra -Wpedantic -Wconversion -ffp-contract=off)
+  if(TESMO_AVISOS_COMO_ERRORES)
+    target_compile_options(tesmo_opciones INTERFACE -Werror)
+  endif()
+  if(TESMO_SANEADORES)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+  endif()
+endif()
+
+# tesmo_motor(nombre FUENTES f1 f2… USA m1 m2…): biblioteca estática tesmo_<nombre>, sin Qt.
+function(tesmo_motor nombre)
+  cmake_parse_arguments(M "" "" "FUENTES;USA" ${ARGN})
+  add_library(tesmo_${nombre} STATIC ${M_FUENTES})
+  target_link_libraries(tesmo_${nombre} PUBLIC tesmo_opciones)
+  foreach(m IN LISTS M_USA)
+    target_link_libraries(tesmo_${nombre} PUBLIC tesmo_${m})
+  endforeach()
+endfunction()
+
+# tesmo_prueba(nombre FUENTES … USA …): ejecutable GoogleTest con un caso de ctest por prueba.
+function(tesmo_prueba nombre)
+  cmake_parse_arguments(P "" "" "FUENTES;USA" ${ARGN})
+  add_executable(prueba_${nombre} ${P_FUENTES})
+  target_link_libraries(prueba_${nombre} PRIVATE tesmo_opciones GTest::gtest_main)
+  target_compile_definitions(prueba_${nombre} PRIVATE TESMO_RAIZ="${PROJECT_SOURCE_DIR}"
+                                                      TESMO_BIN="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+  foreach(m IN LISTS P_USA)
+    target_link_libraries(prueba_${nombre} PRIVATE tesmo_${m})
+  endforeach()
+  gtest_discover_tests(prueba_${nombre} TEST_PREFIX "${nombre}." DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()
+
+# tesmo_medida(nombre FUENTES … USA …): programa de Google Benchmark en bench/.
+function(tesmo_medida nombre)
+  cmake_parse_arguments(B "" "" "FUENTES;USA" ${ARGN})
+  add_executable(banco_${nombre} ${B_FUENTES})
+  target_link_libraries(banco_${nombre} PRIVATE tesmo_opciones benchmark::benchmark)
+  target_compile_definitions(banco_${nombre} PRIVATE TESMO_BIN="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+  foreach(m IN LISTS B_USA)
+    target_link_libraries(banco_${nombre} PRIVATE tesmo_${m})
+  endforeach()
+endfunction()
