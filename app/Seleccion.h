@@ -16,8 +16,10 @@ inline constexpr const char *SIN_LOCALIDAD = "Localidad";
 /// la ventana la comparten; ninguna guarda copia.
 class Seleccion {
 public:
+  /// Qué ha cambiado. El cambio de provincia deja además la localidad sin elegir, y tanto él como el de
+  /// localidad olvidan la altitud del usuario: avisan una sola vez, con su propio nombre.
   enum class Cambio { Provincia, Localidad, Periodo, Superficie, Altitud };
-  /// Textos tecleados de la superficie receptora.
+  /// Textos tecleados de la superficie receptora: grados, grados desde el sur (oeste positivo) y fracción.
   struct Superficie {
     std::string inclinacion = "90";
     std::string orientacion = "0";
@@ -25,21 +27,39 @@ public:
     bool operator==(const Superficie &) const = default;
   };
 
-  [[nodiscard]] const std::string &DameProvincia() const;
-  [[nodiscard]] const std::string &DameLocalidad() const;
-  [[nodiscard]] bool HayLocalidad() const;
-  [[nodiscard]] const Periodo &DamePeriodo() const;
-  [[nodiscard]] const Superficie &DameSuperficie() const;
-  [[nodiscard]] std::optional<float> DameAltitudUsuario() const; ///< [m]; vacía: la del fichero
+  Seleccion() = default;
+  Seleccion(const Seleccion &) = delete;
+  Seleccion &operator=(const Seleccion &) = delete;
 
-  void PonProvincia(const std::string &provincia); ///< deja la localidad sin elegir
-  void PonLocalidad(const std::string &localidad); ///< olvida la altitud del usuario
-  void PonPeriodo(const Periodo &periodo);         ///< lo valida antes
+  [[nodiscard]] const std::string &DameProvincia() const { return provincia_; }
+  /// Nombre de la localidad elegida, o SIN_LOCALIDAD.
+  [[nodiscard]] const std::string &DameLocalidad() const { return localidad_; }
+  [[nodiscard]] bool HayLocalidad() const;
+  [[nodiscard]] const Periodo &DamePeriodo() const { return periodo_; }
+  [[nodiscard]] const Superficie &DameSuperficie() const { return superficie_; }
+  /// Altitud [m] puesta por el usuario; vacía: manda la del fichero.
+  [[nodiscard]] std::optional<float> DameAltitudUsuario() const { return altitud_; }
+
+  /// Deja la localidad sin elegir, aunque la provincia sea la misma.
+  void PonProvincia(const std::string &provincia);
+  void PonLocalidad(const std::string &localidad);
+  /// Aplica antes las reglas del período (ValidarPeriodo).
+  void PonPeriodo(const Periodo &periodo);
   void PonSuperficie(const Superficie &superficie);
   void PonAltitudUsuario(std::optional<float> altitud);
 
-  /// @p aviso se llama tras cada cambio efectivo, mientras viva la selección.
+  /// @p aviso se llama tras cada cambio efectivo, mientras viva la selección, por orden de inscripción.
   void AlCambiar(std::function<void(Cambio)> aviso);
+
+private:
+  void Avisar(Cambio cambio) const;
+
+  std::string provincia_;
+  std::string localidad_ = SIN_LOCALIDAD;
+  Periodo periodo_;
+  Superficie superficie_;
+  std::optional<float> altitud_;
+  std::vector<std::function<void(Cambio)>> avisos_;
 };
 
 } // namespace tesmo
