@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Calendario.h"
+#include "meteo/Magnitudes.h"
 
 #include <array>
 #include <cstddef>
@@ -11,46 +12,19 @@ namespace tesmo {
 /// Un valor por hora del año; la posición de cada hora la da IndiceHora.
 using SerieHoraria = std::vector<float>;
 
-/// Las diez series del fichero climático, en el orden de sus columnas 4 a 13.
-enum class SerieLeida : std::size_t {
-  TemperaturaSeca,   ///< [°C]
-  TemperaturaCielo,  ///< [°C]
-  DirectaHorizontal, ///< [W/m²]
-  DifusaHorizontal,  ///< [W/m²]
-  HumedadAbsoluta,   ///< [kg/kg]
-  HumedadRelativa,   ///< [%]
-  VelocidadViento,   ///< [m/s]
-  DireccionViento,   ///< [°, desde el norte]
-  Acimut,            ///< [°, 0 al sur, oeste positivo]
-  Cenit,             ///< [°]
-};
 inline constexpr std::size_t NUMERO_SERIES_LEIDAS = 10;
-
-/// Las once series derivadas, en el orden en que se guardan.
-enum class SerieDerivada : std::size_t {
-  Altura,            ///< [°]
-  Rocio,             ///< [°C]
-  Humeda,            ///< [°C]
-  Entalpia,          ///< [J/kg]
-  VolumenEspecifico, ///< [m³/kg]
-  CalorEspecifico,   ///< entalpía / temperatura seca [J/(kg K)]
-  DirectaNormal,     ///< [W/m²]
-  Directa,           ///< sobre la superficie [W/m²]
-  Difusa,            ///< sobre la superficie [W/m²]
-  Reflejada,         ///< sobre la superficie [W/m²]
-  Global,            ///< sobre la superficie [W/m²]
-};
 inline constexpr std::size_t NUMERO_SERIES_DERIVADAS = 11;
 
-/// Las diez series leídas, siempre de un año entero y a cero antes de leer nada.
+/// Las diez series leídas, indizadas por SerieAlmacenada; siempre de un año entero y a cero antes de leer
+/// nada.
 class SeriesLeidas {
 public:
   SeriesLeidas() { series_.fill(SerieHoraria(static_cast<std::size_t>(HORAS_DEL_ANIO))); }
 
-  [[nodiscard]] SerieHoraria &operator[](SerieLeida serie) {
+  [[nodiscard]] SerieHoraria &operator[](SerieAlmacenada serie) {
     return series_[static_cast<std::size_t>(serie)];
   }
-  [[nodiscard]] const SerieHoraria &operator[](SerieLeida serie) const {
+  [[nodiscard]] const SerieHoraria &operator[](SerieAlmacenada serie) const {
     return series_[static_cast<std::size_t>(serie)];
   }
 
@@ -58,7 +32,7 @@ private:
   std::array<SerieHoraria, NUMERO_SERIES_LEIDAS> series_;
 };
 
-/// Las once series derivadas: vacías hasta que se reservan.
+/// Las once series derivadas, indizadas por SerieDerivada: vacías hasta que se reservan.
 class SeriesDerivadas {
 public:
   /// Libera lo que hubiera y reserva once series de @p horas valores a cero; un número negativo cuenta como
