@@ -25,8 +25,8 @@ enum CodigoError : int {
 /// Escribe en el registro el encabezamiento de @p codigo seguido de @p texto; otros códigos no escriben nada.
 void ErrorNumerico(int codigo, std::string_view texto);
 
-/// Lleva @p valor a [@p minimo, @p maximo] y deja constancia en el registro. Un valor que no es número toma el
-/// mínimo. @p contexto es quien llama, en la forma "Clase::operacion".
+/// Lleva @p valor a [@p minimo, @p maximo] y deja constancia en el registro. Un valor que no es número toma
+/// el mínimo. @p contexto es quien llama, en la forma "Clase::operacion".
 void Acotar(float &valor, float minimo, float maximo, std::string_view contexto);
 
 } // namespace tesmo

@@ -7,8 +7,8 @@ namespace tesmo {
 
 enum class Icono { Ninguno, Informacion, Aviso, Error };
 
-/// Quien enseña un mensaje a la persona: la ventana una caja modal, la línea de órdenes una línea, las pruebas
-/// lo apuntan. Vuelve cuando la persona lo ha visto.
+/// Quien enseña un mensaje a la persona: la ventana una caja modal, la línea de órdenes una línea, las
+/// pruebas lo apuntan. Vuelve cuando la persona lo ha visto.
 class PresentadorMensajes {
 public:
   virtual ~PresentadorMensajes() = default;

@@ -12,7 +12,8 @@ namespace tesmo {
 /// Sin "config.ini" toda clave está ausente y todo se busca en el directorio base.
 class ServicioConfiguracion {
 public:
-  /// @p base: directorio del programa, con separador final o sin él. Lo hace directorio de trabajo del proceso.
+  /// @p base: directorio del programa, con separador final o sin él. Lo hace directorio de trabajo del
+  /// proceso.
   explicit ServicioConfiguracion(const std::string &base);
 
   /// Directorio base, con su separador final.
