@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace tesmo {
+
+/// Recorre un texto con las reglas de la lectura con formato de C ("%d", "%f", blancos y literales), sin
+/// mirar la región: lo que no encaja deja el lector donde falló y las piezas siguientes fallarán ahí.
+class LectorNumeros {
+public:
+  explicit LectorNumeros(std::string_view texto) : texto_(texto) {}
+
+  /// "%d"; vacío si no hay un entero o no cabe en 32 bits.
+  [[nodiscard]] std::optional<int> Entero();
+  /// "%f": decimal, hexadecimal, inf y nan. Un valor que no cabe da el infinito o el cero de su signo.
+  [[nodiscard]] std::optional<float> Real();
+  /// El carácter @p c, sin saltar blancos antes.
+  bool Literal(char c);
+  void SaltarBlancos();
+  [[nodiscard]] bool Final() const { return posicion_ >= texto_.size(); }
+
+private:
+  bool Signo();
+  std::size_t Cifras(bool hexadecimal);
+  std::size_t LetrasDe(std::string_view palabra);
+  std::optional<long> Exponente(char letra);
+  std::optional<float> SinSigno();
+  std::optional<float> Cifrado();
+
+  std::string_view texto_;
+  std::size_t posicion_ = 0;
+};
+
+} // namespace tesmo
