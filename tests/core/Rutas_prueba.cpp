@@ -1,0 +1,61 @@
+#include "core/Rutas.h"
+#include "tests/comun/Apoyos.h"
+
+#include <gtest/gtest.h>
+
+using namespace tesmo;
+using namespace tesmo::prueba;
+
+TEST(Rutas, ComponeBaseDirectorioYNombre) {
+  DirectorioTemporal directorio;
+  directorio.Escribir("config.ini", "; rutas\nPER = Perfiles\\\nMET = Meteo/\nRES = \"Mis resultados\\\"\n");
+  const std::string base = TextoDeRuta(directorio.Ruta()) + "/";
+  ServicioConfiguracion servicio(base);
+  EXPECT_EQ(servicio.DirectorioBase(), base);
+  EXPECT_EQ(servicio.RutaPerfiles("a.txt"), base + "Perfiles/a.txt");
+  EXPECT_EQ(servicio.RutaMeteo("LocalidadesCC"), base + "Meteo/LocalidadesCC");
+  EXPECT_EQ(servicio.RutaResultados("r"), base + "Mis resultados/r");
+  EXPECT_EQ(servicio.RutaPrograma("tesmo.inp"), base + "tesmo.inp") << "clave ausente: directorio base";
+}
+
+TEST(Rutas, CadaRutaPisaLaAnterior) {
+  DirectorioTemporal directorio;
+  ServicioConfiguracion servicio(TextoDeRuta(directorio.Ruta()));
+  const std::string &primera = servicio.RutaMeteo("a");
+  const std::string &segunda = servicio.RutaMeteo("b");
+  EXPECT_EQ(primera, segunda);
+  EXPECT_EQ(primera.back(), 'b');
+}
+
+TEST(Rutas, SinConfigIniTodoCaeEnElDirectorioBase) {
+  DirectorioTemporal directorio;
+  ServicioConfiguracion servicio(TextoDeRuta(directorio.Ruta()));
+  EXPECT_EQ(servicio.RutaMeteo("GDR.TXT"), TextoDeRuta(directorio / "GDR.TXT"));
+  std::string valor = "intacto";
+  EXPECT_EQ(servicio.LeerClave("MET ", valor), -1);
+  EXPECT_EQ(valor, "intacto");
+}
+
+TEST(Rutas, HaceActualElDirectorioBase) {
+  DirectorioTemporal directorio;
+  ServicioConfiguracion servicio(TextoDeRuta(directorio.Ruta()));
+  EXPECT_TRUE(std::filesystem::equivalent(std::filesystem::current_path(), directorio.Ruta()));
+}
+
+TEST(Rutas, EncuentraSinDistinguirMayusculas) {
+  DirectorioTemporal directorio;
+  directorio.Escribir("Config.INI", "; rutas\nMET = METEO\\\n");
+  directorio.Escribir("Meteo/Almería.MET", "x");
+  ServicioConfiguracion servicio(TextoDeRuta(directorio.Ruta()));
+  EXPECT_EQ(servicio.RutaMeteo("ALMERÍA.met"), TextoDeRuta(directorio / "Meteo/Almería.MET"));
+}
+
+TEST(Rutas, ElServicioCompartidoSeReponeEnLasPruebas) {
+  DirectorioTemporal directorio;
+  IniciarConfiguracion(TextoDeRuta(directorio.Ruta()));
+  EXPECT_EQ(DameConfiguracion().RutaMeteo("x"), TextoDeRuta(directorio / "x"));
+  LiberarConfiguracion();
+  EXPECT_NE(DameConfiguracion().RutaMeteo("x"), TextoDeRuta(directorio / "x"))
+      << "la base vuelve a ser el directorio del ejecutable";
+  LiberarConfiguracion();
+}
