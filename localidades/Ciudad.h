@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/Objetobase.h"
+#include "localidades/Lectorlocalidades.h"
 #include "localidades/Objetociudad.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -18,7 +18,8 @@ public:
   /// Lee el fichero. Si no se puede abrir, enseña el mensaje 0 y la base queda vacía.
   BaseDeLocalidades();
 
-  /// "Ciudad": la localidad en curso; cualquier otro nombre, ese atributo de su registro (vacío si no lo hay).
+  /// "Ciudad": la localidad en curso; cualquier otro nombre, ese atributo de su registro (vacío si no lo
+  /// hay).
   [[nodiscard]] std::string DameTexto(std::string_view clave) const override;
   /// "Ciudad": pasa a ser la localidad en curso, exista o no. Las demás claves no hacen nada.
   void PonTexto(std::string_view clave, const std::string &texto) override;
@@ -48,8 +49,6 @@ BaseDeLocalidades &DameBaseDeLocalidades();
 /// comparte conserva la suya.
 void LiberarBaseDeLocalidades();
 
-/// Destino de los avisos sobre líneas defectuosas del fichero, uno por llamada y sin fin de línea.
-using AvisoLocalidades = std::function<void(const std::string &)>;
 /// Pone el destino de los avisos (vacío: se pierden) y devuelve el anterior.
 AvisoLocalidades PonAvisoLocalidades(AvisoLocalidades aviso);
 

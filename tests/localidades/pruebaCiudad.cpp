@@ -1,0 +1,202 @@
+#include "localidades/Ciudad.h"
+
+#include "core/Mensajes.h"
+#include "core/Rutas.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace tesmo {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct PresentadorAnotado : PresentadorMensajes {
+  std::vector<std::string> textos, titulos;
+  void Presentar(const std::string &texto, const std::string &titulo, Icono) override {
+    textos.push_back(texto);
+    titulos.push_back(titulo);
+  }
+};
+
+std::string Linea(const std::string &nombre, const std::string &provincia) {
+  return nombre + ",Corta," + provincia + ",Cuarto,Ref," + nombre + ".met,36.84,-2.39,-15,21,0\n";
+}
+
+class BaseDeDatosDeLocalidades : public ::testing::Test {
+protected:
+  void SetUp() override {
+    std::string plantilla = (fs::temp_directory_path() / "localidadesXXXXXX").string();
+    ASSERT_NE(mkdtemp(plantilla.data()), nullptr);
+    raiz_ = plantilla;
+    fs::create_directory(raiz_ / "Meteo");
+    anterior_ = DameMensajes().PonPresentador(&presentador_);
+    PonAvisoLocalidades([this](const std::string &aviso) { avisos_.push_back(aviso); });
+    LiberarBaseDeLocalidades();
+  }
+  void TearDown() override {
+    LiberarBaseDeLocalidades();
+    PonAvisoLocalidades({});
+    DameMensajes().PonPresentador(anterior_);
+    LiberarConfiguracion();
+    fs::current_path(directorio_);
+    fs::remove_all(raiz_);
+  }
+  /// Base cuyo directorio meteorológico, Meteo, guarda @p contenido como "LocalidadesCC".
+  BaseDeLocalidades &Con(const std::string &contenido) {
+    std::ofstream(raiz_ / "Meteo" / "LocalidadesCC", std::ios::binary) << contenido;
+    return SinFichero();
+  }
+  BaseDeLocalidades &SinFichero() {
+    std::ofstream(raiz_ / "config.ini") << "Directorios\nMET = Meteo\\\n";
+    IniciarConfiguracion(raiz_.string());
+    return DameBaseDeLocalidades();
+  }
+
+  fs::path raiz_, directorio_ = fs::current_path();
+  PresentadorAnotado presentador_;
+  PresentadorMensajes *anterior_ = nullptr;
+  std::vector<std::string> avisos_;
+};
+
+TEST_F(BaseDeDatosDeLocalidades, EmpiezaSinLocalidadEnCurso) {
+  const BaseDeLocalidades &base = Con("1\n" + Linea("Rota", "Cádiz"));
+  EXPECT_TRUE(base.Cargada());
+  EXPECT_EQ(base.DameTexto("Ciudad"), "Ninguno");
+  EXPECT_EQ(base.DameTexto("Latitud"), "");
+  EXPECT_TRUE(presentador_.textos.empty());
+}
+
+TEST_F(BaseDeDatosDeLocalidades, AtributosDeLaLocalidadEnCurso) {
+  BaseDeLocalidades &base = Con("1\n" + Linea("Rota", "Cádiz"));
+  base.PonTexto("Ciudad", "Rota");
+  EXPECT_EQ(base.DameTexto("Ciudad"), "Rota");
+  EXPECT_EQ(base.DameTexto("Provincia"), "Cádiz");
+  EXPECT_EQ(base.DameTexto("Latitud"), "36.84");
+  EXPECT_EQ(base.DameTexto("Altura"), "");
+}
+
+TEST_F(BaseDeDatosDeLocalidades, LocalidadEnCursoSinComprobarQueExiste) {
+  BaseDeLocalidades &base = Con("1\n" + Linea("Rota", "Cádiz"));
+  base.PonTexto("Ciudad", "Atlántida");
+  EXPECT_EQ(base.DameTexto("Ciudad"), "Atlántida");
+  EXPECT_EQ(base.DameTexto("Fichero"), "");
+}
+
+TEST_F(BaseDeDatosDeLocalidades, ClavesDesconocidasIgnoradas) {
+  BaseDeLocalidades &base = Con("1\n" + Linea("Rota", "Cádiz"));
+  base.PonTexto("Provincia", "Jaén");
+  EXPECT_EQ(base.DameTextoDe("Rota", "Provincia"), "Cádiz");
+  std::vector<std::string> lista;
+  base.ListaDe("Comarcas", lista);
+  base.ListaDe("Comarcas", "Cádiz", lista);
+  EXPECT_TRUE(lista.empty());
+  EXPECT_TRUE(presentador_.textos.empty());
+}
+
+TEST_F(BaseDeDatosDeLocalidades, AtributoDeLocalidadNombradaSinCambiarLaEnCurso) {
+  BaseDeLocalidades &base = Con("2\n" + Linea("Rota", "Cádiz") + Linea("Motril", "Granada"));
+  EXPECT_EQ(base.DameTextoDe("Motril", "Fichero"), "Motril.met");
+  EXPECT_EQ(base.DameTextoDe("motril", "Fichero"), "");
+  EXPECT_EQ(base.DameTexto("Ciudad"), "Ninguno");
+}
+
+TEST_F(BaseDeDatosDeLocalidades, ProvinciasDistintasPorOrdenDeAparicion) {
+  const BaseDeLocalidades &base =
+      Con("3\n" + Linea("Rota", "Cádiz") + Linea("Motril", "Granada") + Linea("Tarifa", "Cádiz"));
+  std::vector<std::string> lista{"Todas", "Granada"};
+  base.ListaDe("Provincias", lista);
+  EXPECT_EQ(lista, (std::vector<std::string>{"Todas", "Granada", "Cádiz"}));
+}
+
+TEST_F(BaseDeDatosDeLocalidades, ProvinciaConBlancoFinalEsOtra) {
+  const BaseDeLocalidades &base = Con("2\n" + Linea("Rota", "Cádiz") + Linea("Tarifa", "Cádiz "));
+  std::vector<std::string> provincias, localidades;
+  base.ListaDe("Provincias", provincias);
+  base.ListaDe("Localidades", "Cádiz", localidades);
+  EXPECT_EQ(provincias, (std::vector<std::string>{"Cádiz", "Cádiz "}));
+  EXPECT_EQ(localidades, std::vector<std::string>{"Rota"});
+}
+
+TEST_F(BaseDeDatosDeLocalidades, BloqueCortoRepiteRegistrosPeroNoListas) {
+  const BaseDeLocalidades &base = Con("3\n" + Linea("Rota", "Cádiz") + Linea("Tarifa", "Cádiz"));
+  EXPECT_EQ(base.Registros().size(), 3U);
+  EXPECT_EQ(base.Registros()[2]->localidad, "Tarifa");
+  std::vector<std::string> provincias, localidades;
+  base.ListaDe("Provincias", provincias);
+  base.ListaDe("Localidades", "Cádiz", localidades);
+  EXPECT_EQ(provincias, std::vector<std::string>{"Cádiz"});
+  EXPECT_EQ(localidades, (std::vector<std::string>{"Rota", "Tarifa"}));
+}
+
+TEST_F(BaseDeDatosDeLocalidades, ElPrimerRegistroDeUnNombreGana) {
+  const BaseDeLocalidades &base = Con("2\n" + Linea("Rota", "Cádiz") + Linea("Rota", "Jaén"));
+  ASSERT_NE(base.BuscarLocalidad("Rota"), nullptr);
+  EXPECT_EQ(base.BuscarLocalidad("Rota")->provincia, "Cádiz");
+  EXPECT_EQ(base.BuscarLocalidad("rota"), nullptr);
+}
+
+// El mensaje dice «Meteorológico» y no la ruta. Se conserva.
+TEST_F(BaseDeDatosDeLocalidades, FicheroAusenteAvisaYDejaLaBaseVacia) {
+  const BaseDeLocalidades &base = SinFichero();
+  EXPECT_FALSE(base.Cargada());
+  EXPECT_TRUE(base.Registros().empty());
+  ASSERT_EQ(presentador_.textos.size(), 1U);
+  EXPECT_EQ(presentador_.textos[0], "No se puede abrir el fichero: Meteorológico.\n");
+  EXPECT_EQ(presentador_.titulos[0], "Información");
+  std::vector<std::string> lista;
+  base.ListaDe("Provincias", lista);
+  EXPECT_TRUE(lista.empty());
+  EXPECT_EQ(base.DameTextoDe("Rota", "Fichero"), "");
+}
+
+TEST_F(BaseDeDatosDeLocalidades, DirectorioEnLugarDeFicheroNoSeAbre) {
+  fs::create_directory(raiz_ / "Meteo" / "LocalidadesCC");
+  EXPECT_FALSE(SinFichero().Cargada());
+  EXPECT_EQ(presentador_.textos.size(), 1U);
+}
+
+TEST_F(BaseDeDatosDeLocalidades, DirectorioMeteorologicoAusente) {
+  fs::remove_all(raiz_ / "Meteo");
+  EXPECT_FALSE(SinFichero().Cargada());
+  EXPECT_EQ(presentador_.textos.size(), 1U);
+}
+
+TEST_F(BaseDeDatosDeLocalidades, NombreDelFicheroSinDistinguirMayusculas) {
+  std::ofstream(raiz_ / "Meteo" / "LOCALIDADESCC") << "1\n" << Linea("Rota", "Cádiz");
+  EXPECT_EQ(SinFichero().Registros().size(), 1U);
+}
+
+TEST_F(BaseDeDatosDeLocalidades, FicheroVacioEsUnaBaseVaciaSinMensajes) {
+  EXPECT_TRUE(Con("").Cargada());
+  EXPECT_TRUE(presentador_.textos.empty());
+  EXPECT_TRUE(avisos_.empty());
+}
+
+TEST_F(BaseDeDatosDeLocalidades, LosDefectosVanAlDestinoDeAvisosYNoAUnaCaja) {
+  static_cast<void>(Con("1\nRota,Rota,Cádiz,x,y,rota.met,sur,0,0,0,0\n"));
+  EXPECT_TRUE(presentador_.textos.empty());
+  ASSERT_EQ(avisos_.size(), 1U);
+  EXPECT_EQ(avisos_[0], "LocalidadesCC: línea 2: campo 7: \"sur\" no es un número; se toma 0");
+}
+
+TEST_F(BaseDeDatosDeLocalidades, UnaSolaBaseLeidaUnaSolaVez) {
+  BaseDeLocalidades &base = Con("1\n" + Linea("Rota", "Cádiz"));
+  base.PonTexto("Ciudad", "Rota");
+  std::ofstream(raiz_ / "Meteo" / "LocalidadesCC") << "0\n";
+  EXPECT_EQ(&DameBaseDeLocalidades(), &base);
+  EXPECT_EQ(DameBaseDeLocalidades().DameTexto("Ciudad"), "Rota");
+}
+
+TEST_F(BaseDeDatosDeLocalidades, QuienLaComparteLaConservaTrasLiberarla) {
+  static_cast<void>(Con("1\n" + Linea("Rota", "Cádiz")));
+  const std::shared_ptr<BaseDeLocalidades> mia = CompartirBaseDeLocalidades();
+  LiberarBaseDeLocalidades();
+  EXPECT_EQ(mia->Registros().size(), 1U);
+  EXPECT_NE(&DameBaseDeLocalidades(), mia.get());
+}
+
+} // namespace
+} // namespace tesmo
