@@ -25,8 +25,8 @@ ResultadoCarga CargarFichero(Programa &programa, const Seleccion &seleccion, con
                              const std::string &nombre);
 
 /// Lo que toda vista, estadística o exportación llama antes de pedir series: carga si no hay datos de la
-/// localidad elegida; si los hay, pone la superficie, el período y la presión de ahora. Después deja al día las
-/// series derivadas, con el horizonte del PosicionSolar del programa.
+/// localidad elegida; si los hay, pone la superficie, el período y la presión de ahora. Después deja al día
+/// las series derivadas, con el horizonte del PosicionSolar del programa.
 ResultadoCarga PrepararDatos(Programa &programa, const Seleccion &seleccion);
 
 /// Altitud [m] que fija la presión: la del usuario y, si no, el tercer dato del fichero cargado; fuera de

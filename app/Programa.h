@@ -14,8 +14,8 @@ class LeerMet;
 class PosicionSolar;
 class Psicro;
 
-/// Cómo se crea cada motor. Una función vacía, o que se queda sin memoria, deja nulo el puntero de ese motor y
-/// la construcción sigue.
+/// Cómo se crea cada motor. Una función vacía, o que se queda sin memoria, deja nulo el puntero de ese motor
+/// y la construcción sigue.
 struct FabricaMotores {
   std::function<std::shared_ptr<DiasExtremos>()> diasExtremos;
   std::function<std::shared_ptr<PosicionSolar>()> posicionSolar;
@@ -26,8 +26,8 @@ struct FabricaMotores {
   [[nodiscard]] static FabricaMotores DeLaAplicacion();
 };
 
-/// Los motores de una ventana de trabajo, de nombre "Programas". Las copias comparten los motores y el estado de
-/// carga; con la última copia mueren también los motores, en el orden en que se crearon.
+/// Los motores de una ventana de trabajo, de nombre "Programas". Las copias comparten los motores y el estado
+/// de carga; con la última copia mueren también los motores, en el orden en que se crearon.
 class Programa : public ObjetoBase {
 public:
   Programa();

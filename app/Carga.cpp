@@ -1,0 +1,121 @@
+#include "app/Carga.h"
+
+#include "app/Programa.h"
+#include "app/Seleccion.h"
+#include "core/Mensajes.h"
+#include "core/Rutas.h"
+#include "localidades/Ciudad.h"
+#include "meteo/Leermet.h"
+#include "psicro/Psicrometrico.h"
+#include "solar/Posicionsolar.h"
+
+#include <array>
+#include <cmath>
+
+namespace tesmo {
+
+namespace {
+
+/// Parámetro de la carta psicrométrica que guarda su presión [Pa].
+constexpr int PARAMETRO_PRESION = 15;
+/// Altitudes [m] que se creen; fuera de ellas se está al nivel del mar.
+constexpr float ALTITUD_MINIMA = -500.0F;
+constexpr float ALTITUD_MAXIMA = 9000.0F;
+
+struct Casilla {
+  const char *rotulo; ///< clave del valor y texto del mensaje
+  const std::string &texto;
+};
+
+std::array<Casilla, 3> Casillas(const Seleccion::Superficie &superficie) {
+  return {{{"Inclinación", superficie.inclinacion},
+           {"Orientación", superficie.orientacion},
+           {"Albedo", superficie.albedo}}};
+}
+
+/// Se mira el texto, antes de cargar nada; la primera casilla vacía se dice.
+bool HayCasillaVacia(const Seleccion::Superficie &superficie) {
+  for (const Casilla &casilla : Casillas(superficie)) {
+    if (!casilla.texto.empty()) continue;
+    DameMensajes().Mensaje(MENSAJE_CASILLA_VACIA, casilla.rotulo);
+    return true;
+  }
+  return false;
+}
+
+ResultadoCarga FicheroNoAbierto(Programa &programa, const std::string &nombre) {
+  programa.PonLocalidadCargada({});
+  DameMensajes().Mensaje(MENSAJE_FICHERO_METEO, nombre);
+  return ResultadoCarga::FicheroNoAbierto;
+}
+
+ResultadoCarga SinLocalidad() {
+  DameMensajes().Mensaje(MENSAJE_FICHERO_METEO, SIN_LOCALIDAD);
+  return ResultadoCarga::SinLocalidad;
+}
+
+/// Superficie, período y presión de la selección, con los datos ya cargados.
+void Aplicar(Programa &programa, const Seleccion &seleccion) {
+  LeerMet &meteo = *programa.DameLeerMet();
+  for (const Casilla &casilla : Casillas(seleccion.DameSuperficie()))
+    meteo.PonTexto(casilla.rotulo, casilla.texto);
+  const auto &[inicio, fin] = seleccion.DamePeriodo();
+  meteo.PonPeriodo(inicio.mes, inicio.dia, inicio.hora, fin.mes, fin.dia, fin.hora);
+  if (programa.DamePsicro() != nullptr) programa.DamePsicro()->ponAltitud(AltitudEnUso(programa, seleccion));
+}
+
+ResultadoCarga Leer(Programa &programa, const Seleccion &seleccion, const std::string &ruta,
+                    const std::string &nombre) {
+  LeerMet *meteo = programa.DameLeerMet();
+  if (meteo == nullptr || !meteo->LeerFichero(ruta)) return FicheroNoAbierto(programa, nombre);
+  programa.PonLocalidadCargada(nombre);
+  meteo->PonTexto("Localidad", nombre);
+  meteo->PonTexto("Provincia", seleccion.DameProvincia());
+  Aplicar(programa, seleccion);
+  return ResultadoCarga::Cargada;
+}
+
+} // namespace
+
+ResultadoCarga CargarLocalidad(Programa &programa, const Seleccion &seleccion) {
+  if (!seleccion.HayLocalidad()) return SinLocalidad();
+  if (HayCasillaVacia(seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
+  const std::string &localidad = seleccion.DameLocalidad();
+  BaseDeLocalidades &base = *programa.DameLocalidades();
+  base.PonTexto("Ciudad", localidad);
+  // Se pregunta por la localidad y no por la que esté en curso: la base es de todas las ventanas.
+  const std::string fichero = base.DameTextoDe(localidad, "Fichero");
+  if (fichero.empty()) return FicheroNoAbierto(programa, localidad);
+  return Leer(programa, seleccion, DameConfiguracion().RutaMeteo(fichero), localidad);
+}
+
+ResultadoCarga CargarFichero(Programa &programa, const Seleccion &seleccion, const std::string &ruta,
+                             const std::string &nombre) {
+  if (HayCasillaVacia(seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
+  return Leer(programa, seleccion, ruta, nombre);
+}
+
+ResultadoCarga PrepararDatos(Programa &programa, const Seleccion &seleccion) {
+  if (!seleccion.HayLocalidad()) return SinLocalidad();
+  if (programa.DameLocalidadCargada() != seleccion.DameLocalidad()) {
+    const ResultadoCarga resultado = CargarLocalidad(programa, seleccion);
+    if (resultado != ResultadoCarga::Cargada) return resultado;
+  } else if (HayCasillaVacia(seleccion.DameSuperficie())) {
+    return ResultadoCarga::CasillaVacia;
+  } else {
+    Aplicar(programa, seleccion);
+  }
+  if (programa.DamePsicro() != nullptr && programa.DamePosicionSolar() != nullptr)
+    programa.DameLeerMet()->AsegurarDerivadas(programa.DamePsicro()->dameParametro(PARAMETRO_PRESION),
+                                              *programa.DamePosicionSolar());
+  return ResultadoCarga::Cargada;
+}
+
+float AltitudEnUso(const Programa &programa, const Seleccion &seleccion) {
+  const LeerMet *meteo = programa.DameLeerMet();
+  const float delFichero = meteo != nullptr && programa.HayDatos() ? meteo->TercerDato() : 0.0F;
+  const float altitud = seleccion.DameAltitudUsuario().value_or(delFichero);
+  return std::isfinite(altitud) && altitud >= ALTITUD_MINIMA && altitud <= ALTITUD_MAXIMA ? altitud : 0.0F;
+}
+
+} // namespace tesmo
