@@ -1,25 +1,16 @@
 #include "localidades/Ciudad.h"
 
-#include "core/Mensajes.h"
 #include "core/Rutas.h"
+#include "tests/comun/Apoyos.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 namespace tesmo {
 namespace {
 
 namespace fs = std::filesystem;
-
-struct PresentadorAnotado : PresentadorMensajes {
-  std::vector<std::string> textos, titulos;
-  void Presentar(const std::string &texto, const std::string &titulo, Icono) override {
-    textos.push_back(texto);
-    titulos.push_back(titulo);
-  }
-};
 
 std::string Linea(const std::string &nombre, const std::string &provincia) {
   return nombre + ",Corta," + provincia + ",Cuarto,Ref," + nombre + ".met,36.84,-2.39,-15,21,0\n";
@@ -28,36 +19,29 @@ std::string Linea(const std::string &nombre, const std::string &provincia) {
 class BaseDeDatosDeLocalidades : public ::testing::Test {
 protected:
   void SetUp() override {
-    std::string plantilla = (fs::temp_directory_path() / "localidadesXXXXXX").string();
-    ASSERT_NE(mkdtemp(plantilla.data()), nullptr);
-    raiz_ = plantilla;
-    fs::create_directory(raiz_ / "Meteo");
-    anterior_ = DameMensajes().PonPresentador(&presentador_);
     PonAvisoLocalidades([this](const std::string &aviso) { avisos_.push_back(aviso); });
     LiberarBaseDeLocalidades();
+    raiz_.Escribir("config.ini", "Directorios\nMET = Meteo\\\n");
   }
   void TearDown() override {
     LiberarBaseDeLocalidades();
     PonAvisoLocalidades({});
-    DameMensajes().PonPresentador(anterior_);
     LiberarConfiguracion();
     fs::current_path(directorio_);
-    fs::remove_all(raiz_);
   }
   /// Base cuyo directorio meteorológico, Meteo, guarda @p contenido como "LocalidadesCC".
   BaseDeLocalidades &Con(const std::string &contenido) {
-    std::ofstream(raiz_ / "Meteo" / "LocalidadesCC", std::ios::binary) << contenido;
-    return SinFichero();
+    raiz_.Escribir("Meteo/LocalidadesCC", contenido);
+    return Abrir();
   }
-  BaseDeLocalidades &SinFichero() {
-    std::ofstream(raiz_ / "config.ini") << "Directorios\nMET = Meteo\\\n";
-    IniciarConfiguracion(raiz_.string());
+  BaseDeLocalidades &Abrir() {
+    IniciarConfiguracion(raiz_.Ruta().string());
     return DameBaseDeLocalidades();
   }
 
-  fs::path raiz_, directorio_ = fs::current_path();
-  PresentadorAnotado presentador_;
-  PresentadorMensajes *anterior_ = nullptr;
+  prueba::DirectorioTemporal raiz_;
+  fs::path directorio_ = fs::current_path();
+  prueba::MensajesApuntados mensajes_;
   std::vector<std::string> avisos_;
 };
 
@@ -66,7 +50,7 @@ TEST_F(BaseDeDatosDeLocalidades, EmpiezaSinLocalidadEnCurso) {
   EXPECT_TRUE(base.Cargada());
   EXPECT_EQ(base.DameTexto("Ciudad"), "Ninguno");
   EXPECT_EQ(base.DameTexto("Latitud"), "");
-  EXPECT_TRUE(presentador_.textos.empty());
+  EXPECT_TRUE(mensajes_.apuntes.empty());
 }
 
 TEST_F(BaseDeDatosDeLocalidades, AtributosDeLaLocalidadEnCurso) {
@@ -93,7 +77,7 @@ TEST_F(BaseDeDatosDeLocalidades, ClavesDesconocidasIgnoradas) {
   base.ListaDe("Comarcas", lista);
   base.ListaDe("Comarcas", "Cádiz", lista);
   EXPECT_TRUE(lista.empty());
-  EXPECT_TRUE(presentador_.textos.empty());
+  EXPECT_TRUE(mensajes_.apuntes.empty());
 }
 
 TEST_F(BaseDeDatosDeLocalidades, AtributoDeLocalidadNombradaSinCambiarLaEnCurso) {
@@ -140,12 +124,12 @@ TEST_F(BaseDeDatosDeLocalidades, ElPrimerRegistroDeUnNombreGana) {
 
 // El mensaje dice «Meteorológico» y no la ruta. Se conserva.
 TEST_F(BaseDeDatosDeLocalidades, FicheroAusenteAvisaYDejaLaBaseVacia) {
-  const BaseDeLocalidades &base = SinFichero();
+  const BaseDeLocalidades &base = Abrir();
   EXPECT_FALSE(base.Cargada());
   EXPECT_TRUE(base.Registros().empty());
-  ASSERT_EQ(presentador_.textos.size(), 1U);
-  EXPECT_EQ(presentador_.textos[0], "No se puede abrir el fichero: Meteorológico.\n");
-  EXPECT_EQ(presentador_.titulos[0], "Información");
+  ASSERT_EQ(mensajes_.apuntes.size(), 1U);
+  EXPECT_EQ(mensajes_.apuntes[0].texto, "No se puede abrir el fichero: Meteorológico.\n");
+  EXPECT_EQ(mensajes_.apuntes[0].titulo, "Información");
   std::vector<std::string> lista;
   base.ListaDe("Provincias", lista);
   EXPECT_TRUE(lista.empty());
@@ -153,31 +137,37 @@ TEST_F(BaseDeDatosDeLocalidades, FicheroAusenteAvisaYDejaLaBaseVacia) {
 }
 
 TEST_F(BaseDeDatosDeLocalidades, DirectorioEnLugarDeFicheroNoSeAbre) {
-  fs::create_directory(raiz_ / "Meteo" / "LocalidadesCC");
-  EXPECT_FALSE(SinFichero().Cargada());
-  EXPECT_EQ(presentador_.textos.size(), 1U);
+  fs::create_directories(raiz_ / "Meteo/LocalidadesCC");
+  EXPECT_FALSE(Abrir().Cargada());
+  EXPECT_EQ(mensajes_.apuntes.size(), 1U);
+}
+
+TEST_F(BaseDeDatosDeLocalidades, FicheroSinPermisoDeLectura) {
+  const std::string ruta = raiz_.Escribir("Meteo/LocalidadesCC", "1\n" + Linea("Rota", "Cádiz"));
+  fs::permissions(raiz_.Ruta(), fs::perms::all);
+  fs::permissions(ruta, fs::perms::none);
+  EXPECT_TRUE(prueba::SinPrivilegios([&] { return !Abrir().Cargada() && mensajes_.apuntes.size() == 1; }));
 }
 
 TEST_F(BaseDeDatosDeLocalidades, DirectorioMeteorologicoAusente) {
-  fs::remove_all(raiz_ / "Meteo");
-  EXPECT_FALSE(SinFichero().Cargada());
-  EXPECT_EQ(presentador_.textos.size(), 1U);
+  EXPECT_FALSE(Abrir().Cargada());
+  EXPECT_EQ(mensajes_.apuntes.size(), 1U);
 }
 
 TEST_F(BaseDeDatosDeLocalidades, NombreDelFicheroSinDistinguirMayusculas) {
-  std::ofstream(raiz_ / "Meteo" / "LOCALIDADESCC") << "1\n" << Linea("Rota", "Cádiz");
-  EXPECT_EQ(SinFichero().Registros().size(), 1U);
+  raiz_.Escribir("Meteo/LOCALIDADESCC", "1\n" + Linea("Rota", "Cádiz"));
+  EXPECT_EQ(Abrir().Registros().size(), 1U);
 }
 
 TEST_F(BaseDeDatosDeLocalidades, FicheroVacioEsUnaBaseVaciaSinMensajes) {
   EXPECT_TRUE(Con("").Cargada());
-  EXPECT_TRUE(presentador_.textos.empty());
+  EXPECT_TRUE(mensajes_.apuntes.empty());
   EXPECT_TRUE(avisos_.empty());
 }
 
 TEST_F(BaseDeDatosDeLocalidades, LosDefectosVanAlDestinoDeAvisosYNoAUnaCaja) {
   static_cast<void>(Con("1\nRota,Rota,Cádiz,x,y,rota.met,sur,0,0,0,0\n"));
-  EXPECT_TRUE(presentador_.textos.empty());
+  EXPECT_TRUE(mensajes_.apuntes.empty());
   ASSERT_EQ(avisos_.size(), 1U);
   EXPECT_EQ(avisos_[0], "LocalidadesCC: línea 2: campo 7: \"sur\" no es un número; se toma 0");
 }
@@ -185,7 +175,7 @@ TEST_F(BaseDeDatosDeLocalidades, LosDefectosVanAlDestinoDeAvisosYNoAUnaCaja) {
 TEST_F(BaseDeDatosDeLocalidades, UnaSolaBaseLeidaUnaSolaVez) {
   BaseDeLocalidades &base = Con("1\n" + Linea("Rota", "Cádiz"));
   base.PonTexto("Ciudad", "Rota");
-  std::ofstream(raiz_ / "Meteo" / "LocalidadesCC") << "0\n";
+  raiz_.Escribir("Meteo/LocalidadesCC", "0\n");
   EXPECT_EQ(&DameBaseDeLocalidades(), &base);
   EXPECT_EQ(DameBaseDeLocalidades().DameTexto("Ciudad"), "Rota");
 }
