@@ -143,6 +143,16 @@ CampoReal Reconocer(const char *p, const char *final) {
   return {fin, fin != cuerpo && (hexadecimal || !soloPunto), hexadecimal};
 }
 
+/// El exponente escrito entre @p p, tras su letra, y @p fin; 0 si no tiene cifras.
+std::int64_t LeerExponente(const char *p, const char *fin) {
+  constexpr std::int64_t TOPE = 100'000'000'000'000'000; // más que las cifras que caben en la memoria
+  const bool negativo = p != fin && *p == '-';
+  if (p != fin && (*p == '+' || *p == '-')) ++p;
+  std::int64_t exponente = 0;
+  for (; p != fin; ++p) exponente = std::min(TOPE, exponente * 10 + (*p - '0'));
+  return negativo ? -exponente : exponente;
+}
+
 /// Desborda o se queda corto: lo decide el orden de magnitud de la primera cifra que no es cero.
 bool EsEnorme(const char *p, const char *fin) {
   while (*p == '0') ++p;
@@ -154,12 +164,7 @@ bool EsEnorme(const char *p, const char *fin) {
   while (p != fin && Minuscula(*p) != 'e') ++p;
   if (p == fin) return orden > 0;
   ++p;
-  const bool negativo = *p == '-';
-  if (*p == '+' || *p == '-') ++p;
-  constexpr std::int64_t TOPE = std::int64_t{1} << 60; // más que cualquier número de cifras en memoria
-  std::int64_t exponente = 0;
-  for (; p != fin; ++p) exponente = std::min(TOPE, exponente * 10 + (*p - '0'));
-  return orden + (negativo ? -exponente : exponente) > 0;
+  return orden + LeerExponente(p, fin) > 0;
 }
 
 float ConvertirDecimal(const char *inicio, const char *fin) {
@@ -213,12 +218,7 @@ float ConvertirHexadecimal(const char *p, const char *fin) {
   }
   if (p == fin) return RedondearBinario(mantisa);
   ++p;
-  const bool negativo = p != fin && *p == '-';
-  if (p != fin && (*p == '+' || *p == '-')) ++p;
-  constexpr std::int64_t TOPE = std::int64_t{1} << 60;
-  std::int64_t exponente = 0;
-  for (; p != fin; ++p) exponente = std::min(TOPE, exponente * 10 + (*p - '0'));
-  mantisa.exponente += negativo ? -exponente : exponente;
+  mantisa.exponente += LeerExponente(p, fin);
   return RedondearBinario(mantisa);
 }
 
