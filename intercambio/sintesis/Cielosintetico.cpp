@@ -1,0 +1,51 @@
+#include "intercambio/sintesis/Cielosintetico.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tesmo {
+
+namespace {
+
+constexpr double CERO_CELSIUS = 273.15;
+constexpr double CENTESIMAS = 100.0;
+constexpr double CUBIERTO = 10.0;
+
+/// Nubosidad en el centro de la hora @p i: recta entre los mediodías.
+double NubosidadHoraria(const SerieDias &nubosidad, std::size_t i) {
+  const std::size_t hoy = i / HORAS_POR_DIA;
+  const double desdeMediodia = CentroDeHora(i % HORAS_POR_DIA) - 12.0;
+  const std::size_t otro = desdeMediodia < 0.0 ? (hoy + DIAS - 1) % DIAS : (hoy + 1) % DIAS;
+  return nubosidad[hoy] + (nubosidad[otro] - nubosidad[hoy]) * std::fabs(desdeMediodia) / 24.0;
+}
+
+} // namespace
+
+double NubosidadDeClaridad(double k) {
+  constexpr double ANGSTROM_A = 0.25;
+  constexpr double ANGSTROM_B = 0.50;
+  return CUBIERTO * std::clamp(1.0 - (k - ANGSTROM_A) / ANGSTROM_B, 0.0, 1.0);
+}
+
+double EmisividadDelCielo(double rocio, double nubosidad) {
+  const double r = rocio / 100.0;
+  const double despejado = 0.711 + 0.56 * r + 0.73 * r * r;
+  const double n = nubosidad;
+  const double nubes = 1.0 + 0.0224 * n - 0.0035 * n * n + 0.00028 * n * n * n;
+  return std::min(1.0, despejado * nubes);
+}
+
+SerieHoras GenerarTemperaturaDeCielo(const SerieHoras &temperaturas, const SerieHoras &rocio,
+                                     const SerieDias &claridad) {
+  SerieDias nubosidad(DIAS);
+  std::transform(claridad.begin(), claridad.end(), nubosidad.begin(), NubosidadDeClaridad);
+  SerieHoras cielo(HORAS);
+  for (std::size_t i = 0; i < HORAS; ++i) {
+    const double emisividad = EmisividadDelCielo(rocio[i], NubosidadHoraria(nubosidad, i));
+    const double kelvin = std::sqrt(std::sqrt(emisividad)) * (temperaturas[i] + CERO_CELSIUS);
+    cielo[i] = std::round((kelvin - CERO_CELSIUS) * CENTESIMAS) / CENTESIMAS;
+  }
+  return cielo;
+}
+
+} // namespace tesmo
