@@ -17,7 +17,7 @@ enum class FalloSintesis {
 /// Lo que cuenta una síntesis a quien la pide.
 struct ResultadoSintesis {
   FalloSintesis fallo = FalloSintesis::Ninguno;
-  std::vector<std::string> errores;  ///< en español y sin fin de línea; los de contenido, "fichero:línea: …"
+  std::vector<std::string> errores; ///< en español y sin fin de línea; los de contenido, "fichero:línea: …"
   std::vector<std::string> avisos;   ///< lo que no impidió terminar
   std::vector<std::string> ficheros; ///< rutas escritas, en el orden en que se escribieron
   std::size_t localidades = 0;       ///< localidades leídas
