@@ -50,7 +50,8 @@ TEST_F(Solares, SinHorizonteLaDifusaEsLaMitadYLaReflejadaLaMitadDelAlbedo) {
       EXPECT_EQ(Derivar(MEDIODIA_DE_JUNIO, {inclinacion, orientacion, 0.25F}), 0.5F);
       EXPECT_FLOAT_EQ(Valor(SerieDerivada::Difusa), 60.0F);
       EXPECT_FLOAT_EQ(Valor(SerieDerivada::Reflejada), 0.5F * 820.0F * 0.25F);
-      EXPECT_FLOAT_EQ(Valor(SerieDerivada::Global), Valor(SerieDerivada::Directa) + Valor(SerieDerivada::Difusa) +
+      EXPECT_FLOAT_EQ(Valor(SerieDerivada::Global), Valor(SerieDerivada::Directa) +
+                                                        Valor(SerieDerivada::Difusa) +
                                                         Valor(SerieDerivada::Reflejada));
     }
   }

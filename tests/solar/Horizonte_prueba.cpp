@@ -1,35 +1,23 @@
-#include "core/Ficheros.h"
 #include "solar/Lectornumeros.h"
 #include "solar/Posicionsolar.h"
+#include "tests/comun/Apoyos.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
-#include <cstdlib>
-#include <filesystem>
 #include <limits>
 #include <random>
 
 namespace tesmo {
 namespace {
 
-namespace fs = std::filesystem;
-
 class Horizonte : public ::testing::Test {
 protected:
-  void SetUp() override {
-    std::string plantilla = (fs::temp_directory_path() / "horizonteXXXXXX").string();
-    ASSERT_NE(mkdtemp(plantilla.data()), nullptr);
-    directorio_ = plantilla;
-  }
-  void TearDown() override { fs::remove_all(directorio_); }
-
   [[nodiscard]] std::string Ruta(const char *nombre) const { return (directorio_ / nombre).string(); }
   /// Lee @p contenido desde un fichero, como lo haría el programa.
-  bool Leer(std::string_view contenido) {
-    const std::string ruta = Ruta("perfil.txt");
-    EXPECT_TRUE(EscribirFicheroEntero(ruta, contenido));
-    return sol_.LeerHorizonte(ruta);
+  bool Leer(const std::string &contenido) {
+    return sol_.LeerHorizonte(directorio_.Escribir("perfil.txt", contenido));
   }
   void PonPrevio() {
     sol_.PonTamanoHorizonte(1.0F);
@@ -40,7 +28,7 @@ protected:
     EXPECT_EQ(sol_.HorizonteY(), std::vector<float>{6.0F});
   }
 
-  fs::path directorio_;
+  prueba::DirectorioTemporal directorio_;
   PosicionSolar sol_{36.84F, 6, 21, 10.0F};
 };
 
@@ -131,7 +119,7 @@ TEST_F(Horizonte, SinComaLosNumerosSeDescolocan) {
 TEST_F(Horizonte, LoQueNoEsUnPerfilSeRechazaYSeConservaElQueHabia) {
   PonPrevio();
   EXPECT_FALSE(sol_.LeerHorizonte(Ruta("no-existe.txt")));
-  EXPECT_FALSE(sol_.LeerHorizonte(directorio_.string()));
+  EXPECT_FALSE(sol_.LeerHorizonte(directorio_.Ruta().string()));
   for (const char *texto : {"", "  \n", "hola\n", "-1\n1, 2\n", "100001\n1, 2\n", "99999999999999\n1, 2\n"}) {
     EXPECT_FALSE(Leer(texto)) << texto;
   }
@@ -140,6 +128,14 @@ TEST_F(Horizonte, LoQueNoEsUnPerfilSeRechazaYSeConservaElQueHabia) {
   EXPECT_TRUE(sol_.HorizonteX().empty());
   ASSERT_TRUE(Leer("100000\n1, 2\n"));
   EXPECT_EQ(sol_.Horizonte().Tamano(), PerfilHorizonte::PUNTOS_MAXIMOS);
+}
+
+TEST_F(Horizonte, UnFicheroSinPermisoDeLecturaConservaElPerfil) {
+  PonPrevio();
+  const std::string ruta = directorio_.Escribir("cerrado.txt", "1\n1, 2\n");
+  std::filesystem::permissions(ruta, std::filesystem::perms::none);
+  EXPECT_TRUE(
+      prueba::SinPrivilegios([&] { return !sol_.LeerHorizonte(ruta) && sol_.HorizonteX().size() == 1; }));
 }
 
 TEST_F(Horizonte, AlGuardarSoloVanLosPuntosPares) {
@@ -159,7 +155,7 @@ TEST_F(Horizonte, UnPerfilVacioSeGuardaComoCero) {
 }
 
 TEST_F(Horizonte, DondeNoSePuedeEscribirLoDice) {
-  EXPECT_FALSE(sol_.GuardarHorizonte(directorio_.string()));
+  EXPECT_FALSE(sol_.GuardarHorizonte(directorio_.Ruta().string()));
   EXPECT_FALSE(sol_.GuardarHorizonte(Ruta("no/existe.txt")));
 }
 

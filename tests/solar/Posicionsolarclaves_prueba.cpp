@@ -1,25 +1,13 @@
-#include "core/Configuracionregional.h"
-#include "core/Mensajes.h"
 #include "solar/Posicionsolar.h"
+#include "tests/comun/Apoyos.h"
 
 #include <gtest/gtest.h>
 
 namespace tesmo {
 namespace {
 
-class Apuntador : public PresentadorMensajes {
-public:
-  void Presentar(const std::string &texto, const std::string &, Icono) override { textos.push_back(texto); }
-  std::vector<std::string> textos;
-};
-
 class Claves : public ::testing::Test {
 protected:
-  void SetUp() override { anterior_ = DameMensajes().PonPresentador(&apuntador_); }
-  void TearDown() override {
-    DameMensajes().PonPresentador(anterior_);
-    Configuracionregional::PonSeparadorDecimal('.');
-  }
   [[nodiscard]] std::int32_t Estado(const char *clave) const {
     std::int32_t estado = -1;
     sol_.DameEstado(clave, estado);
@@ -32,8 +20,7 @@ protected:
   }
 
   PosicionSolar sol_{36.84F, 6, 21, 10.0F};
-  Apuntador apuntador_;
-  PresentadorMensajes *anterior_ = nullptr;
+  prueba::MensajesApuntados mensajes_;
 };
 
 TEST_F(Claves, ValoresIniciales) {
@@ -55,7 +42,7 @@ TEST_F(Claves, ValoresIniciales) {
 }
 
 TEST_F(Claves, LosTextosLlevanElSeparadorDeLaRegion) {
-  Configuracionregional::PonSeparadorDecimal(',');
+  const prueba::ConSeparador coma(',');
   EXPECT_EQ(sol_.DameTexto("Latitud"), "36,84");
 }
 
@@ -81,7 +68,7 @@ TEST_F(Claves, UnaClaveDesconocidaNoCambiaNada) {
   EXPECT_EQ(Estado("Tamaño horizonte"), -1);
   sol_.PonTexto("Longitud", "3");
   sol_.PonTexto("Es de día", "0");
-  EXPECT_TRUE(apuntador_.textos.empty());
+  EXPECT_TRUE(mensajes_.apuntes.empty());
   EXPECT_TRUE(sol_.EsDeDia());
 }
 
@@ -118,17 +105,17 @@ TEST_F(Claves, UnTextoVacioTomaElValorPorDefecto) {
     EXPECT_EQ(Real(c.clave), c.valor) << c.clave;
     EXPECT_EQ(Estado(c.clave), ENTRADA_INVALIDA) << c.clave;
   }
-  EXPECT_TRUE(apuntador_.textos.empty());
+  EXPECT_TRUE(mensajes_.apuntes.empty());
 }
 
 TEST_F(Claves, FueraDeLosLimitesAvisaYTomaElValorPorDefecto) {
   sol_.PonTexto("Latitud", "95");
-  ASSERT_EQ(apuntador_.textos.size(), 1U);
-  EXPECT_EQ(apuntador_.textos[0], "95.000000 > 89.000000 (máximo), valor por defecto: 1.000000");
+  ASSERT_EQ(mensajes_.apuntes.size(), 1U);
+  EXPECT_EQ(mensajes_.apuntes[0].texto, "95.000000 > 89.000000 (máximo), valor por defecto: 1.000000");
   EXPECT_EQ(Real("Latitud"), 1.0F);
   EXPECT_EQ(Estado("Latitud"), ENTRADA_INVALIDA);
   sol_.PonTexto("Mes", "13");
-  EXPECT_EQ(apuntador_.textos.back(), "13 > 12 (maximo), valor por defecto: 1");
+  EXPECT_EQ(mensajes_.apuntes.back().texto, "13 > 12 (maximo), valor por defecto: 1");
 }
 
 TEST_F(Claves, LosLimitesSeAdmiten) {
