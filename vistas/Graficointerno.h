@@ -1,0 +1,33 @@
+#pragma once
+
+#include "vistas/Capacursor.h"
+#include "vistas/Curva.h"
+#include "vistas/Grafico.h"
+#include "vistas/Leyenda.h"
+
+#include <vector>
+
+namespace tesmo {
+
+/// Una serie con la curva que la pinta.
+struct SerieTrazada {
+  SerieGrafico serie;
+  CurvaDiezmada *curva = nullptr; ///< de QCustomPlot
+};
+
+/// Lo que Grafico esconde para que la biblioteca de trazado no llegue a sus cabeceras.
+struct Grafico::Interno {
+  QCustomPlot *trazo = nullptr;
+  CapaCursor *capa = nullptr;
+  std::shared_ptr<const EscalaX> escala;
+  std::vector<SerieTrazada> series;
+  QString aviso;
+
+  [[nodiscard]] QCPAxis *Eje(LadoEje lado) const {
+    return lado == LadoEje::Izquierdo ? trazo->yAxis : trazo->yAxis2;
+  }
+  [[nodiscard]] SerieTrazada &En(int indice) { return series.at(static_cast<std::size_t>(indice)); }
+  [[nodiscard]] const SerieTrazada &En(int indice) const { return series.at(static_cast<std::size_t>(indice)); }
+};
+
+} // namespace tesmo

@@ -1,0 +1,176 @@
+#include "core/Mensajes.h"
+#include "vistas/Encuadre.h"
+#include "vistas/Graficointerno.h"
+#include "vistas/Lectura.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QMenu>
+
+#include <cmath>
+#include <limits>
+
+namespace tesmo {
+
+namespace {
+
+/// Aire a cada lado de los datos, y lo más que se puede ampliar, en unidades del eje horizontal.
+constexpr double AIRE_X = 0.5;
+constexpr double TRAMO_MINIMO = 3.0;
+/// Parte del tramo que mueve una flecha, y lo que amplía una tecla o un paso de rueda.
+constexpr double PASO_DE_FLECHA = 0.1;
+constexpr double FACTOR_DE_AMPLIACION = 0.8;
+
+} // namespace
+
+void Grafico::ConectarRaton() {
+  QCustomPlot &trazo = *interno_->trazo;
+  trazo.setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
+  trazo.axisRect()->setRangeDragAxes({trazo.xAxis}, {trazo.yAxis, trazo.yAxis2});
+  trazo.axisRect()->setRangeZoomFactor(FACTOR_DE_AMPLIACION);
+  trazo.setContextMenuPolicy(Qt::CustomContextMenu);
+  trazo.installEventFilter(this);
+  connect(&trazo, &QWidget::customContextMenuRequested, this, &Grafico::EnsenarMenu);
+  connect(&trazo, &QCustomPlot::mouseDoubleClick, this, &Grafico::VerTodo);
+  connect(&trazo, &QCustomPlot::mouseMove, this,
+          [this](const QMouseEvent *suceso) { MoverCursor(suceso->position().toPoint()); });
+  connect(&trazo, &QCustomPlot::mouseWheel, this, [this](const QWheelEvent *suceso) {
+    ElegirEjesDeRueda(suceso->position(), suceso->modifiers().testFlag(Qt::ControlModifier));
+  });
+  connect(trazo.xAxis, qOverload<const QCPRange &>(&QCPAxis::rangeChanged), this, &Grafico::LimitarTramo);
+}
+
+void Grafico::LimitarTramo() {
+  if (!interno_->escala) return;
+  auto [desde, hasta] = Tramo();
+  AjustarTramo(desde, hasta, interno_->escala->Primero() - AIRE_X, interno_->escala->Ultimo() + AIRE_X,
+               TRAMO_MINIMO);
+  const QSignalBlocker sinAvisos(interno_->trazo->xAxis);
+  interno_->trazo->xAxis->setRange(desde, hasta);
+}
+
+/// Sobre los datos la rueda amplía el tiempo; con Control, o sobre un eje de valores, amplía los valores.
+void Grafico::ElegirEjesDeRueda(const QPointF &donde, bool valores) {
+  QCustomPlot &trazo = *interno_->trazo;
+  const QRect marco = trazo.axisRect()->rect();
+  QList<QCPAxis *> verticales;
+  if (valores || donde.x() < marco.left()) verticales.append(trazo.yAxis);
+  if (valores || donde.x() > marco.right()) verticales.append(trazo.yAxis2);
+  trazo.axisRect()->setRangeZoomAxes(valores ? QList<QCPAxis *>() : QList<QCPAxis *>{trazo.xAxis}, verticales);
+}
+
+void Grafico::MoverCursor(const QPoint &donde) {
+  const QCustomPlot &trazo = *interno_->trazo;
+  const QRect marco = trazo.axisRect()->rect();
+  if (!interno_->escala || !marco.contains(donde) || Leyenda().isEmpty()) {
+    interno_->capa->Ocultar();
+    return;
+  }
+  const auto [desde, hasta] = Tramo();
+  const Encuadre encuadre{desde, hasta, static_cast<double>(marco.left()), static_cast<double>(marco.right() + 1)};
+  const double x = interno_->escala->Ajustar(encuadre.AValor(donde.x()));
+  std::vector<LineaCursor> lineas;
+  for (const auto &[serie, curva] : interno_->series) {
+    const auto punto = curva->data()->findBegin(x, false);
+    if (!serie.visible || punto == curva->data()->constEnd()) continue;
+    const std::string linea =
+        LineaDeLectura(serie.rotulo.toStdString(), punto->value, serie.patron.toStdString());
+    const double y = std::isfinite(punto->value) ? interno_->Eje(serie.lado)->coordToPixel(punto->value)
+                                                 : std::numeric_limits<double>::quiet_NaN();
+    lineas.push_back({QString::fromStdString(linea), serie.color, y});
+  }
+  interno_->capa->Ensenar(marco, QPointF(encuadre.APixel(x), donde.y()),
+                          QString::fromStdString(interno_->escala->Nombrar(x)), std::move(lineas));
+}
+
+QString Grafico::Lectura() const { return interno_->capa->Texto(); }
+
+bool Grafico::eventFilter(QObject *objeto, QEvent *suceso) {
+  if (objeto == interno_->trazo && suceso->type() == QEvent::Leave) interno_->capa->Ocultar();
+  return QWidget::eventFilter(objeto, suceso);
+}
+
+void Grafico::resizeEvent(QResizeEvent *suceso) {
+  QWidget::resizeEvent(suceso);
+  interno_->capa->setGeometry(rect());
+  interno_->capa->raise();
+  RehacerLeyenda();
+  interno_->trazo->replot(QCustomPlot::rpQueuedReplot);
+  interno_->capa->PonAviso(rect(), Leyenda().isEmpty() ? interno_->aviso : QString());
+}
+
+void Grafico::keyPressEvent(QKeyEvent *suceso) {
+  const auto [desde, hasta] = Tramo();
+  const double paso = PASO_DE_FLECHA * (hasta - desde);
+  const double centro = 0.5 * (desde + hasta);
+  const auto ampliar = [&](double factor) {
+    const double medio = 0.5 * (hasta - desde) * factor;
+    PonTramo(centro - medio, centro + medio);
+  };
+  switch (suceso->key()) {
+  case Qt::Key_Left: PonTramo(desde - paso, hasta - paso); break;
+  case Qt::Key_Right: PonTramo(desde + paso, hasta + paso); break;
+  case Qt::Key_Plus: ampliar(FACTOR_DE_AMPLIACION); break;
+  case Qt::Key_Minus: ampliar(1.0 / FACTOR_DE_AMPLIACION); break;
+  case Qt::Key_Home: VerTodo(); break;
+  default: QWidget::keyPressEvent(suceso);
+  }
+}
+
+int Grafico::SerieEnLeyenda(const QPoint &donde) const {
+  const QCPLegend &leyenda = *interno_->trazo->legend;
+  for (int i = 0; i < leyenda.itemCount(); ++i) {
+    const auto *entrada = dynamic_cast<EntradaLeyenda *>(leyenda.item(i));
+    if (entrada && entrada->outerRect().contains(donde)) return entrada->Indice();
+  }
+  return -1;
+}
+
+void Grafico::EnsenarMenu(const QPoint &donde) {
+  auto *menu = new QMenu(this);
+  menu->setObjectName(QStringLiteral("menuGrafico"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const int indice = SerieEnLeyenda(donde);
+  if (indice < 0) AnadirOrdenes(*menu);
+  emit menuPreparado(menu, indice);
+  menu->popup(interno_->trazo->mapToGlobal(donde));
+}
+
+void Grafico::AnadirOrdenes(QMenu &menu) {
+  const auto anadir = [&menu](const QString &nombre, const QString &texto) {
+    QAction *accion = menu.addAction(texto);
+    accion->setObjectName(nombre);
+    return accion;
+  };
+  connect(anadir(QStringLiteral("acVerTodo"), tr("&Ver el período entero")), &QAction::triggered, this,
+          &Grafico::VerTodo);
+  menu.addSeparator();
+  for (const char *extension : {"png", "svg", "pdf"}) {
+    const QString mayusculas = QString::fromLatin1(extension).toUpper();
+    QAction *accion = anadir(QStringLiteral("acGuardar") + mayusculas, tr("Guardar imagen como &%1…").arg(mayusculas));
+    connect(accion, &QAction::triggered, this,
+            [this, extension] { PedirGuardarImagen(QString::fromLatin1(extension)); });
+  }
+  connect(anadir(QStringLiteral("acCopiarImagen"), tr("&Copiar imagen")), &QAction::triggered, this,
+          &Grafico::CopiarImagen);
+  QAction *datos = anadir(QStringLiteral("acCopiarDatos"), tr("Copiar &datos a la vista"));
+  datos->setEnabled(!Leyenda().isEmpty());
+  connect(datos, &QAction::triggered, this, &Grafico::CopiarDatos);
+}
+
+void Grafico::PedirGuardarImagen(const QString &extension) {
+  auto *dialogo = new QFileDialog(this, tr("Guardar imagen"));
+  dialogo->setObjectName(QStringLiteral("sdGuardarImagen"));
+  dialogo->setAttribute(Qt::WA_DeleteOnClose);
+  dialogo->setOption(QFileDialog::DontUseNativeDialog);
+  dialogo->setAcceptMode(QFileDialog::AcceptSave);
+  dialogo->setDefaultSuffix(extension);
+  dialogo->setNameFilter(tr("Imagen %1 (*.%2)").arg(extension.toUpper(), extension));
+  connect(dialogo, &QFileDialog::fileSelected, this, [this](const QString &ruta) {
+    if (!GuardarImagen(ruta)) DameMensajes().Mensaje(MENSAJE_FICHERO_RESULTADO, ruta.toStdString());
+  });
+  dialogo->open();
+}
+
+} // namespace tesmo

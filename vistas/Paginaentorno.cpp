@@ -1,0 +1,135 @@
+#include "vistas/Paginaentorno.h"
+
+#include "vistas/Grafico.h"
+#include "vistas/Textoqt.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace tesmo {
+
+namespace {
+
+constexpr int LADO_MUESTRA = 12; ///< cuadrado de color de cada casilla [px]
+
+/// El borde deja ver también los colores casi blancos.
+QPixmap Muestra(const QColor &color, double densidad) {
+  QPixmap muestra(QSize(LADO_MUESTRA, LADO_MUESTRA) * densidad);
+  muestra.setDevicePixelRatio(densidad);
+  muestra.fill(color);
+  QPainter pintor(&muestra);
+  pintor.setPen(color.darker(150));
+  pintor.drawRect(0, 0, LADO_MUESTRA - 1, LADO_MUESTRA - 1);
+  return muestra;
+}
+
+QString NombreDeGrupo(GrupoMagnitud grupo) {
+  switch (grupo) {
+  case GrupoMagnitud::Basicas: return QStringLiteral("gbBasicas");
+  case GrupoMagnitud::Psicrometricas: return QStringLiteral("gbPsicrometricas");
+  default: return QStringLiteral("gbRadiacion");
+  }
+}
+
+} // namespace
+
+PaginaEntorno::PaginaEntorno(QWidget *padre) : QWidget(padre) {
+  setObjectName(QStringLiteral("tsDatosGenerales"));
+  auto *disposicion = new QHBoxLayout(this);
+  disposicion->setContentsMargins(4, 4, 4, 4);
+  disposicion->addWidget(CrearColumna());
+  graEntorno_ = new Grafico(this);
+  graEntorno_->setObjectName(QStringLiteral("graEntorno"));
+  graEntorno_->PonAviso(tr("Elija una localidad, marque las variables y pulse «Visualizar»."));
+  disposicion->addWidget(graEntorno_, 1);
+}
+
+QWidget *PaginaEntorno::CrearColumna() {
+  auto *grupos = new QWidget;
+  auto *pila = new QVBoxLayout(grupos);
+  pila->setContentsMargins(0, 0, 0, 0);
+  pila->setSpacing(2);
+  for (const GrupoMagnitud grupo :
+       {GrupoMagnitud::Basicas, GrupoMagnitud::Psicrometricas, GrupoMagnitud::Radiacion}) {
+    pila->addWidget(CrearGrupo(grupo));
+  }
+  pila->addStretch(1);
+  auto *desplazable = new QScrollArea;
+  desplazable->setFrameShape(QFrame::NoFrame);
+  desplazable->setWidgetResizable(true);
+  desplazable->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  desplazable->setWidget(grupos);
+  desplazable->setMinimumWidth(grupos->sizeHint().width() + desplazable->verticalScrollBar()->sizeHint().width());
+
+  auto *columna = new QWidget(this);
+  columna->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+  auto *disposicion = new QVBoxLayout(columna);
+  disposicion->setContentsMargins(0, 0, 0, 0);
+  disposicion->addWidget(desplazable, 1);
+  auto *botones = new QHBoxLayout;
+  QPushButton *visualizar = CrearBoton(QStringLiteral("btnSimulacion"), tr("&Visualizar"),
+                                       tr("Dibuja las variables del período elegido"));
+  QPushButton *ejes = CrearBoton(QStringLiteral("btnEjesPorUnidad"), tr("E&jes por unidad"),
+                                 tr("Reparte las variables entre los dos ejes según sus unidades"));
+  connect(visualizar, &QPushButton::clicked, this, &PaginaEntorno::visualizarPedido);
+  connect(ejes, &QPushButton::clicked, this, &PaginaEntorno::ejesPorUnidadPedidos);
+  botones->addWidget(visualizar);
+  botones->addWidget(ejes);
+  disposicion->addLayout(botones);
+  return columna;
+}
+
+QWidget *PaginaEntorno::CrearGrupo(GrupoMagnitud grupo) {
+  auto *caja = new QGroupBox(Texto(ROTULOS_DE_GRUPO.at(static_cast<std::size_t>(grupo))));
+  caja->setObjectName(NombreDeGrupo(grupo));
+  auto *pila = new QVBoxLayout(caja);
+  pila->setContentsMargins(6, 2, 6, 2);
+  pila->setSpacing(0);
+  for (std::size_t i = 0; i < NUMERO_MAGNITUDES_VISOR; ++i) {
+    if (MAGNITUDES[i].grupo == grupo) pila->addWidget(CrearCasilla(static_cast<int>(i)));
+  }
+  return caja;
+}
+
+QCheckBox *PaginaEntorno::CrearCasilla(int i) {
+  const FichaMagnitud &ficha = MAGNITUDES[static_cast<std::size_t>(i)];
+  auto *casilla = new QCheckBox(Texto(ficha.rotulo));
+  casilla->setObjectName(QStringLiteral("cb") + Texto(ficha.codigo));
+  casilla->setContextMenuPolicy(Qt::CustomContextMenu);
+  casilla->setToolTip(tr("Botón derecho: eje de la variable"));
+  connect(casilla, &QCheckBox::toggled, this, [this, i] { emit casillaCambiada(i); });
+  connect(casilla, &QWidget::customContextMenuRequested, this, [this, i, casilla](const QPoint &donde) {
+    EnsenarMenu(i, casilla->mapToGlobal(donde));
+  });
+  casillas_[static_cast<std::size_t>(i)] = casilla;
+  return casilla;
+}
+
+QPushButton *PaginaEntorno::CrearBoton(const QString &nombre, const QString &texto, const QString &ayuda) {
+  auto *boton = new QPushButton(texto);
+  boton->setObjectName(nombre);
+  boton->setToolTip(ayuda);
+  return boton;
+}
+
+void PaginaEntorno::PonColor(int i, const QColor &color) {
+  Casilla(i).setIcon(Muestra(color, devicePixelRatioF()));
+  Casilla(i).setIconSize(QSize(LADO_MUESTRA, LADO_MUESTRA));
+}
+
+void PaginaEntorno::EnsenarMenu(int i, const QPoint &donde) {
+  auto *menu = new QMenu(this);
+  menu->setObjectName(QStringLiteral("menuCasilla"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  emit menuPreparado(menu, i);
+  menu->popup(donde);
+}
+
+} // namespace tesmo

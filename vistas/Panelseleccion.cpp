@@ -1,0 +1,130 @@
+#include "vistas/Panelseleccion.h"
+
+#include "app/Seleccion.h"
+#include "vistas/Textoqt.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+namespace tesmo {
+
+namespace {
+
+constexpr int MESES_DEL_ANIO = 12;
+constexpr int MAXIMO_DIA = 31;
+/// Columnas de la rejilla: dos selectores, rótulo y tres casillas por extremo, hueco y botón.
+constexpr int COLUMNA_INICIO = 3;
+constexpr int COLUMNA_FIN = 8;
+constexpr int COLUMNA_BOTON = 13;
+constexpr int HUECO = 12;           ///< entre grupos de controles [px]
+constexpr int LETRAS_SELECTOR = 16; ///< las que se ven del nombre más largo
+
+} // namespace
+
+PanelSeleccion::PanelSeleccion(QWidget *padre) : QWidget(padre) {
+  setObjectName(QStringLiteral("panelSeleccion"));
+  auto *rejilla = new QGridLayout(this);
+  rejilla->setContentsMargins(6, 2, 6, 4);
+  rejilla->setVerticalSpacing(1);
+  cbProvincias_ = CrearSelector(*rejilla, 0, QStringLiteral("cbProvincias"), tr("&Provincia:"));
+  cbLocalidades_ = CrearSelector(*rejilla, 1, QStringLiteral("cbLocalidades"), tr("&Localidad:"));
+  rejilla->setColumnMinimumWidth(COLUMNA_INICIO - 1, HUECO);
+  inicio_ = CrearExtremo(*rejilla, COLUMNA_INICIO, tr("&Desde:"), QStringLiteral("Ini"));
+  rejilla->setColumnMinimumWidth(COLUMNA_FIN - 1, HUECO);
+  fin_ = CrearExtremo(*rejilla, COLUMNA_FIN, tr("&Hasta:"), QStringLiteral("Fin"));
+  rejilla->setColumnMinimumWidth(COLUMNA_BOTON - 1, HUECO);
+  rejilla->setColumnStretch(COLUMNA_BOTON - 1, 1);
+  btnActualizar_ = new QPushButton(tr("Ac&tualizar"), this);
+  btnActualizar_->setObjectName(QStringLiteral("btnActualizar"));
+  btnActualizar_->setToolTip(tr("Vuelve a leer la localidad y rehace el gráfico del período"));
+  rejilla->addWidget(btnActualizar_, 1, COLUMNA_BOTON);
+  connect(cbProvincias_, &QComboBox::currentIndexChanged, this, &PanelSeleccion::provinciaCambiada);
+  connect(cbLocalidades_, &QComboBox::currentIndexChanged, this, &PanelSeleccion::localidadCambiada);
+  connect(btnActualizar_, &QPushButton::clicked, this, &PanelSeleccion::actualizarPedido);
+  PonLocalidades({});
+  PonPeriodo({});
+}
+
+QComboBox *PanelSeleccion::CrearSelector(QGridLayout &rejilla, int columna, const QString &nombre,
+                                         const QString &titulo) {
+  auto *selector = new QComboBox(this);
+  selector->setObjectName(nombre);
+  selector->setMinimumContentsLength(LETRAS_SELECTOR);
+  selector->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  auto *rotulo = new QLabel(titulo, this);
+  rotulo->setBuddy(selector);
+  rejilla.addWidget(rotulo, 0, columna);
+  rejilla.addWidget(selector, 1, columna);
+  return selector;
+}
+
+PanelSeleccion::Extremo PanelSeleccion::CrearExtremo(QGridLayout &rejilla, int columna, const QString &titulo,
+                                                     const QString &sufijo) {
+  auto *rotulo = new QLabel(titulo, this);
+  rejilla.addWidget(rotulo, 1, columna);
+  const Extremo extremo{CrearCasilla(QStringLiteral("csMes") + sufijo, MESES_DEL_ANIO, tr("Mes, de 1 a 12")),
+                        CrearCasilla(QStringLiteral("csDia") + sufijo, MAXIMO_DIA, tr("Día del mes")),
+                        CrearCasilla(QStringLiteral("csHor") + sufijo, HORAS_DEL_DIA, tr("Hora del día, de 1 a 24"))};
+  rotulo->setBuddy(extremo.mes);
+  int sitio = columna + 1;
+  for (const auto &[casilla, texto] : {std::pair{extremo.mes, tr("Mes")}, std::pair{extremo.dia, tr("Día")},
+                                       std::pair{extremo.hora, tr("Hora")}}) {
+    rejilla.addWidget(new QLabel(texto, this), 0, sitio, Qt::AlignHCenter);
+    rejilla.addWidget(casilla, 1, sitio++);
+  }
+  return extremo;
+}
+
+QSpinBox *PanelSeleccion::CrearCasilla(const QString &nombre, int maximo, const QString &ayuda) {
+  auto *casilla = new QSpinBox(this);
+  casilla->setObjectName(nombre);
+  casilla->setRange(1, maximo);
+  casilla->setKeyboardTracking(false); // las reglas del período no se aplican a medio teclear
+  casilla->setToolTip(ayuda);
+  connect(casilla, &QSpinBox::valueChanged, this, &PanelSeleccion::periodoCambiado);
+  return casilla;
+}
+
+void PanelSeleccion::PonProvincias(const std::vector<std::string> &provincias) {
+  const QSignalBlocker sinAvisos(cbProvincias_);
+  cbProvincias_->clear();
+  for (const std::string &provincia : provincias) cbProvincias_->addItem(Texto(provincia));
+}
+
+void PanelSeleccion::PonLocalidades(const std::vector<std::string> &localidades) {
+  const QSignalBlocker sinAvisos(cbLocalidades_);
+  cbLocalidades_->clear();
+  cbLocalidades_->addItem(Texto(SIN_LOCALIDAD));
+  for (const std::string &localidad : localidades) cbLocalidades_->addItem(Texto(localidad));
+}
+
+std::string PanelSeleccion::Provincia() const { return cbProvincias_->currentText().toStdString(); }
+
+std::string PanelSeleccion::Localidad() const { return cbLocalidades_->currentText().toStdString(); }
+
+FechaHora PanelSeleccion::Leer(const Extremo &extremo) {
+  for (QSpinBox *casilla : {extremo.mes, extremo.dia, extremo.hora}) casilla->interpretText();
+  return {extremo.mes->value(), extremo.dia->value(), extremo.hora->value()};
+}
+
+Periodo PanelSeleccion::LeerPeriodo() const { return {Leer(inicio_), Leer(fin_)}; }
+
+void PanelSeleccion::Poner(const Extremo &extremo, const FechaHora &fecha) {
+  const QSignalBlocker sinAvisos[] = {QSignalBlocker(extremo.mes), QSignalBlocker(extremo.dia),
+                                      QSignalBlocker(extremo.hora)};
+  extremo.dia->setMaximum(DiasDelMes(fecha.mes));
+  extremo.mes->setValue(fecha.mes);
+  extremo.dia->setValue(fecha.dia);
+  extremo.hora->setValue(fecha.hora);
+}
+
+void PanelSeleccion::PonPeriodo(const Periodo &periodo) {
+  Poner(inicio_, periodo.inicio);
+  Poner(fin_, periodo.fin);
+}
+
+} // namespace tesmo
