@@ -112,7 +112,8 @@ void CapaCursor::PintarLectura(QPainter &pintor) const {
     renglon.translate(0, alto);
     const int hueco = (alto - ANCHO_MUESTRA) / 2;
     pintor.fillRect(renglon.left(), renglon.top() + hueco, ANCHO_MUESTRA, ANCHO_MUESTRA, linea.color);
-    pintor.drawText(renglon.adjusted(ANCHO_MUESTRA + MARGEN, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, linea.texto);
+    pintor.drawText(renglon.adjusted(ANCHO_MUESTRA + MARGEN, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                    linea.texto);
   }
 }
 

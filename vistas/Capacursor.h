@@ -15,8 +15,8 @@ struct LineaCursor {
   double y = 0.0; ///< ordenada del punto [px]; no finita: sin marca
 };
 
-/// Capa transparente sobre un gráfico: cruz del cursor con su lectura y, sin series, un aviso. Va aparte para que
-/// mover el ratón no repinte los datos ni salga en las imágenes guardadas.
+/// Capa transparente sobre un gráfico: cruz del cursor con su lectura y, sin series, un aviso. Va aparte para
+/// que mover el ratón no repinte los datos ni salga en las imágenes guardadas.
 class CapaCursor : public QWidget {
   Q_OBJECT
 
@@ -24,7 +24,8 @@ public:
   explicit CapaCursor(QWidget *padre);
 
   /// Enseña la cruz en @p cruz, dentro de @p marco, con el título y las líneas de la lectura.
-  void Ensenar(const QRect &marco, const QPointF &cruz, const QString &titulo, std::vector<LineaCursor> lineas);
+  void Ensenar(const QRect &marco, const QPointF &cruz, const QString &titulo,
+               std::vector<LineaCursor> lineas);
   void Ocultar();
   /// Texto centrado en @p marco; vacío: ninguno.
   void PonAviso(const QRect &marco, const QString &aviso);

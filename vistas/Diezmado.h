@@ -19,8 +19,8 @@ struct ColumnaTrazo {
 };
 
 /// Reduce los puntos de una polilínea, de x creciente, a una entrada por columna de @p ancho píxeles. Ningún
-/// pico se pierde: todo punto queda entre el mínimo y el máximo de su columna. Un punto que no es número corta
-/// la línea; una ordenada infinita se queda fuera de la pantalla, sin desbordar.
+/// pico se pierde: todo punto queda entre el mínimo y el máximo de su columna. Un punto que no es número
+/// corta la línea; una ordenada infinita se queda fuera de la pantalla, sin desbordar.
 [[nodiscard]] std::vector<ColumnaTrazo> DiezmarPorColumnas(std::span<const QPointF> puntos, double ancho);
 
 /// Rectángulo relleno, en píxeles, que pinta una columna.
@@ -31,13 +31,14 @@ struct Barra {
   double alto = 0.0;
 };
 
-/// Barras de @p grosor píxeles que cubren @p columnas y sus enlaces entre columnas contiguas, y los segmentos que
-/// unen las que no lo son.
+/// Barras de @p grosor píxeles que cubren @p columnas y sus enlaces entre columnas contiguas, y los segmentos
+/// que unen las que no lo son.
 struct TrazoPorColumnas {
   std::vector<Barra> barras;
   std::vector<QPointF> segmentos; ///< de dos en dos
 };
-[[nodiscard]] TrazoPorColumnas TrazarColumnas(std::span<const ColumnaTrazo> columnas, double ancho, double grosor);
+[[nodiscard]] TrazoPorColumnas TrazarColumnas(std::span<const ColumnaTrazo> columnas, double ancho,
+                                              double grosor);
 
 /// La misma línea con cuatro puntos por columna como mucho (primero, extremos y último), para el dibujo
 /// vectorial. Cada elemento es un tramo sin cortes.

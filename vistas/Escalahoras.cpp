@@ -37,13 +37,16 @@ constexpr double DIAS_DEL_MES_MEDIO = 365.0 / 12.0;
 constexpr double ANCHO_CON_HORA = 84.0;
 constexpr double ANCHO_SIN_HORA = 54.0;
 /// Hueco mínimo [px] entre marcas pequeñas.
-constexpr double ANCHO_SUBMARCA = 5.0;
+constexpr double ANCHO_SUBMARCA = 9.0;
 
 double HorasDelPaso(const PasoHoras &paso) {
   switch (paso.unidad) {
-  case Unidad::Hora: return paso.cada;
-  case Unidad::Dia: return paso.cada * HORAS_DEL_DIA;
-  default: return paso.cada * DIAS_DEL_MES_MEDIO * HORAS_DEL_DIA;
+  case Unidad::Hora:
+    return paso.cada;
+  case Unidad::Dia:
+    return paso.cada * HORAS_DEL_DIA;
+  default:
+    return paso.cada * DIAS_DEL_MES_MEDIO * HORAS_DEL_DIA;
   }
 }
 
@@ -146,7 +149,8 @@ std::vector<std::string> EscalaHoras::Encabezamientos() const { return {"n", "me
 std::vector<std::string> EscalaHoras::Campos(double x) const {
   const int k = static_cast<int>(Ajustar(x));
   const FechaHora fecha = Fecha(k);
-  return {std::to_string(k), std::to_string(fecha.mes), std::to_string(fecha.dia), std::to_string(fecha.hora)};
+  return {std::to_string(k), std::to_string(fecha.mes), std::to_string(fecha.dia),
+          std::to_string(fecha.hora)};
 }
 
 } // namespace tesmo

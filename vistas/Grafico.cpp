@@ -238,7 +238,8 @@ QStringList Grafico::Leyenda() const {
   QStringList textos;
   const QCPLegend &leyenda = *interno_->trazo->legend;
   for (int i = 0; i < leyenda.itemCount(); ++i) {
-    if (const auto *entrada = dynamic_cast<EntradaLeyenda *>(leyenda.item(i))) textos.append(entrada->Texto());
+    if (const auto *entrada = dynamic_cast<EntradaLeyenda *>(leyenda.item(i)))
+      textos.append(entrada->Texto());
   }
   return textos;
 }

@@ -29,9 +29,9 @@ struct SerieGrafico {
   bool visible = false;
 };
 
-/// El gráfico de líneas que usan todas las vistas: series sobre dos ejes verticales, leyenda, cursor de lectura,
-/// rueda que amplía, arrastre que mueve, doble clic que vuelve al todo, y copia y guardado de la imagen y los datos.
-/// Los cambios de series se acumulan hasta Redibujar().
+/// El gráfico de líneas que usan todas las vistas: series sobre dos ejes verticales, leyenda, cursor de
+/// lectura, rueda que amplía, arrastre que mueve, doble clic que vuelve al todo, y copia y guardado de la
+/// imagen y los datos. Los cambios de series se acumulan hasta Redibujar().
 class Grafico : public QWidget {
   Q_OBJECT
 
@@ -77,8 +77,8 @@ public:
 
   /// La imagen a @p escala veces el tamaño en pantalla.
   [[nodiscard]] QImage Imagen(double escala = 1.0) const;
-  /// Guarda la imagen en el formato de la extensión de @p ruta (.png, .svg o .pdf; otra cosa es PNG). Si no se
-  /// puede, devuelve falso y lo que hubiera en @p ruta queda como estaba.
+  /// Guarda la imagen en el formato de la extensión de @p ruta (.png, .svg o .pdf; otra cosa es PNG). Si no
+  /// se puede, devuelve falso y lo que hubiera en @p ruta queda como estaba.
   [[nodiscard]] bool GuardarImagen(const QString &ruta) const;
   /// Las series a la vista, en el tramo visible, como tabla separada por tabuladores.
   [[nodiscard]] QString TextoDatos() const;
@@ -90,8 +90,8 @@ public slots:
   void PedirGuardarImagen(const QString &extension);
 
 signals:
-  /// Se va a enseñar el menú del gráfico o, con @p indice ≥ 0, el de la entrada de leyenda de una serie; quien
-  /// escucha añade sus órdenes.
+  /// Se va a enseñar el menú del gráfico o, con @p indice ≥ 0, el de la entrada de leyenda de una serie;
+  /// quien escucha añade sus órdenes.
   void menuPreparado(QMenu *menu, int indice);
 
 protected:

@@ -27,7 +27,9 @@ struct Grafico::Interno {
     return lado == LadoEje::Izquierdo ? trazo->yAxis : trazo->yAxis2;
   }
   [[nodiscard]] SerieTrazada &En(int indice) { return series.at(static_cast<std::size_t>(indice)); }
-  [[nodiscard]] const SerieTrazada &En(int indice) const { return series.at(static_cast<std::size_t>(indice)); }
+  [[nodiscard]] const SerieTrazada &En(int indice) const {
+    return series.at(static_cast<std::size_t>(indice));
+  }
 };
 
 } // namespace tesmo

@@ -57,7 +57,8 @@ void Grafico::ElegirEjesDeRueda(const QPointF &donde, bool valores) {
   QList<QCPAxis *> verticales;
   if (valores || donde.x() < marco.left()) verticales.append(trazo.yAxis);
   if (valores || donde.x() > marco.right()) verticales.append(trazo.yAxis2);
-  trazo.axisRect()->setRangeZoomAxes(valores ? QList<QCPAxis *>() : QList<QCPAxis *>{trazo.xAxis}, verticales);
+  trazo.axisRect()->setRangeZoomAxes(valores ? QList<QCPAxis *>() : QList<QCPAxis *>{trazo.xAxis},
+                                     verticales);
 }
 
 void Grafico::MoverCursor(const QPoint &donde) {
@@ -68,7 +69,8 @@ void Grafico::MoverCursor(const QPoint &donde) {
     return;
   }
   const auto [desde, hasta] = Tramo();
-  const Encuadre encuadre{desde, hasta, static_cast<double>(marco.left()), static_cast<double>(marco.right() + 1)};
+  const Encuadre encuadre{desde, hasta, static_cast<double>(marco.left()),
+                          static_cast<double>(marco.right() + 1)};
   const double x = interno_->escala->Ajustar(encuadre.AValor(donde.x()));
   std::vector<LineaCursor> lineas;
   for (const auto &[serie, curva] : interno_->series) {
@@ -109,12 +111,23 @@ void Grafico::keyPressEvent(QKeyEvent *suceso) {
     PonTramo(centro - medio, centro + medio);
   };
   switch (suceso->key()) {
-  case Qt::Key_Left: PonTramo(desde - paso, hasta - paso); break;
-  case Qt::Key_Right: PonTramo(desde + paso, hasta + paso); break;
-  case Qt::Key_Plus: ampliar(FACTOR_DE_AMPLIACION); break;
-  case Qt::Key_Minus: ampliar(1.0 / FACTOR_DE_AMPLIACION); break;
-  case Qt::Key_Home: VerTodo(); break;
-  default: QWidget::keyPressEvent(suceso);
+  case Qt::Key_Left:
+    PonTramo(desde - paso, hasta - paso);
+    break;
+  case Qt::Key_Right:
+    PonTramo(desde + paso, hasta + paso);
+    break;
+  case Qt::Key_Plus:
+    ampliar(FACTOR_DE_AMPLIACION);
+    break;
+  case Qt::Key_Minus:
+    ampliar(1.0 / FACTOR_DE_AMPLIACION);
+    break;
+  case Qt::Key_Home:
+    VerTodo();
+    break;
+  default:
+    QWidget::keyPressEvent(suceso);
   }
 }
 
@@ -148,7 +161,8 @@ void Grafico::AnadirOrdenes(QMenu &menu) {
   menu.addSeparator();
   for (const char *extension : {"png", "svg", "pdf"}) {
     const QString mayusculas = QString::fromLatin1(extension).toUpper();
-    QAction *accion = anadir(QStringLiteral("acGuardar") + mayusculas, tr("Guardar imagen como &%1…").arg(mayusculas));
+    QAction *accion =
+        anadir(QStringLiteral("acGuardar") + mayusculas, tr("Guardar imagen como &%1…").arg(mayusculas));
     connect(accion, &QAction::triggered, this,
             [this, extension] { PedirGuardarImagen(QString::fromLatin1(extension)); });
   }

@@ -17,12 +17,13 @@ EntradaLeyenda::EntradaLeyenda(QCPLegend *leyenda, int indice, const QString &te
 void EntradaLeyenda::draw(QCPPainter *pintor) {
   const QRect sitio = rect();
   pintor->setAntialiasing(false);
-  pintor->fillRect(QRectF(sitio.left(), sitio.center().y() - pluma_.widthF() / 2.0, ANCHO_MUESTRA, pluma_.widthF() + 1.0),
-                   pluma_.color());
+  pintor->fillRect(
+      QRectF(sitio.left(), sitio.center().y() - pluma_.widthF() / 2.0, ANCHO_MUESTRA, pluma_.widthF() + 1.0),
+      pluma_.color());
   pintor->setFont(font());
   pintor->setPen(textColor());
-  pintor->drawText(sitio.adjusted(ANCHO_MUESTRA + HUECO, 0, HUECO, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
-                   texto_);
+  pintor->drawText(sitio.adjusted(ANCHO_MUESTRA + HUECO, 0, HUECO, 0),
+                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, texto_);
 }
 
 QSize EntradaLeyenda::minimumOuterSizeHint() const {

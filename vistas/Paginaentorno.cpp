@@ -32,9 +32,12 @@ QPixmap Muestra(const QColor &color, double densidad) {
 
 QString NombreDeGrupo(GrupoMagnitud grupo) {
   switch (grupo) {
-  case GrupoMagnitud::Basicas: return QStringLiteral("gbBasicas");
-  case GrupoMagnitud::Psicrometricas: return QStringLiteral("gbPsicrometricas");
-  default: return QStringLiteral("gbRadiacion");
+  case GrupoMagnitud::Basicas:
+    return QStringLiteral("gbBasicas");
+  case GrupoMagnitud::Psicrometricas:
+    return QStringLiteral("gbPsicrometricas");
+  default:
+    return QStringLiteral("gbRadiacion");
   }
 }
 
@@ -66,7 +69,8 @@ QWidget *PaginaEntorno::CrearColumna() {
   desplazable->setWidgetResizable(true);
   desplazable->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   desplazable->setWidget(grupos);
-  desplazable->setMinimumWidth(grupos->sizeHint().width() + desplazable->verticalScrollBar()->sizeHint().width());
+  desplazable->setMinimumWidth(grupos->sizeHint().width() +
+                               desplazable->verticalScrollBar()->sizeHint().width());
 
   auto *columna = new QWidget(this);
   columna->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
@@ -105,10 +109,10 @@ QCheckBox *PaginaEntorno::CrearCasilla(int i) {
   casilla->setContextMenuPolicy(Qt::CustomContextMenu);
   casilla->setToolTip(tr("Botón derecho: eje de la variable"));
   connect(casilla, &QCheckBox::toggled, this, [this, i] { emit casillaCambiada(i); });
-  connect(casilla, &QWidget::customContextMenuRequested, this, [this, i, casilla](const QPoint &donde) {
-    EnsenarMenu(i, casilla->mapToGlobal(donde));
-  });
+  connect(casilla, &QWidget::customContextMenuRequested, this,
+          [this, i, casilla](const QPoint &donde) { EnsenarMenu(i, casilla->mapToGlobal(donde)); });
   casillas_[static_cast<std::size_t>(i)] = casilla;
+  PonColor(i, Color(ficha.color)); // la muestra cuenta en el ancho de la columna
   return casilla;
 }
 

@@ -16,8 +16,8 @@ namespace tesmo {
 
 class Grafico;
 
-/// Página "Visualizar datos": una casilla con su muestra de color por magnitud, en sus tres grupos, el gráfico y
-/// sus botones. Sólo controles.
+/// Página "Visualizar datos": una casilla con su muestra de color por magnitud, en sus tres grupos, el
+/// gráfico y sus botones. Sólo controles.
 class PaginaEntorno : public QWidget {
   Q_OBJECT
 

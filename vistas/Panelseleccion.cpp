@@ -66,9 +66,10 @@ PanelSeleccion::Extremo PanelSeleccion::CrearExtremo(QGridLayout &rejilla, int c
                                                      const QString &sufijo) {
   auto *rotulo = new QLabel(titulo, this);
   rejilla.addWidget(rotulo, 1, columna);
-  const Extremo extremo{CrearCasilla(QStringLiteral("csMes") + sufijo, MESES_DEL_ANIO, tr("Mes, de 1 a 12")),
-                        CrearCasilla(QStringLiteral("csDia") + sufijo, MAXIMO_DIA, tr("Día del mes")),
-                        CrearCasilla(QStringLiteral("csHor") + sufijo, HORAS_DEL_DIA, tr("Hora del día, de 1 a 24"))};
+  const Extremo extremo{
+      CrearCasilla(QStringLiteral("csMes") + sufijo, MESES_DEL_ANIO, tr("Mes, de 1 a 12")),
+      CrearCasilla(QStringLiteral("csDia") + sufijo, MAXIMO_DIA, tr("Día del mes")),
+      CrearCasilla(QStringLiteral("csHor") + sufijo, HORAS_DEL_DIA, tr("Hora del día, de 1 a 24"))};
   rotulo->setBuddy(extremo.mes);
   int sitio = columna + 1;
   for (const auto &[casilla, texto] : {std::pair{extremo.mes, tr("Mes")}, std::pair{extremo.dia, tr("Día")},

@@ -16,14 +16,16 @@ class QSpinBox;
 namespace tesmo {
 
 /// Panel bajo las páginas de una ventana de trabajo: provincia, localidad, período y "Actualizar". Sólo
-/// controles: no decide nada. Un valor tecleado cuenta cuando se termina (flechas, Intro o salir de la casilla).
+/// controles: no decide nada. Un valor tecleado cuenta cuando se termina (flechas, Intro o salir de la
+/// casilla).
 class PanelSeleccion : public QWidget {
   Q_OBJECT
 
 public:
   explicit PanelSeleccion(QWidget *padre = nullptr);
 
-  /// Rellenan los selectores sin emitir señales; el de localidades empieza por SIN_LOCALIDAD, que queda elegida.
+  /// Rellenan los selectores sin emitir señales; el de localidades empieza por SIN_LOCALIDAD, que queda
+  /// elegida.
   void PonProvincias(const std::vector<std::string> &provincias);
   void PonLocalidades(const std::vector<std::string> &localidades);
   [[nodiscard]] std::string Provincia() const;

@@ -5,7 +5,7 @@
 namespace tesmo {
 
 std::optional<std::pair<QPointF, QPointF>> RecortarSegmento(const QPointF &a, const QPointF &b,
-                                                           const QRectF &marco) {
+                                                            const QRectF &marco) {
   const QPointF paso = b - a;
   // Cada borde exige direccion · t ≤ distancia, con t de 0 (en a) a 1 (en b).
   const std::array<std::pair<double, double>, 4> bordes{{{-paso.x(), a.x() - marco.left()},

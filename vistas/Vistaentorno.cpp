@@ -41,9 +41,9 @@ Vistaentorno::Vistaentorno(PaginaEntorno &pagina, PanelSeleccion &panel, Program
   grafico_.PonEscala(std::make_shared<EscalaHoras>(seleccion.DamePeriodo()));
   aplicarColores();
   ponPeriodo();
-  QObject::connect(&pagina_, &PaginaEntorno::menuPreparado, &pagina_,
+  QObject::connect(&pagina_, &PaginaEntorno::menuPreparado, &avisos_,
                    [this](QMenu *menu, int i) { AnadirOrdenesDeEje(*menu, i); });
-  QObject::connect(&grafico_, &Grafico::menuPreparado, &pagina_,
+  QObject::connect(&grafico_, &Grafico::menuPreparado, &avisos_,
                    [this](QMenu *menu, int i) { AnadirOrdenesDeEje(*menu, i); });
 }
 
@@ -137,13 +137,12 @@ void Vistaentorno::AnadirOrdenesDeEje(QMenu &menu, int i) {
     derecho->setObjectName(QStringLiteral("acEjeDerecho"));
     derecho->setCheckable(true);
     derecho->setChecked(Eje(i) == LadoEje::Derecho);
-    QObject::connect(derecho, &QAction::toggled, &pagina_, [this, i](bool puesto) {
-      PonEje(i, puesto ? LadoEje::Derecho : LadoEje::Izquierdo);
-    });
+    QObject::connect(derecho, &QAction::toggled, &avisos_,
+                     [this, i](bool puesto) { PonEje(i, puesto ? LadoEje::Derecho : LadoEje::Izquierdo); });
   }
   QAction *porUnidad = menu.addAction(QObject::tr("&Ejes por unidad"));
   porUnidad->setObjectName(QStringLiteral("acEjesPorUnidad"));
-  QObject::connect(porUnidad, &QAction::triggered, &pagina_, [this] { EjesPorUnidad(); });
+  QObject::connect(porUnidad, &QAction::triggered, &avisos_, [this] { EjesPorUnidad(); });
 }
 
 } // namespace tesmo

@@ -3,6 +3,8 @@
 #include "meteo/Magnitudes.h"
 #include "vistas/Repartoejes.h"
 
+#include <QObject>
+
 #include <array>
 #include <cstdint>
 
@@ -17,8 +19,9 @@ class PanelSeleccion;
 class Programa;
 class Seleccion;
 
-/// Visor de datos: dibuja las magnitudes horarias del período en el gráfico de su página. No calcula ni guarda
-/// datos: los pide por su rótulo al LeerMet del programa, y el período es el de la selección de la ventana.
+/// Visor de datos: dibuja las magnitudes horarias del período en el gráfico de su página. No calcula ni
+/// guarda datos: los pide por su rótulo al LeerMet del programa, y el período es el de la selección de la
+/// ventana.
 class Vistaentorno {
 public:
   /// Todo lo que recibe le sobrevive.
@@ -58,6 +61,7 @@ private:
   Seleccion &seleccion_;
   const Configuracion &colores_;
   Grafico &grafico_;
+  QObject avisos_; ///< corta con su muerte las señales que llegan aquí
   std::array<LadoEje, NUMERO_MAGNITUDES_VISOR> ejes_{};
   std::array<std::uint32_t, NUMERO_MAGNITUDES_VISOR> color_{};
 };

@@ -1,5 +1,5 @@
-// Repintado de un año con las 21 series a la vista: el gráfico del programa frente al trazado por defecto de la
-// biblioteca, con la misma pluma de ancho 2, las mismas series y el mismo tamaño, en una sola ejecución.
+// Repintado de un año con las 21 series a la vista: el gráfico del programa frente al trazado por defecto de
+// la biblioteca, con la misma pluma de ancho 2, las mismas series y el mismo tamaño, en una sola ejecución.
 
 #include "vistas/Escalahoras.h"
 #include "vistas/Grafico.h"
@@ -41,12 +41,14 @@ std::vector<float> Serie(int numero) {
 
 QColor Color(int numero) { return QColor::fromHsv(numero * 17, 200, 200); }
 
-template <typename Accion> double Mediana(int veces, Accion accion) {
+template <typename Accion>
+double Mediana(int veces, Accion accion) {
   std::vector<double> tiempos;
   for (int i = 0; i < veces; ++i) {
     const auto antes = std::chrono::steady_clock::now();
     accion();
-    tiempos.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - antes).count());
+    tiempos.push_back(
+        std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - antes).count());
   }
   std::ranges::sort(tiempos);
   return tiempos[tiempos.size() / 2];
@@ -56,8 +58,8 @@ void LlenarPropio(tesmo::Grafico &grafico) {
   grafico.resize(ANCHO, ALTO);
   grafico.PonEscala(std::make_shared<tesmo::EscalaHoras>(tesmo::Periodo{{1, 1, 1}, {12, 31, 24}}));
   for (int i = 0; i < SERIES; ++i) {
-    grafico.AnadirSerie({QString::number(i), QStringLiteral("Serie %1 (ºC)").arg(i), QStringLiteral("0.0"), Color(i),
-                         PLUMA, tesmo::LadoEje::Izquierdo, true},
+    grafico.AnadirSerie({QString::number(i), QStringLiteral("Serie %1 (ºC)").arg(i), QStringLiteral("0.0"),
+                         Color(i), PLUMA, tesmo::LadoEje::Izquierdo, true},
                         Serie(i));
   }
   grafico.show();

@@ -1,0 +1,14 @@
+#pragma once
+
+class QApplication;
+
+namespace tesmo {
+
+/// Título de la aplicación en las ventanas.
+inline constexpr const char *TITULO = "Tesmo-A";
+
+/// Lo que toda ventana necesita antes de abrirse: título, español en números, fechas y botones de las cajas
+/// estándar, y el separador decimal de la región del sistema (o el de TESMO_DECIMAL).
+void PrepararAplicacion(QApplication &aplicacion);
+
+} // namespace tesmo

@@ -1,0 +1,159 @@
+#include "app/Demostracion.h"
+
+#include "app/Carga.h"
+#include "app/Ventanaprincipal.h"
+#include "app/Ventanaprogramas.h"
+#include "app/Vistaprograma.h"
+#include "core/Mensajes.h"
+#include "meteo/Leermet.h"
+#include "vistas/Grafico.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QPixmap>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTextStream>
+
+#include <stdexcept>
+
+namespace tesmo {
+
+namespace {
+
+constexpr QSize TAMANO_VENTANA(1280, 720);
+
+/// Nada puede esperar a una persona: los mensajes van a la salida de errores y cuentan como fallo.
+class PresentadorDemostracion : public PresentadorMensajes {
+public:
+  PresentadorDemostracion() : anterior_(DameMensajes().PonPresentador(this)) {}
+  ~PresentadorDemostracion() override { DameMensajes().PonPresentador(anterior_); }
+  PresentadorDemostracion(const PresentadorDemostracion &) = delete;
+  PresentadorDemostracion &operator=(const PresentadorDemostracion &) = delete;
+  void Presentar(const std::string &texto, const std::string &titulo, Icono) override {
+    QTextStream(stderr) << QString::fromStdString(titulo) << ": " << QString::fromStdString(texto).trimmed()
+                        << "\n";
+    huboMensajes = true;
+  }
+  bool huboMensajes = false;
+
+private:
+  PresentadorMensajes *anterior_;
+};
+
+class Demostracion {
+public:
+  Demostracion(TforPrincipal &marco, const QString &directorio)
+      : marco_(marco), directorio_(directorio), ventana_(marco.Controladores().front()->DameFormulario()) {}
+
+  void Ejecutar() {
+    marco_.showNormal();
+    marco_.resize(TAMANO_VENTANA);
+    QApplication::processEvents();
+    Elegir(QStringLiteral("cbProvincias"), QStringLiteral("Almería"));
+    Elegir(QStringLiteral("cbLocalidades"), QStringLiteral("Almería"));
+    PonPeriodo({7, 1, 1}, {7, 7, 24});
+    Marcar({"TS", "TH", "TR", "E"});
+    Pulsar(QStringLiteral("btnSimulacion"));
+    Pulsar(QStringLiteral("btnEjesPorUnidad"));
+    GuardarVentana(QStringLiteral("ventana_semana.png"));
+    GuardarGrafico(QStringLiteral("grafico_semana.png"));
+    GuardarGrafico(QStringLiteral("grafico_semana.svg"));
+    PonPeriodo({1, 1, 1}, {12, 31, 24});
+    Marcar({"TS", "RSDr", "RSDf", "HR", "G"});
+    Pulsar(QStringLiteral("btnSimulacion"));
+    Pulsar(QStringLiteral("btnEjesPorUnidad"));
+    GuardarVentana(QStringLiteral("ventana_anio.png"));
+    Exportar(QStringLiteral("almeria.met"));
+  }
+
+private:
+  template <typename Control>
+  Control &Buscar(const QString &nombre) {
+    auto *control = ventana_.findChild<Control *>(nombre);
+    if (!control) throw std::runtime_error("falta el control " + nombre.toStdString());
+    return *control;
+  }
+
+  void Elegir(const QString &selector, const QString &texto) {
+    auto &lista = Buscar<QComboBox>(selector);
+    const int sitio = lista.findText(texto);
+    if (sitio < 0)
+      throw std::runtime_error("no hay «" + texto.toStdString() + "» en " + selector.toStdString());
+    lista.setCurrentIndex(sitio);
+  }
+
+  void PonCasilla(const QString &nombre, int valor) { Buscar<QSpinBox>(nombre).setValue(valor); }
+
+  /// Primero el final del año: así ninguna regla del período mueve lo ya puesto.
+  void PonPeriodo(const FechaHora &inicio, const FechaHora &fin) {
+    for (const auto &[fecha, sufijo] :
+         {std::pair{FechaHora{12, 31, 24}, "Fin"}, std::pair{inicio, "Ini"}, std::pair{fin, "Fin"}}) {
+      PonCasilla(QStringLiteral("csMes") + QLatin1String(sufijo), fecha.mes);
+      PonCasilla(QStringLiteral("csDia") + QLatin1String(sufijo), fecha.dia);
+      PonCasilla(QStringLiteral("csHor") + QLatin1String(sufijo), fecha.hora);
+    }
+  }
+
+  void Marcar(const QStringList &codigos) {
+    for (std::size_t i = 0; i < NUMERO_MAGNITUDES_VISOR; ++i) {
+      const QString codigo = QString::fromUtf8(MAGNITUDES[i].codigo.data());
+      Buscar<QCheckBox>(QStringLiteral("cb") + codigo).setChecked(codigos.contains(codigo));
+    }
+  }
+
+  void Pulsar(const QString &nombre) {
+    Buscar<QPushButton>(nombre).click();
+    QApplication::processEvents();
+  }
+
+  void Anunciar(const QString &ruta, bool escrito) {
+    if (!escrito) throw std::runtime_error("no se pudo escribir " + ruta.toStdString());
+    QTextStream(stdout) << QDir::toNativeSeparators(ruta) << "\n";
+  }
+
+  [[nodiscard]] QString Ruta(const QString &nombre) const { return QDir(directorio_).filePath(nombre); }
+
+  void GuardarVentana(const QString &nombre) {
+    Anunciar(Ruta(nombre), marco_.grab().save(Ruta(nombre), "PNG"));
+  }
+
+  void GuardarGrafico(const QString &nombre) {
+    const auto &grafico = Buscar<Grafico>(QStringLiteral("graEntorno"));
+    if (grafico.Leyenda().isEmpty()) throw std::runtime_error("el gráfico está vacío");
+    Anunciar(Ruta(nombre), grafico.GuardarImagen(Ruta(nombre)));
+  }
+
+  void Exportar(const QString &nombre) {
+    VistaPrograma &controlador = ventana_.DameControlador();
+    if (PrepararDatos(controlador, controlador.DameSeleccion()) != ResultadoCarga::Cargada) {
+      throw std::runtime_error("no hay datos que exportar");
+    }
+    const std::vector<std::string> rotulos{
+        std::string(Ficha(Magnitud::TS).rotulo), std::string(Ficha(Magnitud::HR).rotulo),
+        std::string(Ficha(Magnitud::TH).rotulo), std::string(Ficha(Magnitud::G).rotulo)};
+    Anunciar(Ruta(nombre), controlador.DameLeerMet()->EscribirFichero(Ruta(nombre).toStdString(), rotulos));
+  }
+
+  TforPrincipal &marco_;
+  QString directorio_;
+  TforProgramas &ventana_;
+};
+
+} // namespace
+
+bool EjecutarDemostracion(TforPrincipal &marco, const QString &directorio) {
+  const PresentadorDemostracion presentador;
+  try {
+    if (!QDir().mkpath(directorio)) throw std::runtime_error("no se puede crear " + directorio.toStdString());
+    Demostracion(marco, directorio).Ejecutar();
+  } catch (const std::runtime_error &fallo) {
+    QTextStream(stderr) << "Demostración: " << fallo.what() << "\n";
+    return false;
+  }
+  return !presentador.huboMensajes;
+}
+
+} // namespace tesmo

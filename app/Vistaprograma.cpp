@@ -1,0 +1,119 @@
+#include "app/Vistaprograma.h"
+
+#include "app/Carga.h"
+#include "app/Ventanaprogramas.h"
+#include "localidades/Ciudad.h"
+#include "meteo/Leermet.h"
+#include "vistas/Configuracion.h"
+#include "vistas/Cursorocupado.h"
+#include "vistas/Paginaentorno.h"
+#include "vistas/Panelseleccion.h"
+#include "vistas/Textoqt.h"
+#include "vistas/Vistaentorno.h"
+
+namespace tesmo {
+
+VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
+    : Programa(programa), nombre_(std::move(nombre)), formulario_(new TforProgramas(*this)),
+      vistaEntorno_(std::make_unique<Vistaentorno>(formulario_->DamePaginaEntorno(), formulario_->DamePanel(),
+                                                   *this, seleccion_, DameTablaDeColores())) {
+  AsociarVista(this);
+}
+
+VistaPrograma::~VistaPrograma() {
+  vistaEntorno_.reset();
+  delete formulario_;
+  DestruirMotores();
+}
+
+void VistaPrograma::Abrir() {
+  std::vector<std::string> provincias;
+  DameLocalidades()->ListaDe("Provincias", provincias);
+  formulario_->DamePanel().PonProvincias(provincias);
+  RellenarLocalidades();
+  PonTitulo();
+  formulario_->show();
+}
+
+void VistaPrograma::RellenarLocalidades() {
+  PanelSeleccion &panel = formulario_->DamePanel();
+  std::vector<std::string> localidades;
+  DameLocalidades()->ListaDe("Localidades", panel.Provincia(), localidades);
+  panel.PonLocalidades(localidades);
+  seleccion_.PonProvincia(panel.Provincia());
+}
+
+std::string VistaPrograma::Titulo() const {
+  if (!seleccion_.HayLocalidad()) return nombre_;
+  return seleccion_.DameLocalidad() + "-" + seleccion_.DameProvincia();
+}
+
+void VistaPrograma::PonTitulo() { formulario_->setWindowTitle(Texto(Titulo())); }
+
+void VistaPrograma::CambiarProvincia() {
+  const CursorOcupado ocupado;
+  RellenarLocalidades();
+  PonLocalidadCargada({});
+  vistaEntorno_->Vaciar();
+  PonTitulo();
+}
+
+void VistaPrograma::CambiarLocalidad() {
+  const CursorOcupado ocupado;
+  seleccion_.PonLocalidad(formulario_->DamePanel().Localidad());
+  PonTitulo();
+  const bool habiaSeries = vistaEntorno_->HaySeries();
+  vistaEntorno_->Vaciar();
+  PonLocalidadCargada({});
+  if (!seleccion_.HayLocalidad() || !Cargar()) return;
+  if (habiaSeries) Visualizar();
+}
+
+bool VistaPrograma::Cargar() {
+  const ResultadoCarga resultado = CargarLocalidad(*this, seleccion_);
+  if (resultado == ResultadoCarga::FicheroNoAbierto) vistaEntorno_->Vaciar();
+  if (resultado != ResultadoCarga::Cargada) return false;
+  DecirCarga();
+  return true;
+}
+
+void VistaPrograma::CambiarPeriodo() {
+  vistaEntorno_->cambioPeriodo();
+  emit formulario_->estado(QObject::tr("Período cambiado: pulse «Visualizar» para dibujarlo."));
+}
+
+void VistaPrograma::Actualizar() {
+  const CursorOcupado ocupado;
+  vistaEntorno_->leerPeriodo();
+  if (Cargar()) Visualizar();
+}
+
+void VistaPrograma::Visualizar() {
+  if (vistaEntorno_->visualizar()) {
+    emit formulario_->estado(QObject::tr(
+        "Rueda: amplía. Arrastre: mueve. Doble clic: período entero. Botón derecho: guardar y copiar."));
+  }
+}
+
+void VistaPrograma::ActualizarVisibles() { vistaEntorno_->actualizarVisibles(); }
+void VistaPrograma::EjesPorUnidad() { vistaEntorno_->EjesPorUnidad(); }
+
+void VistaPrograma::ObjetoCambiado(const ObjetoBase &) { formulario_->update(); }
+
+/// La lectura no rechaza un fichero incompleto; aquí se dice sin interrumpir.
+void VistaPrograma::DecirCarga() const {
+  const ResumenLectura &resumen = DameLeerMet()->Resumen();
+  const QString localidad = Texto(seleccion_.DameLocalidad());
+  const QString texto =
+      resumen.registros == HORAS_DEL_ANIO
+          ? QObject::tr("%1: leídas las %2 horas del año.").arg(localidad).arg(resumen.registros)
+          : QObject::tr(
+                "%1: sólo se pudieron leer %2 de las %3 horas del año; la lectura se detuvo en la línea %4.")
+                .arg(localidad)
+                .arg(resumen.registros)
+                .arg(HORAS_DEL_ANIO)
+                .arg(resumen.linea);
+  emit formulario_->estado(texto);
+}
+
+} // namespace tesmo

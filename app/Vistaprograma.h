@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/Programa.h"
+#include "app/Seleccion.h"
+#include "core/Observador.h"
+
+#include <QPointer>
+
+#include <memory>
+#include <string>
+
+namespace tesmo {
+
+class TforProgramas;
+class Vistaentorno;
+
+/// Controlador de una ventana de trabajo: tiene una copia de su programa, la selección, el formulario y las
+/// vistas de las pestañas. Al morir destruye las vistas, el formulario y los motores, por este orden.
+class VistaPrograma : public Observador, public Programa {
+public:
+  /// @p nombre es el título mientras no hay localidad elegida.
+  VistaPrograma(const Programa &programa, std::string nombre);
+  VistaPrograma(const VistaPrograma &) = delete;
+  VistaPrograma &operator=(const VistaPrograma &) = delete;
+  ~VistaPrograma() override;
+
+  /// Rellena los selectores y enseña el formulario.
+  void Abrir();
+  [[nodiscard]] TforProgramas &DameFormulario() const { return *formulario_; }
+  [[nodiscard]] const Seleccion &DameSeleccion() const { return seleccion_; }
+  /// "Localidad-Provincia", o el nombre de la ventana si no hay localidad.
+  [[nodiscard]] std::string Titulo() const;
+
+  void CambiarProvincia();
+  void CambiarLocalidad();
+  void CambiarPeriodo();
+  void Actualizar();
+  void Visualizar();
+  void ActualizarVisibles();
+  void EjesPorUnidad();
+  void PonTitulo();
+
+  /// Un motor cambió: el formulario se repinta.
+  void ObjetoCambiado(const ObjetoBase &objeto) override;
+
+private:
+  void RellenarLocalidades();
+  bool Cargar();
+  void DecirCarga() const;
+
+  std::string nombre_;
+  Seleccion seleccion_;
+  QPointer<TforProgramas> formulario_; ///< nulo si su ventana murió antes
+  std::unique_ptr<Vistaentorno> vistaEntorno_;
+};
+
+} // namespace tesmo

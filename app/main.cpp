@@ -1,0 +1,83 @@
+// Tesmo: la aplicación de ventanas.
+
+#include "app/Aplicacion.h"
+#include "app/Demostracion.h"
+#include "app/Presentadorventanas.h"
+#include "app/Ventanaprincipal.h"
+#include "core/Rutas.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTextStream>
+
+#include <cstdlib>
+
+namespace {
+
+constexpr int USO_INCORRECTO = 2;
+
+struct Opciones {
+  QString demostracion; ///< directorio donde dejarla; vacío: trabajo normal
+  QString base;         ///< directorio de config.ini; vacío: el del programa
+};
+
+/// Las rutas son del directorio donde se escribió la orden: se resuelven antes de que la configuración lo
+/// cambie.
+QString RutaAbsoluta(const QString &ruta) {
+  return ruta.isEmpty() ? ruta : QDir::current().absoluteFilePath(ruta);
+}
+
+Opciones LeerOpciones(const QApplication &aplicacion) {
+  const QCommandLineOption demostracion(
+      QStringLiteral("demostracion"),
+      QStringLiteral(
+          "Hace el trabajo principal sin esperar a nadie y deja imágenes y resultados en DIRECTORIO."),
+      QStringLiteral("DIRECTORIO"));
+  const QCommandLineOption base(
+      QStringLiteral("base"),
+      QStringLiteral("Directorio donde está config.ini (por defecto, el del programa)."),
+      QStringLiteral("DIRECTORIO"));
+  const QCommandLineOption ayuda({QStringLiteral("h"), QStringLiteral("help"), QStringLiteral("ayuda")},
+                                 QStringLiteral("Enseña esta ayuda."));
+  QCommandLineParser lector;
+  lector.setApplicationDescription(
+      QStringLiteral("Año meteorológico típico, aire húmedo y sol para la edificación."));
+  lector.addOptions({demostracion, base, ayuda});
+  if (!lector.parse(aplicacion.arguments()) || !lector.positionalArguments().isEmpty()) {
+    QTextStream(stderr) << (lector.errorText().isEmpty()
+                                ? QStringLiteral("Argumento de más: ") + lector.positionalArguments().value(0)
+                                : lector.errorText())
+                        << "\n";
+    std::exit(USO_INCORRECTO);
+  }
+  if (lector.isSet(ayuda)) {
+    QTextStream(stdout) << lector.helpText();
+    std::exit(EXIT_SUCCESS);
+  }
+  return {RutaAbsoluta(lector.value(demostracion)), RutaAbsoluta(lector.value(base))};
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  QApplication aplicacion(argc, argv);
+  tesmo::PrepararAplicacion(aplicacion);
+  const Opciones opciones = LeerOpciones(aplicacion);
+  tesmo::PresentadorVentanas presentador;
+  tesmo::DameMensajes().PonPresentador(&presentador);
+  if (!opciones.base.isEmpty()) tesmo::IniciarConfiguracion(opciones.base.toStdString());
+  int resultado = EXIT_SUCCESS;
+  {
+    tesmo::TforPrincipal marco;
+    marco.showMaximized();
+    marco.AbrirPrimera();
+    if (opciones.demostracion.isEmpty()) {
+      resultado = QApplication::exec();
+    } else {
+      resultado = tesmo::EjecutarDemostracion(marco, opciones.demostracion) ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
+  }
+  tesmo::DameMensajes().PonPresentador(nullptr);
+  return resultado;
+}
