@@ -1,0 +1,77 @@
+#include "cli/Opcionesseleccion.h"
+
+#include "app/Carga.h"
+#include "app/Programa.h"
+#include "core/Ficheros.h"
+#include "core/Mensajes.h"
+#include "localidades/Ciudad.h"
+#include "meteo/Leermet.h"
+#include "psicro/Psicrometrico.h"
+#include "solar/Posicionsolar.h"
+
+namespace tesmo::cli {
+
+namespace {
+
+/// Crea el programa callando lo que diga la base de localidades: a quien nombra un fichero no le importa.
+void CrearSinBase(std::optional<Programa> &programa) {
+  PresentadorMensajes *presentador = DameMensajes().PonPresentador(nullptr);
+  AvisoLocalidades aviso = PonAvisoLocalidades({});
+  programa.emplace();
+  PonAvisoLocalidades(std::move(aviso));
+  DameMensajes().PonPresentador(presentador);
+}
+
+void CrearSeleccion(const PeticionSeleccion &peticion, const Programa &programa, Seleccion &seleccion) {
+  seleccion.PonProvincia(programa.DameLocalidades()->DameTextoDe(peticion.localidad, "Provincia"));
+  if (!peticion.localidad.empty()) seleccion.PonLocalidad(peticion.localidad);
+  seleccion.PonPeriodo(peticion.periodo);
+  seleccion.PonSuperficie(peticion.superficie);
+  seleccion.PonAltitudUsuario(peticion.altitud);
+}
+
+ResultadoCarga CargarUna(const PeticionSeleccion &peticion, Programa &programa, const Seleccion &seleccion) {
+  if (!peticion.fichero.empty()) {
+    const std::string nombre = TextoDeRuta(RutaDesdeTexto(peticion.fichero).stem());
+    return CargarFichero(programa, seleccion, peticion.fichero, nombre);
+  }
+  if (programa.DameLocalidades()->BuscarLocalidad(peticion.localidad) == nullptr)
+    throw Fallo(Estado::FaltaEntrada, "no se conoce la localidad: " + peticion.localidad);
+  return CargarLocalidad(programa, seleccion);
+}
+
+void LeerHorizonte(const std::string &ruta, PosicionSolar &sol) {
+  if (!ruta.empty() && !sol.LeerHorizonte(ruta))
+    throw Fallo(Estado::FaltaEntrada, "no se puede leer el perfil de horizonte: " + ruta);
+}
+
+void AvisarSiEsCorto(const Programa &programa, Contexto &contexto) {
+  const ResumenLectura &resumen = programa.DameLeerMet()->Resumen();
+  if (resumen.registros >= HORAS_DEL_ANIO) return;
+  Avisar(contexto, programa.DameLocalidadCargada() + ": se han leído " + std::to_string(resumen.registros) +
+                       " registros de " + std::to_string(HORAS_DEL_ANIO) + "; la lectura paró en la línea " +
+                       std::to_string(resumen.linea));
+}
+
+} // namespace
+
+void Cargar(const PeticionSeleccion &peticion, Contexto &contexto, std::optional<Programa> &programa) {
+  IniciarBase(peticion.base);
+  if (peticion.fichero.empty()) {
+    programa.emplace();
+  } else {
+    CrearSinBase(programa);
+  }
+  Seleccion seleccion;
+  CrearSeleccion(peticion, *programa, seleccion);
+  LeerHorizonte(peticion.horizonte, *programa->DamePosicionSolar());
+  const ResultadoCarga resultado = CargarUna(peticion, *programa, seleccion);
+  if (resultado == ResultadoCarga::CasillaVacia) throw Fallo(Estado::UsoIncorrecto, "");
+  if (resultado != ResultadoCarga::Cargada) throw Fallo(Estado::FaltaEntrada, "");
+  AvisarSiEsCorto(*programa, contexto);
+  if (peticion.presion) programa->DamePsicro()->ponPresion(*peticion.presion);
+  programa->DameLeerMet()->AsegurarDerivadas(programa->DamePsicro()->damePresion(),
+                                             *programa->DamePosicionSolar());
+}
+
+} // namespace tesmo::cli

@@ -1,0 +1,131 @@
+#include "cli/Opcionesseleccion.h"
+
+#include "cli/Argumentos.h"
+#include "core/Error.h"
+#include "core/Ficheros.h"
+#include "core/Rutas.h"
+
+namespace tesmo::cli {
+
+namespace {
+
+/// Altitudes [m] que admite el programa para fijar la presión.
+constexpr double ALTITUD_MINIMA = -500.0;
+constexpr double ALTITUD_MAXIMA = 9000.0;
+
+/// El texto de una casilla de la superficie: vacío vale (se dirá que falta), otra cosa ha de ser un número.
+/// Los límites los pone la entrada validada.
+std::string TextoDeCasilla(const std::optional<std::string> &texto, const char *opcion,
+                           const std::string &porDefecto) {
+  if (!texto) return porDefecto;
+  if (!texto->empty()) static_cast<void>(LeerNumero(*texto, opcion));
+  return *texto;
+}
+
+std::optional<float> LeerPresion(const std::optional<std::string> &texto) {
+  if (!texto) return std::nullopt;
+  const auto presion = static_cast<float>(LeerNumero(*texto, "--presion"));
+  if (presion <= 0.0F) throw Fallo(Estado::UsoIncorrecto, "--presion: ha de ser mayor que 0");
+  return presion;
+}
+
+std::optional<float> LeerAltitud(const std::optional<std::string> &texto) {
+  if (!texto) return std::nullopt;
+  return static_cast<float>(LeerNumero(*texto, "--altitud", ALTITUD_MINIMA, ALTITUD_MAXIMA));
+}
+
+Periodo LeerPeriodo(const OpcionesSeleccion &opciones, Periodo periodo) {
+  if (opciones.desde) periodo.inicio = LeerFecha(*opciones.desde, "--desde");
+  if (opciones.hasta) periodo.fin = LeerFecha(*opciones.hasta, "--hasta");
+  const auto &[a, b] = periodo;
+  if (IndiceHora(b.mes, b.dia, b.hora) < IndiceHora(a.mes, a.dia, a.hora))
+    throw Fallo(Estado::UsoIncorrecto, "el período acaba antes de empezar");
+  return periodo;
+}
+
+std::string RutaDada(const std::optional<std::string> &texto, const char *opcion) {
+  if (!texto) return {};
+  if (texto->empty()) throw Fallo(Estado::FaltaEntrada, std::string(opcion) + ": la ruta está vacía");
+  return RutaAbsoluta(*texto);
+}
+
+} // namespace
+
+void AnadirBase(CLI::App &orden, std::optional<std::string> &base) {
+  AnadirValor(orden, "--base", base, "DIRECTORIO", "Donde está config.ini (si no se da, junto al programa)");
+}
+
+void AnadirRegistro(CLI::App &orden, std::optional<std::string> &registro) {
+  AnadirValor(orden, "--registro", registro, "FICHERO", "Apunta en él los diagnósticos del cálculo");
+}
+
+void AnadirJson(CLI::App &orden, bool &json) {
+  orden.add_flag("--json", json, "Escribe el resultado en JSON; lo que no es un número finito, null");
+}
+
+void AnadirSeleccion(CLI::App &orden, OpcionesSeleccion &opciones) {
+  AnadirValor(orden, "--localidad", opciones.localidad, "NOMBRE", "Localidad, como la escribe «localidades»");
+  AnadirValor(orden, "--fichero", opciones.fichero, "RUTA", "Fichero .met, en vez de una localidad");
+  AnadirValor(orden, "--desde", opciones.desde, "M/D/H", "Primera hora (1/1/1)");
+  AnadirValor(orden, "--hasta", opciones.hasta, "M/D/H", "Última hora, incluida (12/31/24)");
+  AnadirValor(orden, "--inclinacion", opciones.inclinacion, "GRADOS",
+              "De la superficie, desde la horizontal, 0 a 180 (90)");
+  AnadirValor(orden, "--orientacion", opciones.orientacion, "GRADOS",
+              "De la superficie, desde el sur, oeste positivo, -180 a 180 (0)");
+  AnadirValor(orden, "--albedo", opciones.albedo, "FRACCION", "Reflectancia del suelo, 0 a 1 (0.2)");
+  AnadirValor(orden, "--presion", opciones.presion, "PA", "Presión atmosférica");
+  AnadirValor(orden, "--altitud", opciones.altitud, "M",
+              "Altitud que fija la presión (la que trae el fichero)");
+  AnadirValor(orden, "--horizonte", opciones.horizonte, "FICHERO", "Perfil de horizonte");
+  AnadirBase(orden, opciones.base);
+}
+
+PeticionSeleccion Interpretar(const OpcionesSeleccion &opciones) {
+  if (opciones.localidad.has_value() == opciones.fichero.has_value())
+    throw Fallo(Estado::UsoIncorrecto, "hay que dar --localidad o --fichero, y sólo una de las dos");
+  if (opciones.presion && opciones.altitud)
+    throw Fallo(Estado::UsoIncorrecto, "--presion y --altitud no pueden ir juntas");
+  PeticionSeleccion peticion;
+  peticion.periodo = LeerPeriodo(opciones, peticion.periodo);
+  auto &[inclinacion, orientacion, albedo] = peticion.superficie;
+  inclinacion = TextoDeCasilla(opciones.inclinacion, "--inclinacion", inclinacion);
+  orientacion = TextoDeCasilla(opciones.orientacion, "--orientacion", orientacion);
+  albedo = TextoDeCasilla(opciones.albedo, "--albedo", albedo);
+  peticion.presion = LeerPresion(opciones.presion);
+  peticion.altitud = LeerAltitud(opciones.altitud);
+  peticion.localidad = opciones.localidad.value_or("");
+  peticion.fichero = RutaDada(opciones.fichero, "--fichero");
+  peticion.horizonte = RutaDada(opciones.horizonte, "--horizonte");
+  peticion.base = RutaDada(opciones.base, "--base");
+  return peticion;
+}
+
+std::vector<Magnitud> LeerMagnitudes(const std::vector<std::string> &nombres) {
+  std::vector<Magnitud> magnitudes;
+  for (const std::string &nombre : nombres) {
+    const FichaMagnitud *ficha = BuscarPorRotulo(nombre);
+    if (ficha == nullptr) ficha = BuscarPorCodigo(nombre);
+    if (ficha == nullptr) throw Fallo(Estado::UsoIncorrecto, "variable desconocida: " + nombre);
+    magnitudes.push_back(ficha->magnitud);
+  }
+  return magnitudes;
+}
+
+void IniciarBase(const std::string &base) {
+  if (base.empty()) {
+    static_cast<void>(DameConfiguracion());
+    return;
+  }
+  std::error_code error;
+  if (!std::filesystem::is_directory(RutaDesdeTexto(base), error))
+    throw Fallo(Estado::FaltaEntrada, "--base: no es un directorio: " + base);
+  IniciarConfiguracion(base);
+}
+
+void IniciarRegistro(const std::optional<std::string> &registro) {
+  if (!registro) return;
+  AbrirRegistro(RutaAbsoluta(*registro));
+  if (!RegistroAbierto()) throw Fallo(Estado::FaltaSalida, "--registro: no se puede escribir: " + *registro);
+}
+
+} // namespace tesmo::cli

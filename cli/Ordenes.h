@@ -1,0 +1,29 @@
+#pragma once
+
+#include "cli/Contexto.h"
+
+#include <CLI/CLI.hpp>
+
+#include <string>
+
+namespace tesmo::cli {
+
+/// Cada función da de alta una orden en @p raiz. Al interpretarse la orden, deja en el contexto la acción que
+/// la cumple; nada se hace antes. @p contexto ha de vivir tanto como @p raiz.
+void RegistrarLocalidades(CLI::App &raiz, Contexto &contexto);
+void RegistrarAire(CLI::App &raiz, Contexto &contexto);
+void RegistrarSol(CLI::App &raiz, Contexto &contexto);
+void RegistrarSerie(CLI::App &raiz, Contexto &contexto);
+void RegistrarEstadisticas(CLI::App &raiz, Contexto &contexto);
+void RegistrarExportar(CLI::App &raiz, Contexto &contexto);
+void RegistrarSintetizar(CLI::App &raiz, Contexto &contexto);
+
+/// Lo que la ayuda dice de una orden.
+struct AyudaOrden {
+  std::string descripcion; ///< de una línea
+  std::string detalle;     ///< qué escribe y en qué unidades
+  std::string ejemplos;    ///< uno por línea, sin el nombre del programa
+};
+CLI::App &NuevaOrden(CLI::App &raiz, const std::string &nombre, const AyudaOrden &ayuda);
+
+} // namespace tesmo::cli

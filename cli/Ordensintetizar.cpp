@@ -1,0 +1,56 @@
+#include "cli/Ordenes.h"
+
+#include "cli/Argumentos.h"
+#include "cli/Opcionesseleccion.h"
+#include "core/Ficheros.h"
+#include "core/Sistema.h"
+#include "intercambio/Sintesis.h"
+
+#include <memory>
+
+namespace tesmo::cli {
+
+namespace {
+
+struct Datos {
+  std::optional<std::string> normales, salida, registro;
+};
+
+std::string NormalesDelPrograma() {
+  return TextoDeRuta(RutaEjecutable().parent_path() / "datos" / "normales.csv");
+}
+
+void Ejecutar(const Datos &datos, Contexto &contexto) {
+  if (datos.salida->empty()) throw Fallo(Estado::FaltaSalida, "-o: la ruta está vacía");
+  if (datos.normales && datos.normales->empty())
+    throw Fallo(Estado::FaltaEntrada, "--normales: la ruta está vacía");
+  IniciarRegistro(datos.registro);
+  const std::string normales = datos.normales ? RutaAbsoluta(*datos.normales) : NormalesDelPrograma();
+  ResultadoSintesis resultado;
+  const bool hecho = Sintetizar(normales, RutaAbsoluta(*datos.salida), resultado);
+  for (const std::string &aviso : resultado.avisos) Avisar(contexto, aviso);
+  if (hecho) return;
+  for (const std::string &error : resultado.errores) contexto.error << "Error: " << error << '\n';
+  throw Fallo(resultado.fallo == FalloSintesis::Salida ? Estado::FaltaSalida : Estado::FaltaEntrada, "");
+}
+
+} // namespace
+
+void RegistrarSintetizar(CLI::App &raiz, Contexto &contexto) {
+  const auto datos = std::make_shared<Datos>();
+  CLI::App &orden = NuevaOrden(raiz, "sintetizar",
+                               {"Hace años sintéticos de las medias mensuales",
+                                "Escribe en el directorio Meteo/<localidad>.met, Meteo/LocalidadesCC y "
+                                "Meteo/GDR.TXT. El mismo fichero de\n"
+                                "medias da siempre los mismos bytes.",
+                                "sintetizar -o mis-datos\nsintetizar --normales otras.csv -o mis-datos"});
+  AnadirValor(orden, "-o,--salida", datos->salida, "DIRECTORIO", "Donde se escriben (obligatorio)")
+      ->required();
+  AnadirValor(orden, "--normales", datos->normales, "CSV",
+              "Medias mensuales (si no se dan, datos/normales.csv junto al programa)");
+  AnadirRegistro(orden, datos->registro);
+  orden.callback(
+      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+}
+
+} // namespace tesmo::cli

@@ -1,0 +1,111 @@
+#include "cli/Ordenes.h"
+
+#include "cli/Argumentos.h"
+#include "cli/Opcionesseleccion.h"
+#include "cli/Tabla.h"
+#include "solar/Posicionsolar.h"
+
+#include <memory>
+
+namespace tesmo::cli {
+
+namespace {
+
+constexpr double POLO = 90.0; ///< latitud [º] del polo
+
+struct Datos {
+  std::optional<std::string> latitud, mes, dia, hora, registro;
+  bool json = false;
+};
+
+/// Momento y lugar ya comprobados.
+struct Momento {
+  float latitud = 0.0F;
+  int mes = 1;
+  int dia = 1;
+  float hora = 0.0F;
+};
+
+Momento LeerMomento(const Datos &datos) {
+  Momento m;
+  m.latitud = static_cast<float>(LeerNumero(*datos.latitud, "LAT", -POLO, POLO));
+  m.mes = LeerEntero(*datos.mes, "MES", 1, 12);
+  m.dia = LeerEntero(*datos.dia, "DIA", 1, 31);
+  ComprobarDia(m.mes, m.dia, "DIA");
+  if (datos.hora) m.hora = static_cast<float>(LeerNumero(*datos.hora, "HORA", 0.0, HORAS_DEL_DIA));
+  return m;
+}
+
+Tabla Salida(const Momento &m) {
+  PosicionSolar sol(m.latitud, m.mes, m.dia, m.hora);
+  const SalidaPuesta horas = sol.CalcularSalidaPuesta(m.latitud, m.mes, m.dia);
+  Tabla tabla(Tabla::Forma::Registro, {"salida", "puesta", "declinacion"});
+  tabla.Anadir({static_cast<double>(horas.salida), static_cast<double>(horas.puesta),
+                static_cast<double>(sol.Declinacion())});
+  return tabla;
+}
+
+Tabla Vector(const Momento &m) {
+  PosicionSolar sol(m.latitud, m.mes, m.dia, m.hora);
+  const VectorSolar v = sol.CalcularVectorSolar(m.latitud, m.mes, m.dia, m.hora);
+  Tabla tabla(Tabla::Forma::Registro, {"S", "W", "Z"});
+  tabla.Anadir({static_cast<double>(v.s), static_cast<double>(v.w), static_cast<double>(v.z)});
+  return tabla;
+}
+
+Tabla Posicion(const Momento &m) {
+  PosicionSolar sol(m.latitud, m.mes, m.dia, m.hora);
+  const AngulosSolares a = sol.CalcularPosicion(m.latitud, m.mes, m.dia, m.hora);
+  Tabla tabla(Tabla::Forma::Registro, {"acimut", "altura", "cenit", "dia"});
+  tabla.Anadir({static_cast<double>(a.acimut), static_cast<double>(a.altura), static_cast<double>(a.cenit),
+                sol.EsDeDia() ? 1 : 0});
+  return tabla;
+}
+
+void RegistrarUna(CLI::App &sol, Contexto &contexto, const std::string &nombre, const AyudaOrden &ayuda,
+                  Tabla (*calcular)(const Momento &), bool conHora) {
+  const auto datos = std::make_shared<Datos>();
+  CLI::App &orden = NuevaOrden(sol, nombre, ayuda);
+  AnadirArgumento(orden, "LAT", datos->latitud, "Latitud [º], norte positivo")->required();
+  AnadirArgumento(orden, "MES", datos->mes, "1 a 12")->required();
+  AnadirArgumento(orden, "DIA", datos->dia, "Día del mes, sin 29 de febrero")->required();
+  if (conHora) AnadirArgumento(orden, "HORA", datos->hora, "Hora solar verdadera, 0 a 24")->required();
+  AnadirRegistro(orden, datos->registro);
+  AnadirJson(orden, datos->json);
+  orden.callback([datos, &contexto, calcular] {
+    contexto.accion = [datos, &contexto, calcular] {
+      const Momento momento = LeerMomento(*datos);
+      IniciarRegistro(datos->registro);
+      contexto.salida << calcular(momento).Como(datos->json);
+    };
+  });
+}
+
+} // namespace
+
+void RegistrarSol(CLI::App &raiz, Contexto &contexto) {
+  CLI::App &sol = NuevaOrden(raiz, "sol",
+                             {"Geometría solar de un lugar y un momento",
+                              "Horas en tiempo solar verdadero: 12 es el mediodía. Año de 365 días.",
+                              "sol salida 36.84 6 21\nsol posicion -33.5 12 21 9.5"});
+  sol.require_subcommand(1);
+  RegistrarUna(
+      sol, contexto, "salida",
+      {"Horas de salida y de puesta y declinación",
+       "Escribe en una línea salida y puesta [h] y declinación [º]: -1 y 25 si el sol no se pone, -1 y -1 "
+       "si no sale.",
+       "sol salida 36.84 6 21"},
+      Salida, false);
+  RegistrarUna(sol, contexto, "vector",
+               {"Vector unitario hacia el sol",
+                "Escribe sus componentes sur, oeste y cenit; de noche, tres ceros.",
+                "sol vector 36.84 6 21 10.5"},
+               Vector, true);
+  RegistrarUna(sol, contexto, "posicion",
+               {"Acimut, altura y cenit del sol",
+                "Escribe acimut (0 al sur, oeste positivo), altura y cenit [º], y 1 si es de día o 0 si no.",
+                "sol posicion 36.84 6 21 10.5"},
+               Posicion, true);
+}
+
+} // namespace tesmo::cli
