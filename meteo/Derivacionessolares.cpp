@@ -1,7 +1,7 @@
 #include "meteo/Derivacionessolares.h"
 
-#include "meteo/Derivacioneshorizonte.h"
 #include "meteo/Derivacionesrecorrido.h"
+#include "solar/Alturashorizonte.h"
 #include "solar/Posicionsolar.h"
 
 #include <cmath>

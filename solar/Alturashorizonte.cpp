@@ -1,4 +1,4 @@
-#include "meteo/Derivacioneshorizonte.h"
+#include "solar/Alturashorizonte.h"
 
 #include <algorithm>
 #include <cmath>
