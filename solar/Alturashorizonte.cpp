@@ -33,7 +33,7 @@ void AlturasDeHorizonte::TenderTramo(float x0, float y0, float x1, float y1, Mar
   const auto primero = static_cast<int>(std::clamp(std::ceil(static_cast<double>(x0)), -limite, limite + 1));
   const auto ultimo = static_cast<int>(std::clamp(std::floor(static_cast<double>(x1)), -limite - 1, limite));
   for (int grado = primero; grado <= ultimo; ++grado) {
-    const auto k = static_cast<std::size_t>(grado + ACIMUT_MAXIMO);
+    const std::size_t k = Posicion(grado);
     if (puestos[k]) continue;
     puestos[k] = true;
     alturas_[k] = static_cast<float>(y0 + pendiente * (grado - static_cast<double>(x0)));
@@ -42,7 +42,7 @@ void AlturasDeHorizonte::TenderTramo(float x0, float y0, float x1, float y1, Mar
 
 void AlturasDeHorizonte::PonerPunto(float x, float y, Marcas &puestos) {
   if (!EsPunto(x, y) || std::fabs(x) > MEDIA_VUELTA || x != std::trunc(x)) return;
-  const auto k = static_cast<std::size_t>(static_cast<int>(x) + ACIMUT_MAXIMO);
+  const std::size_t k = Posicion(static_cast<int>(x));
   if (puestos[k]) return;
   puestos[k] = true;
   alturas_[k] = y;

@@ -23,9 +23,7 @@ public:
   AlturasDeHorizonte(const std::vector<float> &x, const std::vector<float> &y);
 
   /// Altura [°] en el grado entero @p acimut, de −180 a 180.
-  [[nodiscard]] float EnGrado(int acimut) const {
-    return alturas_[static_cast<std::size_t>(acimut + ACIMUT_MAXIMO)];
-  }
+  [[nodiscard]] float EnGrado(int acimut) const { return alturas_[Posicion(acimut)]; }
   /// ¿Tapa el horizonte un sol a @p altura en @p acimut [°]? El acimut se trunca a grados; fuera de −180..180
   /// no tapa nada.
   [[nodiscard]] bool Tapa(float acimut, float altura) const;
@@ -37,6 +35,10 @@ private:
   static constexpr std::size_t GRADOS = 2 * ACIMUT_MAXIMO + 1;
   using Marcas = std::array<bool, GRADOS>;
 
+  [[nodiscard]] static std::size_t Posicion(int acimut) {
+    const int posicion = acimut + ACIMUT_MAXIMO;
+    return static_cast<std::size_t>(posicion);
+  }
   void TenderTramo(float x0, float y0, float x1, float y1, Marcas &puestos);
   void PonerPunto(float x, float y, Marcas &puestos);
 

@@ -1,6 +1,7 @@
 #include "meteo/Derivacionessolares.h"
 #include "meteo/Fecha.h"
 #include "solar/Posicionsolar.h"
+#include "tests/comun/Rejilla.h"
 
 #include <gtest/gtest.h>
 
@@ -45,8 +46,8 @@ protected:
 
 TEST_F(Solares, SinHorizonteLaDifusaEsLaMitadYLaReflejadaLaMitadDelAlbedo) {
   PonHora(MEDIODIA_DE_JUNIO, 700.0F, 120.0F, -10.0F, 15.0F);
-  for (float inclinacion = 0.0F; inclinacion <= 180.0F; inclinacion += 30.0F) {
-    for (float orientacion = -180.0F; orientacion <= 180.0F; orientacion += 22.5F) {
+  for (const float inclinacion : prueba::Rejilla(0.0F, 180.0F, 30.0F)) {
+    for (const float orientacion : prueba::Rejilla(-180.0F, 180.0F, 22.5F)) {
       EXPECT_EQ(Derivar(MEDIODIA_DE_JUNIO, {inclinacion, orientacion, 0.25F}), 0.5F);
       EXPECT_FLOAT_EQ(Valor(SerieDerivada::Difusa), 60.0F);
       EXPECT_FLOAT_EQ(Valor(SerieDerivada::Reflejada), 0.5F * 820.0F * 0.25F);

@@ -5,6 +5,7 @@
 
 #include "core/Calendario.h"
 #include "solar/Posicionsolar.h"
+#include "tests/comun/Rejilla.h"
 
 #include <gtest/gtest.h>
 
@@ -60,10 +61,10 @@ TEST(Almanaque, DeclinacionDentroDelErrorDelModelo) {
 
 TEST(Almanaque, AlturaEnTodaLatitud) {
   int comparadas = 0;
-  for (float latitud = -89.0F; latitud <= 89.0F; latitud += 1.0F) {
+  for (const float latitud : prueba::Rejilla(-89.0F, 89.0F, 1.0F)) {
     PosicionSolar sol(latitud, 1, 1, 12.0F);
     ParaCadaDia(9, [&](int mes, int dia, double spencer) {
-      for (float hora = 0.5F; hora < 24.0F; hora += 1.0F) {
+      for (const float hora : prueba::Rejilla(0.5F, 24.0F, 1.0F)) {
         const AngulosSolares angulos = sol.CalcularPosicion(latitud, mes, dia, hora);
         ASSERT_FALSE(std::isnan(angulos.acimut) || std::isnan(angulos.altura) || std::isnan(angulos.cenit));
         const double error = std::fabs(static_cast<double>(sol.Declinacion()) - spencer);
@@ -84,10 +85,10 @@ TEST(Almanaque, AlturaEnTodaLatitud) {
 TEST(Almanaque, AcimutAlNorteDelEcuador) {
   constexpr double ALTURA_MAXIMA = 75.0; // más arriba un grado de declinación mueve mucho el acimut
   int comparadas = 0;
-  for (float latitud = 1.0F; latitud <= 89.0F; latitud += 4.0F) {
+  for (const float latitud : prueba::Rejilla(1.0F, 89.0F, 4.0F)) {
     PosicionSolar sol(latitud, 1, 1, 12.0F);
     ParaCadaDia(9, [&](int mes, int dia, double spencer) {
-      for (float hora = 0.5F; hora < 24.0F; hora += 1.0F) {
+      for (const float hora : prueba::Rejilla(0.5F, 24.0F, 1.0F)) {
         const AngulosSolares angulos = sol.CalcularPosicion(latitud, mes, dia, hora);
         if (!sol.EsDeDia() || angulos.altura > ALTURA_MAXIMA) continue;
         const double delta = std::fabs(static_cast<double>(sol.Declinacion()) - spencer);
@@ -104,7 +105,7 @@ TEST(Almanaque, AcimutAlNorteDelEcuador) {
 }
 
 TEST(Almanaque, SalidaYPuestaEnTodaLatitudConSolDiario) {
-  for (float latitud = -60.0F; latitud <= 60.0F; latitud += 1.0F) {
+  for (const float latitud : prueba::Rejilla(-60.0F, 60.0F, 1.0F)) {
     const double tangente = std::tan(latitud * RADIANES);
     ParaCadaDia(5, [&](int mes, int dia, double spencer) {
       const SalidaPuesta sol = HorasDeSol(latitud, DeclinacionSolar(mes, dia));
@@ -121,10 +122,10 @@ TEST(Almanaque, SalidaYPuestaEnTodaLatitudConSolDiario) {
 // Con la declinación del propio modelo, el vector sólo puede diferir del triángulo de posición en el
 // redondeo.
 TEST(Almanaque, ElVectorEsElDelTrianguloDePosicion) {
-  for (float latitud = 1.0F; latitud <= 89.0F; latitud += 2.0F) {
+  for (const float latitud : prueba::Rejilla(1.0F, 89.0F, 2.0F)) {
     PosicionSolar sol(latitud, 1, 1, 12.0F);
     ParaCadaDia(11, [&](int mes, int dia, double) {
-      for (float hora = 0.25F; hora < 24.0F; hora += 0.5F) {
+      for (const float hora : prueba::Rejilla(0.25F, 24.0F, 0.5F)) {
         const AngulosSolares angulos = sol.CalcularPosicion(latitud, mes, dia, hora);
         if (!sol.EsDeDia() || angulos.altura > 89.0F) continue;
         const auto esperado = Almanaque(latitud, static_cast<double>(sol.Declinacion()), hora);

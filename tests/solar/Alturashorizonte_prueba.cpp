@@ -1,4 +1,5 @@
 #include "solar/Alturashorizonte.h"
+#include "tests/comun/Rejilla.h"
 
 #include <gtest/gtest.h>
 
@@ -94,7 +95,7 @@ TEST(Tapa, FueraDeLaVueltaNoTapaNada) {
 
 TEST(FactorDeCielo, SinHorizonteEsUnMedioConCualquierOrientacion) {
   const AlturasDeHorizonte horizonte;
-  for (float orientacion = -180.0F; orientacion <= 180.0F; orientacion += 0.125F) {
+  for (const float orientacion : prueba::Rejilla(-180.0F, 180.0F, 0.125F)) {
     ASSERT_EQ(horizonte.FactorDeCielo(orientacion), 0.5F) << orientacion;
   }
 }

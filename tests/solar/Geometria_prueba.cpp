@@ -1,5 +1,6 @@
 #include "core/Calendario.h"
 #include "solar/Geometria.h"
+#include "tests/comun/Rejilla.h"
 
 #include <gtest/gtest.h>
 
@@ -88,8 +89,8 @@ TEST(Vector, EjemploPublicadoDeCenitYAcimut) {
 }
 
 TEST(Vector, EsUnitario) {
-  for (float latitud = -89.0F; latitud <= 89.0F; latitud += 8.9F) {
-    for (float hora = 0.0F; hora <= 24.0F; hora += 0.37F) {
+  for (const float latitud : prueba::Rejilla(-89.0F, 89.0F, 8.9F)) {
+    for (const float hora : prueba::Rejilla(0.0F, 24.0F, 0.37F)) {
       const VectorSolar sol = VectorDeDia(latitud, 17.3L, hora);
       EXPECT_NEAR(static_cast<double>(sol.s * sol.s + sol.w * sol.w + sol.z * sol.z), 1.0, 1e-15);
     }
@@ -112,7 +113,7 @@ TEST(Vector, AlSurDelEcuadorElSentidoNorteSurQuedaInvertido) {
 TEST(Vector, ElRadicandoNegativoCuentaComoCero) {
   // Con el sol en el cenit, 1 − W² − Z² es cero salvo el redondeo, que no puede dar un valor que no sea
   // número.
-  for (float latitud = -23.0F; latitud <= 23.0F; latitud += 0.25F) {
+  for (const float latitud : prueba::Rejilla(-23.0F, 23.0F, 0.25F)) {
     const VectorSolar sol = VectorDeDia(latitud, latitud, 12.0F);
     EXPECT_FALSE(std::isnan(sol.s));
     const auto posicion = PosicionDesdeVector(sol);

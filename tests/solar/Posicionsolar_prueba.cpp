@@ -1,4 +1,5 @@
 #include "solar/Posicionsolar.h"
+#include "tests/comun/Rejilla.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +26,7 @@ TEST(Polo, EnJunioTodaHoraEsDeDia) {
   PosicionSolar sol(POLO, 6, 21, 0.0F);
   EXPECT_EQ(sol.HorasDelDia().salida, -1.0F);
   EXPECT_EQ(sol.HorasDelDia().puesta, 25.0F);
-  for (float hora = 0.0F; hora <= 24.0F; hora += 0.5F) {
+  for (const float hora : prueba::Rejilla(0.0F, 24.0F, 0.5F)) {
     const VectorSolar v = sol.CalcularVectorSolar(POLO, 6, 21, hora);
     EXPECT_TRUE(sol.EsDeDia()) << hora;
     EXPECT_GT(v.z, 0.0L);
@@ -36,7 +37,7 @@ TEST(Polo, EnDiciembreTodaHoraEsNoche) {
   PosicionSolar sol(POLO, 12, 21, 12.0F);
   EXPECT_EQ(sol.HorasDelDia().salida, -1.0F);
   EXPECT_EQ(sol.HorasDelDia().puesta, -1.0F);
-  for (float hora = 0.0F; hora <= 24.0F; hora += 0.5F) {
+  for (const float hora : prueba::Rejilla(0.0F, 24.0F, 0.5F)) {
     const VectorSolar v = sol.CalcularVectorSolar(POLO, 12, 21, hora);
     EXPECT_FALSE(sol.EsDeDia());
     EXPECT_TRUE(v.s == 0.0L && v.w == 0.0L && v.z == 0.0L);
@@ -74,7 +75,7 @@ TEST(CalcularPosicion, AMediodiaElAcimutEsCeroOCientoOchenta) {
 TEST(CalcularPosicion, LaMananaEsNegativaYLaTardePositiva) {
   PosicionSolar sol(ALMERIA, 1, 1, 12.0F);
   for (int mes = 1; mes <= 12; ++mes) {
-    for (float hora = 8.0F; hora < 12.0F; hora += 0.5F) {
+    for (const float hora : prueba::Rejilla(8.0F, 11.75F, 0.5F)) {
       const float manana = sol.CalcularPosicion(ALMERIA, mes, 15, hora).acimut;
       const float tarde = sol.CalcularPosicion(ALMERIA, mes, 15, 24.0F - hora).acimut;
       EXPECT_LT(manana, 0.0F);
@@ -93,7 +94,7 @@ TEST(CalcularPosicion, NoCambiaLosCamposGuardados) {
 }
 
 TEST(Calcular, CoincideConCalcularPosicionFueraDelMediodia) {
-  for (float hora = 6.0F; hora < 18.0F; hora += 0.35F) {
+  for (const float hora : prueba::Rejilla(6.0F, 18.0F, 0.35F)) {
     PosicionSolar sol(ALMERIA, 5, 10, hora);
     const AngulosSolares guardados = sol.Angulos();
     const AngulosSolares directos = sol.CalcularPosicion(ALMERIA, 5, 10, hora);
