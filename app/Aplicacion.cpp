@@ -47,7 +47,6 @@ QIcon Icono() {
 
 void PrepararAplicacion(QApplication &aplicacion) {
   QApplication::setApplicationName(QString::fromLatin1(TITULO));
-  QApplication::setApplicationDisplayName(QString::fromLatin1(TITULO));
   QApplication::setWindowIcon(Icono());
   const QString separador = QLocale::system().decimalPoint();
   Configuracionregional::IniciarDesdeEntorno(separador == QLatin1String(".") ? '.' : ',');

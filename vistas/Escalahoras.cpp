@@ -59,7 +59,7 @@ bool EsMarca(const FechaHora &fecha, const PasoHoras &paso) {
   if (paso.unidad == Unidad::Hora) return (fecha.hora - 1) % paso.cada == 0;
   if (fecha.hora != 1) return false;
   if (paso.unidad == Unidad::Mes) return fecha.dia == 1 && (fecha.mes - 1) % paso.cada == 0;
-  return (fecha.dia - 1) % paso.cada == 0 && fecha.dia + paso.cada / 2 <= DiasDelMes(fecha.mes);
+  return (fecha.dia - 1) % paso.cada == 0 && fecha.dia + paso.cada - 1 <= DiasDelMes(fecha.mes);
 }
 
 std::string FechaCorta(const FechaHora &fecha, bool conHora) {
@@ -141,7 +141,7 @@ std::string EscalaHoras::Nombrar(double x) const {
   const int k = static_cast<int>(Ajustar(x));
   const FechaHora fecha = Fecha(k);
   return std::to_string(fecha.dia) + " de " + std::string(MESES[static_cast<std::size_t>(fecha.mes - 1)]) +
-         ", hora " + std::to_string(fecha.hora) + " (" + std::to_string(k) + ")";
+         ", hora " + std::to_string(fecha.hora) + " (hora " + std::to_string(k) + " del período)";
 }
 
 std::vector<std::string> EscalaHoras::Encabezamientos() const { return {"n", "mes", "dia", "hora"}; }

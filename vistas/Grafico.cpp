@@ -64,6 +64,8 @@ void SacarLeyenda(QCustomPlot &trazo) {
   trazo.legend->setBorderPen(Qt::NoPen);
   trazo.legend->setRowSpacing(0);
   trazo.legend->setMargins(QMargins(0, 0, 0, 0));
+  // Sin esto, una leyenda vacía limitaría a cero el ancho de su columna, que es también la de los ejes.
+  trazo.legend->setMaximumSize(QWIDGETSIZE_MAX - 1, QWIDGETSIZE_MAX);
   trazo.legend->setVisible(false);
 }
 

@@ -1,0 +1,143 @@
+// El marco: ventanas de trabajo, menús, cierre y trabajo sin pantalla.
+
+#include "app/Demostracion.h"
+#include "meteo/Leermet.h"
+#include "tests/vistas/Manejo.h"
+
+#include <QAction>
+#include <QDir>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <optional>
+
+using namespace tesmo;
+using namespace tesmo::prueba;
+
+class PruebaMarco : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init() { marco_.emplace(); }
+  void cleanup() { marco_.reset(); }
+
+  void abreConUnaVentanaSobreElPrimerPrograma() {
+    QCOMPARE(marco_->marco.windowTitle().contains(QStringLiteral("Tesmo-A")), true);
+    QCOMPARE(Ventanas(), 1);
+    QCOMPARE(marco_->marco.Programas().size(), 1U);
+    QCOMPARE(marco_->marco.Programas()[0]->DameLeerMet(), marco_->Numero(0).Controlador().DameLeerMet());
+  }
+
+  void nuevoNumeraPorLasVentanasAbiertasYPuedeRepetir() {
+    Orden("mnuNuevo").trigger();
+    Orden("mnuNuevo").trigger();
+    QCOMPARE(marco_->Numero(1).Titulo(), QStringLiteral("Sin Nombre2"));
+    QCOMPARE(marco_->Numero(2).Titulo(), QStringLiteral("Sin Nombre3"));
+    Orden("mnuCerrar").trigger();
+    QTRY_COMPARE(Ventanas(), 2);
+    Orden("mnuNuevo").trigger();
+    QCOMPARE(marco_->Numero(2).Titulo(), QStringLiteral("Sin Nombre3"));
+    QCOMPARE(marco_->marco.Programas().size(), 4U);
+  }
+
+  void cerrarUnaVentanaDestruyeSusMotoresYNoDejaNadaColgando() {
+    Orden("mnuNuevo").trigger();
+    marco_->Numero(1).Localidad("Almería");
+    marco_->Numero(1).Pulsar("btnSimulacion");
+    Orden("mnuCerrar").trigger();
+    QTRY_COMPARE(Ventanas(), 1);
+    QCOMPARE(marco_->marco.Programas()[1]->DameLeerMet(), nullptr);
+    QVERIFY(!marco_->marco.Programas()[1]->HayDatos());
+    QVERIFY(marco_->marco.Programas()[0]->DameLeerMet() != nullptr);
+    marco_->Numero(0).Localidad("Níjar");
+    QVERIFY(marco_->Numero(0).Controlador().HayDatos());
+  }
+
+  void cerrarLaUltimaDejaElMarcoYNuevoAbreOtra() {
+    Orden("mnuCerrar").trigger();
+    QTRY_COMPARE(Ventanas(), 0);
+    QVERIFY(marco_->marco.isVisible());
+    Orden("mnuNuevo").trigger();
+    QCOMPARE(marco_->Numero(0).Titulo(), QStringLiteral("Sin Nombre1"));
+    marco_->Numero(0).Localidad("Almería");
+    QVERIFY(marco_->Numero(0).Controlador().HayDatos());
+  }
+
+  void cerrarTodoSinVentanasNoHaceNada() {
+    Orden("mnuNuevo").trigger();
+    Orden("mnuCerrarTodo").trigger();
+    QTRY_COMPARE(Ventanas(), 0);
+    Orden("mnuCerrarTodo").trigger();
+    Orden("mnuCerrar").trigger();
+    QVERIFY(marco_->marco.isVisible());
+  }
+
+  void salirCierraElMarcoConTodasSusVentanas() {
+    Orden("mnuNuevo").trigger();
+    marco_->Numero(1).Localidad("Almería");
+    Orden("mnuSalir").trigger();
+    QVERIFY(!marco_->marco.isVisible());
+    QTRY_COMPARE(Ventanas(), 0);
+  }
+
+  void abrirYCerrarMuchasVentanasNoPierdeNada() {
+    for (int i = 0; i < 30; ++i) {
+      Orden("mnuNuevo").trigger();
+      marco_->Numero(1).Localidad("Almería");
+      Orden("mnuCerrar").trigger();
+      QTRY_COMPARE(Ventanas(), 1);
+    }
+    auto *area = marco_->marco.findChild<QMdiArea *>();
+    QTRY_COMPARE(area->subWindowList().size(), 1);
+  }
+
+  void elMenuVentanaOrdenaYListaLasAbiertas() {
+    Orden("mnuNuevo").trigger();
+    auto *menu = marco_->marco.findChild<QMenu *>(QStringLiteral("mnuVentana"));
+    emit menu->aboutToShow();
+    QStringList textos;
+    for (const QAction *orden : menu->actions()) textos.append(orden->text());
+    QVERIFY(textos.contains(QStringLiteral("Sin Nombre1")));
+    QVERIFY(textos.contains(QStringLiteral("Sin Nombre2")));
+    menu->actions().at(textos.indexOf(QStringLiteral("Sin Nombre1")))->trigger();
+    auto *area = marco_->marco.findChild<QMdiArea *>();
+    QCOMPARE(area->activeSubWindow()->windowTitle(), QStringLiteral("Sin Nombre1"));
+    for (const char *orden : {"WindowCascade1", "WindowTileVertical1"}) {
+      Orden(orden).trigger();
+      for (const QMdiSubWindow *ventana : area->subWindowList()) {
+        QVERIFY2(ventana->widget()->width() >= 300 && ventana->height() >= 200, orden);
+      }
+    }
+  }
+
+  void laDemostracionDejaLasImagenesYLaExportacion() {
+    const QString destino = QString::fromStdString(TextoDeRuta(marco_->datos.Directorio() / "salida/dentro"));
+    QVERIFY(EjecutarDemostracion(marco_->marco, destino));
+    const QStringList ficheros = QDir(destino).entryList(QDir::Files);
+    QCOMPARE(ficheros.size(), 5);
+    for (const QString &fichero : ficheros) QVERIFY(QFileInfo(destino, fichero).size() > 1000);
+    const std::string exportado = Contenido(marco_->datos.Directorio() / "salida/dentro/almeria.met");
+    QCOMPARE(std::count(exportado.begin(), exportado.end(), '\n'), 4 + 8760);
+  }
+
+  void laDemostracionFallaSiNoPuedeHacerSuTrabajo() {
+    const std::string fichero = marco_->datos.Directorio().Escribir("ocupado", "no soy un directorio");
+    QVERIFY(!EjecutarDemostracion(marco_->marco, QString::fromStdString(fichero)));
+    std::filesystem::remove(marco_->datos.Directorio() / "Meteo/almeria.met");
+    QVERIFY(!EjecutarDemostracion(
+        marco_->marco, QString::fromStdString(TextoDeRuta(marco_->datos.Directorio() / "salida"))));
+  }
+
+private:
+  [[nodiscard]] QAction &Orden(const char *nombre) const {
+    auto *orden = marco_->marco.findChild<QAction *>(QString::fromLatin1(nombre));
+    if (!orden) qFatal("falta la orden %s", nombre);
+    return *orden;
+  }
+  [[nodiscard]] int Ventanas() const { return static_cast<int>(marco_->marco.Controladores().size()); }
+
+  std::optional<MarcoPrueba> marco_;
+};
+
+TESMO_PRUEBA_QT(PruebaMarco)
+#include "Marco_prueba.moc"
