@@ -11,6 +11,8 @@ namespace {
 constexpr double CLARIDAD_MINIMA = 0.05;
 constexpr double MEDIA_MINIMA = 0.1;
 constexpr double MEDIA_MAXIMA = 0.78;
+/// Lo que al menos dista el máximo de la media: sin ello no habría días distintos que repartir.
+constexpr double HOLGURA = 0.03;
 constexpr double AUTOCORRELACION = 0.29;
 /// Correlación supuesta entre claridad y recorrido de temperatura: Bristow y Campbell (1984) dan el signo y
 /// la fuerza de la relación pero no este número.
@@ -67,9 +69,12 @@ double Irradiacion(const SerieDias &claridad, const SolDelAnio &sol, std::size_t
 
 } // namespace
 
-DistribucionClaridad::DistribucionClaridad(double media) {
+double ClaridadDespejada(double altitud) { return 0.75 + 2e-5 * altitud; }
+
+DistribucionClaridad::DistribucionClaridad(double media, double despejado) {
   const double k = std::clamp(media, MEDIA_MINIMA, MEDIA_MAXIMA);
-  maximo_ = 0.6313 + 0.267 * k - 11.9 * std::pow(k - 0.75, 8.0);
+  const double publicado = 0.6313 + 0.267 * k - 11.9 * std::pow(k - 0.75, 8.0);
+  maximo_ = std::min(publicado, std::max(despejado, k + HOLGURA));
   double bajo = -GAMMA_LIMITE;
   double alto = GAMMA_LIMITE;
   for (int i = 0; i < BISECCIONES; ++i) {
@@ -95,10 +100,11 @@ SerieDias GenerarClaridad(const NormalesLocalidad &localidad, const SolDelAnio &
     guia[dia] = LIGADURA_RECORRIDO * recorrido[dia] + propio * guia[dia];
 
   SerieDias claridad(DIAS);
+  const double despejado = ClaridadDespejada(localidad.altitud);
   const SerieDias todoElSol(DIAS, 1.0);
   for (std::size_t mes = 0; mes < MESES; ++mes) {
     const double pedida = localidad.meses[mes].ghi * static_cast<double>(DiasDe(mes));
-    Repartir(claridad, guia, mes, DistribucionClaridad(pedida / Irradiacion(todoElSol, sol, mes)));
+    Repartir(claridad, guia, mes, DistribucionClaridad(pedida / Irradiacion(todoElSol, sol, mes), despejado));
     const double factor = pedida / Irradiacion(claridad, sol, mes);
     for (std::size_t dia = PrimerDiaDe(mes); dia < PrimerDiaDe(mes) + DiasDe(mes); ++dia)
       claridad[dia] *= factor;
