@@ -17,6 +17,8 @@ constexpr std::uint64_t SPLITMIX_B = 0x94d049bb133111ebU;
 /// Bits que caben en la mantisa de un double; los de menos peso se desechan.
 constexpr int BITS_MANTISA = 53;
 
+} // namespace
+
 std::uint64_t Splitmix(std::uint64_t &estado) {
   estado += SPLITMIX_PASO;
   std::uint64_t z = estado;
@@ -24,8 +26,6 @@ std::uint64_t Splitmix(std::uint64_t &estado) {
   z = (z ^ (z >> 27U)) * SPLITMIX_B;
   return z ^ (z >> 31U);
 }
-
-} // namespace
 
 std::uint64_t ResumenFnv(std::string_view texto) {
   std::uint64_t resumen = FNV_INICIO;

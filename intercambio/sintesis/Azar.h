@@ -16,6 +16,8 @@ class Azar {
 public:
   /// El mismo texto da siempre la misma sucesión; cada pieza de un año usa la suya para no mover a las demás.
   explicit Azar(std::string_view semilla);
+  /// Sigue desde un estado dado, que no puede ser todo ceros.
+  explicit Azar(const std::array<std::uint64_t, 4> &estado) : estado_(estado) {}
 
   /// 64 bits al azar.
   std::uint64_t Siguiente();
@@ -28,6 +30,8 @@ private:
   std::array<std::uint64_t, 4> estado_{};
 };
 
+/// Avanza @p estado y da el siguiente número de splitmix64.
+std::uint64_t Splitmix(std::uint64_t &estado);
 /// Resumen FNV-1a de 64 bits de @p texto.
 [[nodiscard]] std::uint64_t ResumenFnv(std::string_view texto);
 
