@@ -1,0 +1,57 @@
+#include "intercambio/sintesis/Soldelanio.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace tesmo {
+namespace {
+
+TEST(SolDelAnio, LaIrradiacionExtraterrestreEsLaDelEjemploPublicado) {
+  // Duffie y Beckman (1991), ejemplo 1.10.1: 43° N, 15 de abril, 33,8 MJ/m².
+  const SolDelAnio sol = CalcularSolDelAnio(43.0);
+  EXPECT_NEAR(sol.extraterrestre[104] * 3.6, 33.8, 0.05);
+}
+
+TEST(SolDelAnio, LaTierraEstaMasCercaDelSolEnEnero) {
+  EXPECT_NEAR(IrradianciaExtraterrestre(2), 1367.0 * 1.033, 1.0);
+  EXPECT_NEAR(IrradianciaExtraterrestre(184), 1367.0 * 0.967, 1.0);
+}
+
+TEST(SolDelAnio, LaEcuacionDelTiempoEsLaDelAlmanaque) {
+  // Extremos y un paso por cero, redondeados, de cualquier almanaque: 11 de febrero −14,2 min; 14 de mayo
+  // +3,7; 26 de julio −6,5; 3 de noviembre +16,4; 15 de abril 0.
+  EXPECT_NEAR(EcuacionDelTiempo(41) * 60.0, -14.2, 0.5);
+  EXPECT_NEAR(EcuacionDelTiempo(133) * 60.0, 3.7, 0.5);
+  EXPECT_NEAR(EcuacionDelTiempo(206) * 60.0, -6.5, 0.5);
+  EXPECT_NEAR(EcuacionDelTiempo(306) * 60.0, 16.4, 0.5);
+  EXPECT_NEAR(EcuacionDelTiempo(104) * 60.0, 0.0, 0.5);
+}
+
+TEST(SolDelAnio, DeNocheElCenitEs90YElAcimutCero) {
+  const SolDelAnio sol = CalcularSolDelAnio(37.0);
+  int noches = 0;
+  for (std::size_t i = 0; i < HORAS; ++i) {
+    if (sol.diurna[i]) continue;
+    ++noches;
+    EXPECT_EQ(sol.cenit[i], 90.0) << i;
+    EXPECT_EQ(sol.acimut[i], 0.0) << i;
+  }
+  EXPECT_NEAR(noches, 4380, 40);
+}
+
+TEST(SolDelAnio, PorLaMananaElSolEstaAlEsteYPorLaTardeAlOesteIgualDeAlto) {
+  const SolDelAnio sol = CalcularSolDelAnio(37.0);
+  for (std::size_t dia : {0UL, 79UL, 171UL, 265UL}) {
+    for (std::size_t h = 0; h < 12; ++h) {
+      const std::size_t manana = dia * HORAS_POR_DIA + h;
+      const std::size_t tarde = dia * HORAS_POR_DIA + 23 - h;
+      EXPECT_LE(sol.acimut[manana], 0.0);
+      EXPECT_NEAR(sol.acimut[manana], -sol.acimut[tarde], 0.011);
+      EXPECT_NEAR(sol.cenit[manana], sol.cenit[tarde], 0.011);
+    }
+  }
+}
+
+} // namespace
+} // namespace tesmo
