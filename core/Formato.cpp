@@ -52,16 +52,16 @@ namespace {
 constexpr int DECIMALES_MAXIMOS = 9;
 constexpr std::array<double, DECIMALES_MAXIMOS + 1> POTENCIAS_DE_10{1e0, 1e1, 1e2, 1e3, 1e4,
                                                                     1e5, 1e6, 1e7, 1e8, 1e9};
-/// Hasta aquí un real doble representa todos los enteros.
-constexpr double MAYOR_ENTERO_EXACTO = 9007199254740992.0; // 2^53
+/// Hasta aquí un real doble representa todos los enteros y sus mitades.
+constexpr double MAYOR_MITAD_EXACTA = 4503599627370496.0; // 2^52
 
 /// Valor absoluto en unidades del último decimal, redondeada la mitad hacia fuera. Un real de 32 bits tiene
-/// 24 bits y 10^d aporta como mucho 2,33·d: con hasta doce decimales el producto es exacto en un real doble.
+/// 24 bits y 10^9 aporta 21 más: el producto y la suma de la mitad son exactos en un real doble.
 bool EscalarExacto(double absoluto, int decimales, std::uint64_t &unidades) {
   const double escalado = absoluto * POTENCIAS_DE_10[static_cast<std::size_t>(decimales)];
   if (static_cast<double>(static_cast<float>(absoluto)) != absoluto) return false;
-  if (!(escalado < MAYOR_ENTERO_EXACTO)) return false;
-  unidades = static_cast<std::uint64_t>(std::round(escalado));
+  if (!(escalado < MAYOR_MITAD_EXACTA)) return false;
+  unidades = static_cast<std::uint64_t>(escalado + 0.5);
   return true;
 }
 
@@ -86,14 +86,6 @@ std::string CifrasExactas(double absoluto, int decimales) {
   return '1' + cifras;
 }
 
-std::string CifrasRedondeadas(double absoluto, int decimales) {
-  std::uint64_t unidades = 0;
-  if (!EscalarExacto(absoluto, decimales, unidades)) return CifrasExactas(absoluto, decimales);
-  std::array<char, 24> bufer{};
-  const auto [fin, error] = std::to_chars(bufer.data(), bufer.data() + bufer.size(), unidades);
-  return {bufer.data(), fin};
-}
-
 } // namespace
 
 void PatronNumero::Escribir(std::string &salida, double valor, char separador) const {
@@ -101,16 +93,43 @@ void PatronNumero::Escribir(std::string &salida, double valor, char separador) c
     salida += NoFinito(valor, "NAN", "INF");
     return;
   }
-  std::string cifras = CifrasRedondeadas(std::fabs(valor), decimalesMaximos_);
+  std::uint64_t unidades = 0;
+  if (EscalarExacto(std::fabs(valor), decimalesMaximos_, unidades)) {
+    EscribirUnidades(salida, unidades, valor < 0, separador);
+  } else {
+    EscribirCifras(salida, CifrasExactas(std::fabs(valor), decimalesMaximos_), valor < 0, separador);
+  }
+}
+
+void PatronNumero::EscribirUnidades(std::string &salida, std::uint64_t unidades, bool negativo,
+                                    char separador) const {
+  std::array<char, 40> bufer; // se llena de atrás adelante y sólo se copia lo escrito
+  char *const fin = bufer.data() + bufer.size();
+  char *p = fin;
+  const bool conSigno = negativo && unidades != 0;
+  for (int d = decimalesMaximos_; d > 0; --d, unidades /= 10) {
+    const auto cifra = static_cast<char>('0' + unidades % 10);
+    if (cifra != '0' || d <= decimalesMinimos_ || p != fin) *--p = cifra;
+  }
+  if (p != fin) *--p = separador;
+  for (int e = enteros_; unidades != 0 || e > 0; --e, unidades /= 10) {
+    *--p = static_cast<char>('0' + unidades % 10);
+  }
+  if (conSigno) *--p = '-';
+  salida.append(p, fin);
+}
+
+void PatronNumero::EscribirCifras(std::string &salida, std::string cifras, bool negativo,
+                                  char separador) const {
   const auto minimo = static_cast<std::size_t>(decimalesMaximos_ + enteros_);
   const std::size_t ceros = cifras.find_first_not_of('0');
   const bool esCero = ceros == std::string::npos;
   cifras.erase(0, esCero ? cifras.size() : ceros);
   if (cifras.size() < minimo) cifras.insert(0, minimo - cifras.size(), '0');
-  if (valor < 0 && !esCero) salida += '-';
+  if (negativo && !esCero) salida += '-';
   const std::size_t enteros = cifras.size() - static_cast<std::size_t>(decimalesMaximos_);
   salida.append(cifras, 0, enteros);
-  std::size_t decimales = static_cast<std::size_t>(decimalesMaximos_);
+  auto decimales = static_cast<std::size_t>(decimalesMaximos_);
   while (decimales > static_cast<std::size_t>(decimalesMinimos_) && cifras[enteros + decimales - 1] == '0') {
     --decimales;
   }

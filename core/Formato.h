@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,9 @@ public:
   void Escribir(std::string &salida, double valor, char separador) const;
 
 private:
+  void EscribirUnidades(std::string &salida, std::uint64_t unidades, bool negativo, char separador) const;
+  void EscribirCifras(std::string &salida, std::string cifras, bool negativo, char separador) const;
+
   int enteros_ = 0;
   int decimalesMinimos_ = 0;
   int decimalesMaximos_ = 0;
