@@ -102,7 +102,7 @@ Creacion SustituirEntero(const fs::path &ruta, std::string_view contenido, bool 
   const fs::path temporal = RutaTemporalJunto(ruta);
   const Creacion creacion = CrearFicheroNuevo(temporal);
   if (creacion != Creacion::Hecha) return creacion;
-  bool hecho = Volcar(temporal, contenido, std::ios::trunc) && LlevarADisco(temporal);
+  bool hecho = Volcar(temporal, contenido, std::ios::trunc);
   if (hecho && existia) ConservarDuenoYPermisos(ruta, temporal);
   if (hecho) {
     fs::rename(temporal, ruta, error);

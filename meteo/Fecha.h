@@ -4,8 +4,8 @@
 
 namespace tesmo {
 
-/// Posición de una hora en toda serie horaria: (días antes del mes + día − 1) × 24 + (hora − 1), horas 1 a 24.
-/// Un mes fuera de 1..12 da hora − 1, sea cual sea el día.
+/// Posición de una hora en toda serie horaria: (días antes del mes + día − 1) × 24 + (hora − 1), horas 1
+/// a 24. Un mes fuera de 1..12 da hora − 1, sea cual sea el día.
 [[nodiscard]] int IndiceHora(int mes, int dia, int hora);
 /// Avanza la fecha una hora en su sitio; del 31 de diciembre a las 24 pasa al mes 13.
 void SiguienteHora(int &mes, int &dia, int &hora);

@@ -17,6 +17,7 @@ std::string Semilla(std::mt19937 &azar) {
 }
 
 void Mutar(std::string &texto, std::mt19937 &azar) {
+  if (texto.empty()) return;
   const std::string trozos[] = {"e",
                                 "1e+",
                                 "0x",
