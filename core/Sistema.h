@@ -17,8 +17,6 @@ enum class Creacion { Hecha, SinPermiso, Imposible };
 [[nodiscard]] Creacion CrearFicheroNuevo(const std::filesystem::path &ruta);
 /// ¿Puede este proceso escribir en el fichero @p ruta, que existe?
 [[nodiscard]] bool SePuedeEscribir(const std::filesystem::path &ruta);
-/// Espera a que lo escrito en @p ruta esté en el disco; falso si el sistema dice que no llegó.
-[[nodiscard]] bool LlevarADisco(const std::filesystem::path &ruta);
 /// Da a @p copia los permisos de @p original y, si el sistema deja, su dueño.
 void ConservarDuenoYPermisos(const std::filesystem::path &original, const std::filesystem::path &copia);
 

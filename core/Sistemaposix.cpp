@@ -47,14 +47,6 @@ Creacion CrearFicheroNuevo(const fs::path &ruta) {
 
 bool SePuedeEscribir(const fs::path &ruta) { return ::access(ruta.c_str(), W_OK) == 0; }
 
-bool LlevarADisco(const fs::path &ruta) {
-  const int descriptor = ::open(ruta.c_str(), O_WRONLY | O_CLOEXEC);
-  if (descriptor < 0) return false;
-  // Hay sistemas de ficheros que no saben sincronizar y lo dicen con EINVAL: no es una pérdida.
-  const bool bien = ::fsync(descriptor) == 0 || errno == EINVAL;
-  return ::close(descriptor) == 0 && bien;
-}
-
 void ConservarDuenoYPermisos(const fs::path &original, const fs::path &copia) {
   struct stat datos {};
   if (::stat(original.c_str(), &datos) != 0) return;

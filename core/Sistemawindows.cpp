@@ -42,13 +42,6 @@ bool SePuedeEscribir(const fs::path &ruta) {
   return _waccess(ruta.c_str(), ESCRITURA) == 0;
 }
 
-bool LlevarADisco(const fs::path &ruta) {
-  int descriptor = -1;
-  if (_wsopen_s(&descriptor, ruta.c_str(), _O_WRONLY | _O_BINARY, _SH_DENYNO, _S_IWRITE) != 0) return false;
-  const bool bien = _commit(descriptor) == 0;
-  return _close(descriptor) == 0 && bien;
-}
-
 void ConservarDuenoYPermisos(const fs::path &original, const fs::path &copia) {
   std::error_code error;
   const fs::file_status estado = fs::status(original, error);
