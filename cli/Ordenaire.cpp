@@ -49,6 +49,7 @@ void Ejecutar(const Datos &datos, Contexto &contexto) {
   AbrirRegistroEn([&contexto](std::string_view texto) { contexto.error << texto << '\n'; });
   (aire.*fijar)(a, b, p);
   std::vector<Celda> valores;
+  valores.reserve(CODIGOS.size());
   for (const std::string &codigo : CODIGOS) valores.emplace_back(static_cast<double>(aire.dame(codigo)));
   CerrarRegistro();
   Tabla tabla(Tabla::Forma::Propiedades, CODIGOS);

@@ -43,6 +43,7 @@ void AnadirLinea(std::string &texto, const std::vector<std::string> &partes) {
 
 std::vector<std::string> Textos(const std::vector<Celda> &fila) {
   std::vector<std::string> textos;
+  textos.reserve(fila.size());
   for (const Celda &celda : fila) textos.push_back(Texto(celda));
   return textos;
 }

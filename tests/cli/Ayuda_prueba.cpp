@@ -18,7 +18,7 @@ void SinIngles(const std::string &texto) {
 }
 
 TEST_F(AyudaYErrores, CadaOrdenTieneAyudaEnEspanolConEjemplos) {
-  for (Argumentos argumentos : ORDENES) {
+  for (const Argumentos &argumentos : ORDENES) {
     for (const char *opcion : {"--help", "-h"}) {
       Argumentos completos = argumentos;
       completos.emplace_back(opcion);

@@ -25,6 +25,7 @@ std::vector<std::string> Partir(const std::string &texto, char separador) {
 [[noreturn]] void Sustituir(const std::vector<std::string> &argumentos, const std::string &directorio,
                             const std::string &salida, const std::string &error) {
   std::vector<char *> argv;
+  argv.reserve(argumentos.size() + 1);
   for (const std::string &argumento : argumentos) argv.push_back(const_cast<char *>(argumento.c_str()));
   argv.push_back(nullptr);
   const int modo = O_WRONLY | O_CREAT | O_TRUNC;
