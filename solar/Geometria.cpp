@@ -29,10 +29,9 @@ AngulosSolares ConCenit(float acimut, float altura) {
   return {acimut, altura, static_cast<float>(ANGULO_RECTO - altura)};
 }
 
-/// Con declinación y latitud nulas el cociente no es número y cuenta como el sol al norte.
-bool SolAlNorte(long double cosHora, long double phi, long double delta) {
-  const auto cociente = static_cast<float>(std::tan(delta) / (std::tan(phi) + 0.0L)); // −0 vale como 0
-  return !(cosHora >= cociente);
+/// Una latitud de −0° vale como 0°.
+float CocienteDeTangentes(long double phi, long double delta) {
+  return static_cast<float>(std::tan(delta) / (std::tan(phi) + 0.0L));
 }
 
 } // namespace
@@ -56,18 +55,26 @@ bool EsHoraDeDia(const SalidaPuesta &sol, float hora) {
   return sol.salida * TOLERANCIA_SALIDA < hora && sol.puesta * TOLERANCIA_PUESTA > hora;
 }
 
-VectorSolar VectorDeDia(float latitud, long double declinacion, float hora) {
-  const auto omega = static_cast<float>((hora - MEDIODIA) * GRADOS_POR_HORA);
+SolSobreElLugar::SolSobreElLugar(float latitud, long double declinacion) {
   const long double phi = latitud * GRADO_EN_RADIANES;
   const long double delta = declinacion * GRADO_EN_RADIANES;
+  cosDelta_ = std::cos(delta);
+  cosenos_ = std::cos(phi) * cosDelta_;
+  senos_ = std::sin(phi) * std::sin(delta);
+  cociente_ = CocienteDeTangentes(phi, delta);
+}
+
+VectorSolar SolSobreElLugar::Vector(float hora) const {
+  const auto omega = static_cast<float>((hora - MEDIODIA) * GRADOS_POR_HORA);
   const long double horario = omega * GRADO_EN_RADIANES;
   const long double cosHora = std::cos(horario);
-  const long double cosDelta = std::cos(delta);
   VectorSolar sol{};
-  sol.z = std::cos(phi) * cosDelta * cosHora + std::sin(phi) * std::sin(delta);
-  sol.w = cosDelta * std::sin(horario);
+  sol.z = cosenos_ * cosHora + senos_;
+  sol.w = cosDelta_ * std::sin(horario);
   sol.s = RaizSegura(1.0L - sol.w * sol.w - sol.z * sol.z);
-  if (SolAlNorte(cosHora, phi, delta)) sol.s = -sol.s;
+  // Con declinación y latitud nulas el cociente no es número y cuenta como el sol al norte.
+  const bool alNorte = !(cosHora >= cociente_);
+  if (alNorte) sol.s = -sol.s;
   return sol;
 }
 

@@ -38,9 +38,26 @@ struct AngulosSolares {
 /// a la de salida o a la de puesta es de noche.
 [[nodiscard]] bool EsHoraDeDia(const SalidaPuesta &sol, float hora);
 
-/// Vector hacia el sol a la @p hora de un momento de día. El signo del sur sigue una sola regla en los dos
-/// hemisferios (se conserva), así que al sur del ecuador la componente sur no es de fiar.
-[[nodiscard]] VectorSolar VectorDeDia(float latitud, long double declinacion, float hora);
+/// Lo que el vector solar de un día no cambia de una hora a otra.
+class SolSobreElLugar {
+public:
+  /// @param latitud [°]; @param declinacion [°]
+  SolSobreElLugar(float latitud, long double declinacion);
+  /// Vector hacia el sol a la @p hora de un momento de día. El signo del sur sigue una sola regla en los dos
+  /// hemisferios (se conserva), así que al sur del ecuador la componente sur no es de fiar.
+  [[nodiscard]] VectorSolar Vector(float hora) const;
+
+private:
+  long double cosDelta_;
+  long double cosenos_; ///< producto de los de latitud y declinación
+  long double senos_;   ///< producto de los de latitud y declinación
+  float cociente_;      ///< tangente de la declinación entre la de la latitud
+};
+
+/// Vector de un solo momento de día.
+[[nodiscard]] inline VectorSolar VectorDeDia(float latitud, long double declinacion, float hora) {
+  return SolSobreElLugar(latitud, declinacion).Vector(hora);
+}
 
 /// Ángulos de un vector solar y si son de día; el sol degenerado en el cenit da 0, 0 y 90 y es noche.
 struct PosicionDeVector {
@@ -48,6 +65,8 @@ struct PosicionDeVector {
   bool esDeDia;
 };
 [[nodiscard]] PosicionDeVector PosicionDesdeVector(const VectorSolar &sol);
+/// Lo que da PosicionDesdeVector del vector nulo de la noche.
+inline constexpr PosicionDeVector POSICION_DE_NOCHE{{0.0F, 0.0F, 90.0F}, false};
 
 /// Ángulos del vector (@p x sur, @p y oeste, @p z cenit). Con y = 0 y x distinto de 0 el acimut no se
 /// calcula: queda el que había en @p angulos multiplicado por 180/π (se conserva).
