@@ -1,80 +1,109 @@
 #include "extremos/Diasextremos.h"
 
-#include "core/Formato.h"
+#include "core/Error.h"
+#include "core/Ficheros.h"
+#include "core/Mensajes.h"
+#include "core/Rutas.h"
+#include "extremos/Escritordias.h"
+#include "localidades/Ciudad.h"
+
+#include <algorithm>
+#include <filesystem>
 
 namespace tesmo {
 
 namespace {
 
-constexpr float PERCENTIL_MAXIMO = 100.0F;
-constexpr float PERCENTIL_CALEFACCION = 99.0F;
-constexpr float PERCENTIL_REFRIGERACION = 1.0F;
-constexpr std::int32_t ULTIMO_MES = 12;
-constexpr std::int32_t MES_CALEFACCION = 1;
-constexpr std::int32_t MES_REFRIGERACION = 7;
-constexpr std::string_view PATRON_PERCENTIL = "0.0##";
+constexpr int ULTIMO_MES = 12;
+constexpr const char *FICHERO_ESTADISTICAS = "GDR.TXT";
+constexpr const char *FICHERO_CALEFACCION = "extreCal.met";
+constexpr const char *FICHERO_REFRIGERACION = "extreRef.met";
+constexpr const char *FICHERO_SALIDA = "salida.txt";
+
+bool EsMes(int mes) { return mes >= 1 && mes <= ULTIMO_MES; }
 
 } // namespace
 
-DiasExtremos::DiasExtremos() : ObjetoBase("DiasExtremos") { colores_.fill(ENTRADA_BLANCO); }
+bool DiasExtremos::primeraVez_ = true;
 
-std::string DiasExtremos::DameTexto(std::string_view clave) const {
-  if (clave == "Localidad") return localidad_;
-  if (clave == "Provincia") return provincia_;
-  if (clave == "Percentil calefacción") return FormatearPatron(percentilCalefaccion_, PATRON_PERCENTIL);
-  if (clave == "Percentil refrigeración") return FormatearPatron(percentilRefrigeracion_, PATRON_PERCENTIL);
-  if (clave == "Mes calefacción") return std::to_string(mesCalefaccion_);
-  if (clave == "Mes refrigeración") return std::to_string(mesRefrigeracion_);
-  return {};
+DiasExtremos::DiasExtremos() : ObjetoBase("DiasExtremos") {
+  colores_.fill(ENTRADA_BLANCO);
+  primeraVez_ = true;
 }
 
-void DiasExtremos::DameReal(std::string_view clave, float &valor) const {
-  if (clave == "Percentil calefacción") valor = percentilCalefaccion_;
-  if (clave == "Percentil refrigeración") valor = percentilRefrigeracion_;
-  if (clave == "Mes calefacción") valor = static_cast<float>(mesCalefaccion_);
-  if (clave == "Mes refrigeración") valor = static_cast<float>(mesRefrigeracion_);
+extremos::AjustesEstacion DiasExtremos::AjustesCalefaccion() const {
+  return {percentilCalefaccion_, temporadaCalefaccion_, mesCalefaccion_};
 }
 
-void DiasExtremos::DameEntero(std::string_view clave, std::int32_t &valor) const {
-  if (clave == "Mes calefacción") valor = mesCalefaccion_;
-  if (clave == "Mes refrigeración") valor = mesRefrigeracion_;
+extremos::AjustesEstacion DiasExtremos::AjustesRefrigeracion() const {
+  return {percentilRefrigeracion_, temporadaRefrigeracion_, mesRefrigeracion_};
 }
 
-void DiasExtremos::DameEstado(std::string_view clave, std::int32_t &estado) const {
-  if (clave == "Provincia") estado = colores_[COLOR_PROVINCIA];
-  if (clave == "Localidad") estado = colores_[COLOR_LOCALIDAD];
-  if (clave == "Percentil calefacción") estado = colores_[COLOR_PER_CAL];
-  if (clave == "Percentil refrigeración") estado = colores_[COLOR_PER_REF];
-  if (clave == "Mes calefacción") estado = colores_[COLOR_MES_CAL];
-  if (clave == "Mes refrigeración") estado = colores_[COLOR_MES_REF];
+bool DiasExtremos::Calcular() {
+  const std::string clave = DameBaseDeLocalidades().DameTextoDe(localidad_, "Localidad Corta");
+  const std::string ruta = DameConfiguracion().RutaMeteo(FICHERO_ESTADISTICAS);
+  if (CalcularRegistro(ruta, clave, AjustesCalefaccion(), AjustesRefrigeracion())) return true;
+  DameMensajes().Mensaje(MENSAJE_FICHERO_METEO, localidad_);
+  return false;
 }
 
-void DiasExtremos::PonTexto(std::string_view clave, const std::string &texto) {
-  if (clave == "Localidad") {
-    ActualizarTexto(localidad_, colores_[COLOR_LOCALIDAD], texto, {});
-  } else if (clave == "Provincia") {
-    ActualizarTexto(provincia_, colores_[COLOR_PROVINCIA], texto, {});
-  } else if (clave == "Percentil calefacción") {
-    ActualizarReal(percentilCalefaccion_, colores_[COLOR_PER_CAL], texto, 0.0F, PERCENTIL_MAXIMO,
-                   PERCENTIL_CALEFACCION);
-  } else if (clave == "Percentil refrigeración") {
-    ActualizarReal(percentilRefrigeracion_, colores_[COLOR_PER_REF], texto, 0.0F, PERCENTIL_MAXIMO,
-                   PERCENTIL_REFRIGERACION);
-  } else if (clave == "Mes calefacción") {
-    ActualizarEntero(mesCalefaccion_, colores_[COLOR_MES_CAL], texto, 1, ULTIMO_MES, MES_CALEFACCION);
-  } else if (clave == "Mes refrigeración") {
-    ActualizarEntero(mesRefrigeracion_, colores_[COLOR_MES_REF], texto, 1, ULTIMO_MES, MES_REFRIGERACION);
+bool DiasExtremos::CalcularDias(const std::string &clave, float percentilCal, float percentilRef,
+                                const MesesDeTemporada &temporadaCal, const MesesDeTemporada &temporadaRef,
+                                int mesCal, int mesRef) {
+  const std::string ruta = DameConfiguracion().RutaMeteo(FICHERO_ESTADISTICAS);
+  return CalcularRegistro(ruta, clave, {percentilCal, temporadaCal, mesCal},
+                          {percentilRef, temporadaRef, mesRef});
+}
+
+bool DiasExtremos::CalcularDesde(const std::string &ruta, const std::string &clave) {
+  return CalcularRegistro(ruta, clave, AjustesCalefaccion(), AjustesRefrigeracion());
+}
+
+bool DiasExtremos::CalcularRegistro(const std::string &ruta, const std::string &clave,
+                                    const extremos::AjustesEstacion &calefaccion,
+                                    const extremos::AjustesEstacion &refrigeracion) {
+  if (!EsMes(calefaccion.mes) || !EsMes(refrigeracion.mes)) return false;
+  const std::optional<std::string> contenido = LeerFicheroEntero(RutaDesdeTexto(ruta));
+  extremos::RegistroGdr registro;
+  if (!contenido ||
+      extremos::LeerRegistroGdr(*contenido, clave, ruta, registro) != extremos::LecturaGdr::Leido) {
+    return false;
   }
+  resultado_ = extremos::CalcularDias(registro, calefaccion, refrigeracion);
+  mesCalculadoCal_ = calefaccion.mes;
+  mesCalculadoRef_ = refrigeracion.mes;
+  claridadDiaria_ = static_cast<float>(resultado_.refrigeracion.traza.claridadDiaria);
+  if (primeraVez_) {
+    primerosValores_ = {static_cast<float>(resultado_.calefaccion.traza.parteDelMes),
+                        static_cast<float>(resultado_.refrigeracion.traza.parteDelMes)};
+    primeraVez_ = false;
+  }
+  calculado_ = true;
+  if (!ficheroSalida_.empty() &&
+      !AnadirAFichero(RutaDesdeTexto(ficheroSalida_), extremos::TextoDeSalida(resultado_))) {
+    ErrorNumerico(ERROR_FICHERO, ficheroSalida_);
+  }
+  return true;
 }
 
-void DiasExtremos::DameTemporada(std::string_view clave, MesesDeTemporada &meses) const {
-  if (clave == "Temporada calefacción") meses = temporadaCalefaccion_;
-  if (clave == "Temporada refrigeración") meses = temporadaRefrigeracion_;
+bool DiasExtremos::TieneMeses(const MesesDeTemporada &temporada) {
+  return std::any_of(temporada.begin(), temporada.end(), [](std::int16_t mes) { return mes == 1; });
 }
 
-void DiasExtremos::PonTemporada(std::string_view clave, const MesesDeTemporada &meses) {
-  if (clave == "Temporada calefacción") temporadaCalefaccion_ = meses;
-  if (clave == "Temporada refrigeración") temporadaRefrigeracion_ = meses;
+bool DiasExtremos::EscribirFicheros() const {
+  const std::string directorio = DameConfiguracion().RutaResultados("");
+  return EscribirFicherosEn(directorio);
 }
+
+bool DiasExtremos::EscribirFicherosEn(const std::string &directorio) const {
+  const std::filesystem::path base = RutaDesdeTexto(directorio);
+  const auto escribir = [&](const char *nombre, const extremos::DiaDeProyecto &dia, int mes) {
+    return EscribirFicheroEntero(base / nombre, extremos::TextoDeDia(dia, mes, localidad_, provincia_));
+  };
+  return escribir(FICHERO_CALEFACCION, resultado_.calefaccion.dia, mesCalculadoCal_) &&
+         escribir(FICHERO_REFRIGERACION, resultado_.refrigeracion.dia, mesCalculadoRef_);
+}
+
+std::string DiasExtremos::RutaSalida() { return DameConfiguracion().DirectorioBase() + FICHERO_SALIDA; }
 
 } // namespace tesmo

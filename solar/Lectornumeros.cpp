@@ -50,6 +50,31 @@ void LectorNumeros::SaltarBlancos() {
   posicion_ = std::min(texto_.find_first_not_of(BLANCOS, posicion_), texto_.size());
 }
 
+std::string_view LectorNumeros::Palabra() {
+  SaltarBlancos();
+  const std::size_t inicio = posicion_;
+  posicion_ = std::min(texto_.find_first_of(BLANCOS, posicion_), texto_.size());
+  return texto_.substr(inicio, posicion_ - inicio);
+}
+
+std::string_view LectorNumeros::RestoDeLinea(std::size_t maximo) {
+  const std::string_view quedan = texto_.substr(posicion_);
+  const std::size_t fin = std::min(quedan.find('\n'), quedan.size());
+  const bool conRetorno = fin > 0 && fin < quedan.size() && quedan[fin - 1] == '\r';
+  const std::string_view linea = quedan.substr(0, conRetorno ? fin - 1 : fin);
+  if (linea.size() > maximo) {
+    posicion_ += maximo;
+    return linea.substr(0, maximo);
+  }
+  posicion_ += std::min(fin + 1, quedan.size());
+  return linea;
+}
+
+int LectorNumeros::Linea() const {
+  const std::string_view leido = texto_.substr(0, posicion_);
+  return 1 + static_cast<int>(std::count(leido.begin(), leido.end(), '\n'));
+}
+
 bool LectorNumeros::Literal(char c) {
   if (Final() || texto_[posicion_] != c) return false;
   ++posicion_;

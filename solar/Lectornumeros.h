@@ -19,6 +19,12 @@ public:
   /// El carácter @p c, sin saltar blancos antes.
   bool Literal(char c);
   void SaltarBlancos();
+  /// "%s": la palabra siguiente, tras los blancos que haya; vacía al final del texto.
+  [[nodiscard]] std::string_view Palabra();
+  /// Lo que queda de la línea, sin su fin, hasta @p maximo bytes; un resto más largo se queda por leer.
+  std::string_view RestoDeLinea(std::size_t maximo = std::string_view::npos);
+  /// Línea del texto, desde 1, en que está el lector.
+  [[nodiscard]] int Linea() const;
   [[nodiscard]] bool Final() const { return posicion_ >= texto_.size(); }
 
 private:
