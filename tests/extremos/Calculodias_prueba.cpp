@@ -122,7 +122,7 @@ TEST(Calculo, UnaTemporadaSinMesesNoSeSaleDeSitio) {
 }
 
 TEST(Calculo, UnClimaFueraDeLaTablaCuentaEnSusExtremos) {
-  const std::string texto = "frio x 60 0 0 10\n" + std::string(12 * 4, ' ') + "\n" + [] {
+  const std::string texto = "frio x 60 0 0 10\n" + [] {
     std::string filas;
     for (const char *valor : {"-60 ", "-70 ", "3 ", "3 ", "9000 ", "70 "}) {
       for (int mes = 0; mes < 12; ++mes) filas += valor;
@@ -198,8 +198,8 @@ TEST(Fisica, UnPercentilMasFrioNuncaDaUnDiaMasCalido) {
   }
 }
 
-// Si la temperatura de la temporada es la mayor de enero, su parte es 1, ningún grado de otro mes la pasa y lo que
-// se toma por temperatura es la parte de ese mes en 1 °C.
+// Si la temperatura de la temporada es la mayor de enero, su parte es 1, ningún grado de otro mes la pasa y
+// lo que se toma por temperatura es la parte de ese mes en 1 °C.
 TEST(Calculo, UnaParteDeUnoDaElValorEnUnGrado) {
   const RegistroGdr registro = LeerBien(prueba::GdrDelPrograma(), "Cordoba");
   const ResultadoDias r = CalcularDias(registro, Invierno(1.0F, 2), Verano());

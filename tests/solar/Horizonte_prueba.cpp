@@ -230,5 +230,29 @@ TEST(LectorNumeros, EnterosDeTreintaYDosBits) {
   for (const char *texto : {"", "-", "x", "99999999999"}) EXPECT_FALSE(entero(texto).has_value()) << texto;
 }
 
+TEST(LectorNumeros, PalabrasYLineas) {
+  LectorNumeros lector(" uno\tdos resto\r\n\nfin");
+  EXPECT_EQ(lector.Palabra(), "uno");
+  EXPECT_EQ(lector.Palabra(), "dos");
+  EXPECT_EQ(lector.Linea(), 1);
+  EXPECT_EQ(lector.RestoDeLinea(), " resto");
+  EXPECT_EQ(lector.Linea(), 2);
+  EXPECT_EQ(lector.RestoDeLinea(), "");
+  EXPECT_EQ(lector.RestoDeLinea(), "fin");
+  EXPECT_EQ(lector.RestoDeLinea(), "");
+  EXPECT_TRUE(lector.Final());
+  EXPECT_EQ(lector.Palabra(), "");
+}
+
+TEST(LectorNumeros, UnRestoMasLargoQueElMaximoQuedaPorLeer) {
+  LectorNumeros justo("abcd\nx");
+  EXPECT_EQ(justo.RestoDeLinea(4), "abcd");
+  EXPECT_EQ(justo.Palabra(), "x");
+  LectorNumeros largo("abcde\nx");
+  EXPECT_EQ(largo.RestoDeLinea(4), "abcd");
+  EXPECT_EQ(largo.RestoDeLinea(4), "e");
+  EXPECT_EQ(largo.Palabra(), "x");
+}
+
 } // namespace
 } // namespace tesmo
