@@ -31,11 +31,7 @@ Psicro::~Psicro() = default;
 
 void Psicro::ponVista(std::int32_t desplazamientoX, std::int32_t desplazamientoY, std::int32_t vista3,
                       std::int32_t vista4, std::int8_t zoom) {
-  desplazamientoX_ = desplazamientoX;
-  desplazamientoY_ = desplazamientoY;
-  vista3_ = vista3;
-  vista4_ = vista4;
-  zoom_ = zoom;
+  vista_ = {desplazamientoX, desplazamientoY, vista3, vista4, zoom};
 }
 
 void Psicro::ponAltitud(float z) {

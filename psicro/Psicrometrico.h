@@ -32,6 +32,17 @@ struct AspectoFamilia {
   bool visible = true;
 };
 
+/// Cómo se mira la carta.
+struct VistaCarta {
+  std::int32_t desplazamientoX = 0; ///< [píxeles]
+  std::int32_t desplazamientoY = 0; ///< [píxeles]
+  std::int32_t vista3 = 0;          ///< sólo interviene en el primer punto de las curvas de humedad relativa
+  std::int32_t vista4 = 0;          ///< se guarda sin más
+  std::int8_t zoom = 0;             ///< aumento entero
+};
+
+class Pluma;
+
 /// Modelo de la carta psicrométrica de tipo Carrier: temperatura seca hacia la derecha con 0 °C en el borde
 /// izquierdo, humedad absoluta hacia arriba con 0 en el borde inferior. El máximo de Familia::T es el borde
 /// derecho y el de Familia::W el superior.
@@ -48,6 +59,7 @@ public:
   /// interviene en el primer punto de las curvas de humedad relativa; el cuarto se guarda sin más.
   void ponVista(std::int32_t desplazamientoX, std::int32_t desplazamientoY, std::int32_t vista3,
                 std::int32_t vista4, std::int8_t zoom);
+  [[nodiscard]] const VistaCarta &dameVista() const { return vista_; }
   /// Presión de la carta a @p z metros de altitud, p = 101325·(1 − 2.25577e-5·z)^5.2559 (atmósfera normal,
   /// ASHRAE Handbook of Fundamentals). Por encima de 44331 m la base es negativa y la presión no es un
   /// número.
@@ -82,7 +94,23 @@ public:
   /// Humedad absoluta [kg/kg] de la ordenada @p y [píxeles].
   [[nodiscard]] float w(std::int32_t y) const;
 
+  /// Lleva la pluma al punto de la carta @p t [°C], @p w [kg/kg] con el desplazamiento y el aumento de la
+  /// vista.
+  void moverA(Pluma &pluma, double t, double w) const;
+  /// Traza hasta el punto de la carta @p t [°C], @p w [kg/kg].
+  void lineaA(Pluma &pluma, double t, double w) const;
+  /// Toma el tamaño @p ancho × @p alto [píxeles] y dibuja en @p lienzo las familias a la vista: humedad
+  /// absoluta, humedad relativa, temperatura, entalpía y volumen específico, cada una tras poner su color. No
+  /// recorta. Con cualquier parámetro termina, y lo que no es un número no llega al lienzo.
+  void dibujar(Lienzo &lienzo, std::int32_t ancho, std::int32_t alto);
+
 private:
+  [[nodiscard]] double pixelX(double t) const {
+    return (static_cast<double>(x(t)) - vista_.desplazamientoX) * vista_.zoom;
+  }
+  [[nodiscard]] double pixelY(double w) const {
+    return (static_cast<double>(y(w)) - vista_.desplazamientoY) * vista_.zoom;
+  }
   [[nodiscard]] const AspectoFamilia &Aspecto(Familia familia) const {
     return familias_[static_cast<std::size_t>(familia)];
   }
@@ -90,11 +118,7 @@ private:
     return familias_[static_cast<std::size_t>(familia)];
   }
 
-  std::int32_t desplazamientoX_ = 0;
-  std::int32_t desplazamientoY_ = 0;
-  std::int32_t vista3_ = 0;
-  std::int32_t vista4_ = 0;
-  std::int8_t zoom_ = 0;
+  VistaCarta vista_;
   float ancho_ = 0.0F;
   float alto_ = 0.0F;
   float presion_;
