@@ -42,6 +42,18 @@ CorrienteAire::CorrienteAire(std::string nombre) : ObjetoBase(std::move(nombre))
   pont_hr(T_INICIAL, HR_INICIAL, PRESION_NORMAL);
 }
 
+CorrienteAire::CorrienteAire(const CorrienteAire &otra)
+    : ObjetoBase(otra), m_(otra.m_), t_(otra.t_), p_(otra.p_), w_(otra.w_) {}
+
+CorrienteAire &CorrienteAire::operator=(const CorrienteAire &otra) {
+  ObjetoBase::operator=(otra);
+  m_ = otra.m_;
+  t_ = otra.t_;
+  p_ = otra.p_;
+  w_ = otra.w_;
+  return *this;
+}
+
 std::string CorrienteAire::nombreClase() const { return "CorrienteAire"; }
 
 void CorrienteAire::pont_w(float t, float w, float p) {

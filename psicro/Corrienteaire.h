@@ -2,6 +2,7 @@
 
 #include "core/Objetobase.h"
 #include "psicro/Constantes.h"
+#include "psicro/Registrocorrientes.h"
 
 #include <cstdint>
 #include <string>
@@ -34,7 +35,16 @@ class CorrienteAire : public ObjetoBase {
 public:
   /// Aire a 25 °C, 50 % y 101325 Pa, con 15 kg/s.
   explicit CorrienteAire(std::string nombre = "CorrienteSinNombre");
+  ~CorrienteAire() override = default;
+  /// La copia es otra corriente viva, con el mismo nombre.
+  CorrienteAire(const CorrienteAire &otra);
+  CorrienteAire &operator=(const CorrienteAire &otra);
 
+  /// Ejecuta la orden @p argv[1] con los argumentos @p argv[2]…; @p argv[0] no se mira. Cuenta sólo el
+  /// comienzo de la palabra. Respuestas y quejas van al registro, sin fin de línea: ponNombre N · mostrar ·
+  /// ponm M UNIDAD · pont_w|pont_th|pont_tr|pont_hr|pont_h|ponw_h A B [P] · escribir RUTA · dame CÓDIGO ·
+  /// mezclar UNA OTRA RESULTADO. Los números se leen con PrefijoReal.
+  void ProcesarOrden(int argc, const char *const *argv) override;
   [[nodiscard]] std::string nombreClase() const override;
 
   /// Estado por temperatura seca @p t [-100, 99 °C], humedad absoluta @p w [0, saturación; kg/kg] y presión
@@ -93,6 +103,7 @@ private:
   float t_ = 0.0F;
   float p_ = 0.0F;
   float w_ = 0.0F;
+  InscripcionCorriente inscripcion_{*this};
 };
 
 /// Mezcla adiabática de @p a y @p b en @p resultado, a la presión común. Con presiones distintas (comparación
