@@ -15,17 +15,26 @@ bool CabeEnPixel(double valor) {
 } // namespace
 
 void Pluma::MoverA(double x, double y) {
-  apoyada_ = CabeEnPixel(x) && CabeEnPixel(y);
-  if (apoyada_) lienzo_.MoverA(static_cast<int>(x), static_cast<int>(y));
+  estado_ = CabeEnPixel(x) && CabeEnPixel(y) ? Estado::Apoyada : Estado::Rota;
+  if (estado_ == Estado::Apoyada) lienzo_.MoverA(static_cast<int>(x), static_cast<int>(y));
 }
 
 void Pluma::LineaA(double x, double y) {
-  if (!apoyada_) {
-    MoverA(x, y);
+  if (!CabeEnPixel(x) || !CabeEnPixel(y)) {
+    estado_ = Estado::Rota;
     return;
   }
-  apoyada_ = CabeEnPixel(x) && CabeEnPixel(y);
-  if (apoyada_) lienzo_.LineaA(static_cast<int>(x), static_cast<int>(y));
+  const int px = static_cast<int>(x);
+  const int py = static_cast<int>(y);
+  if (estado_ == Estado::Rota) {
+    xPendiente_ = px;
+    yPendiente_ = py;
+    estado_ = Estado::Pendiente;
+    return;
+  }
+  if (estado_ == Estado::Pendiente) lienzo_.MoverA(xPendiente_, yPendiente_);
+  estado_ = Estado::Apoyada;
+  lienzo_.LineaA(px, py);
 }
 
 } // namespace tesmo

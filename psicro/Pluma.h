@@ -6,7 +6,7 @@ namespace tesmo {
 
 /// Pluma que traza sobre un lienzo desde coordenadas reales: trunca hacia cero al píxel y deja fuera lo que
 /// no puede ser un píxel (lo que no es número o no cabe en un entero). Un segmento con un extremo así no se
-/// traza; el siguiente arranca del primer punto bueno.
+/// traza; el siguiente arranca del primer punto bueno, adonde la pluma no va si de él no sale nada.
 class Pluma {
 public:
   explicit Pluma(Lienzo &lienzo) : lienzo_(lienzo) {}
@@ -18,8 +18,13 @@ public:
   void LineaA(double x, double y);
 
 private:
+  enum class Estado { Rota, Pendiente, Apoyada };
+
   Lienzo &lienzo_;
-  bool apoyada_ = false;
+  Estado estado_ = Estado::Rota;
+  /// Punto bueno tras uno que no lo era; sólo con la pluma pendiente.
+  int xPendiente_ = 0;
+  int yPendiente_ = 0;
 };
 
 } // namespace tesmo
