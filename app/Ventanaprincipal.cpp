@@ -101,11 +101,14 @@ void TforPrincipal::AbrirVentana(const Programa &programa) {
   controladores_.push_back(std::move(controlador));
   TforProgramas &formulario = este->DameFormulario();
   QMdiSubWindow *ventana = area_->addSubWindow(&formulario);
+  // El menú de sistema de cada ventana trae el mismo atajo que "Cerrar", y un atajo doble no hace nada.
+  for (QAction *orden : ventana->systemMenu()->actions()) orden->setShortcuts(QList<QKeySequence>());
   connect(&formulario, &TforProgramas::estado, statusBar(),
           [this](const QString &texto) { statusBar()->showMessage(texto); });
   // El formulario no puede morir dentro de su propio suceso de cierre.
   connect(
       &formulario, &TforProgramas::cerrada, this, [this, este] { Retirar(este); }, Qt::QueuedConnection);
+  statusBar()->clearMessage();
   este->Abrir();
   ventana->showMaximized();
 }

@@ -53,6 +53,15 @@ private slots:
     QVERIFY(marco_->Numero(0).Controlador().HayDatos());
   }
 
+  void losAtajosAbrenYCierran() {
+    QTest::keyClick(&marco_->marco, Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(Ventanas(), 2);
+    QTest::keyClick(&marco_->marco, Qt::Key_W, Qt::ControlModifier);
+    QTRY_COMPARE(Ventanas(), 1);
+    QTest::keyClick(&marco_->marco, Qt::Key_W, Qt::ControlModifier | Qt::ShiftModifier);
+    QTRY_COMPARE(Ventanas(), 0);
+  }
+
   void cerrarLaUltimaDejaElMarcoYNuevoAbreOtra() {
     Orden("mnuCerrar").trigger();
     QTRY_COMPARE(Ventanas(), 0);
