@@ -15,7 +15,7 @@ constexpr int ANCHO_MUESTRA = 10; ///< cuadrado de color de cada serie [px]
 constexpr double RADIO_MARCA = 3.5;
 
 const QColor COLOR_CRUZ(90, 90, 90);
-const QColor COLOR_FONDO(255, 255, 255, 235);
+const QColor COLOR_FONDO(255, 255, 255, 248);
 const QColor COLOR_TEXTO(30, 30, 30);
 const QColor COLOR_AVISO(120, 120, 120);
 

@@ -168,7 +168,7 @@ void Grafico::Redibujar() {
   RehacerEje(LadoEje::Derecho);
   interno_->capa->Ocultar();
   interno_->trazo->replot();
-  interno_->capa->PonAviso(Marco(), Leyenda().isEmpty() ? interno_->aviso : QString());
+  interno_->capa->PonAviso(rect(), Leyenda().isEmpty() ? interno_->aviso : QString());
 }
 
 void Grafico::RehacerLeyenda() {
