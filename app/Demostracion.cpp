@@ -49,8 +49,8 @@ public:
       : marco_(marco), directorio_(directorio), ventana_(marco.Controladores().front()->DameFormulario()) {}
 
   void Ejecutar() {
-    marco_.showNormal();
     marco_.resize(TAMANO_VENTANA);
+    marco_.show();
     QApplication::processEvents();
     Elegir(QStringLiteral("cbProvincias"), QStringLiteral("Almería"));
     Elegir(QStringLiteral("cbLocalidades"), QStringLiteral("Almería"));
@@ -144,10 +144,12 @@ private:
 
 } // namespace
 
-bool EjecutarDemostracion(TforPrincipal &marco, const QString &directorio) {
+bool EjecutarDemostracion(const QString &directorio) {
   const PresentadorDemostracion presentador;
   try {
     if (!QDir().mkpath(directorio)) throw std::runtime_error("no se puede crear " + directorio.toStdString());
+    TforPrincipal marco;
+    marco.AbrirPrimera();
     Demostracion(marco, directorio).Ejecutar();
   } catch (const std::runtime_error &fallo) {
     QTextStream(stderr) << "Demostración: " << fallo.what() << "\n";

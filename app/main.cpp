@@ -64,20 +64,16 @@ int main(int argc, char **argv) {
   QApplication aplicacion(argc, argv);
   tesmo::PrepararAplicacion(aplicacion);
   const Opciones opciones = LeerOpciones(aplicacion);
+  if (!opciones.base.isEmpty()) tesmo::IniciarConfiguracion(opciones.base.toStdString());
+  if (!opciones.demostracion.isEmpty()) {
+    return tesmo::EjecutarDemostracion(opciones.demostracion) ? EXIT_SUCCESS : EXIT_FAILURE;
+  }
   tesmo::PresentadorVentanas presentador;
   tesmo::DameMensajes().PonPresentador(&presentador);
-  if (!opciones.base.isEmpty()) tesmo::IniciarConfiguracion(opciones.base.toStdString());
-  int resultado = EXIT_SUCCESS;
-  {
-    tesmo::TforPrincipal marco;
-    marco.showMaximized();
-    marco.AbrirPrimera();
-    if (opciones.demostracion.isEmpty()) {
-      resultado = QApplication::exec();
-    } else {
-      resultado = tesmo::EjecutarDemostracion(marco, opciones.demostracion) ? EXIT_SUCCESS : EXIT_FAILURE;
-    }
-  }
+  tesmo::TforPrincipal marco;
+  marco.showMaximized();
+  marco.AbrirPrimera();
+  const int resultado = QApplication::exec();
   tesmo::DameMensajes().PonPresentador(nullptr);
   return resultado;
 }

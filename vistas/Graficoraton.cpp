@@ -159,13 +159,13 @@ void Grafico::AnadirOrdenes(QMenu &menu) {
   connect(anadir(QStringLiteral("acVerTodo"), tr("&Ver el período entero")), &QAction::triggered, this,
           &Grafico::VerTodo);
   menu.addSeparator();
-  for (const char *extension : {"png", "svg", "pdf"}) {
-    const QString mayusculas = QString::fromLatin1(extension).toUpper();
-    QAction *accion =
-        anadir(QStringLiteral("acGuardar") + mayusculas, tr("Guardar imagen como &%1…").arg(mayusculas));
-    connect(accion, &QAction::triggered, this,
-            [this, extension] { PedirGuardarImagen(QString::fromLatin1(extension)); });
-  }
+  const auto guardar = [&](const QString &extension, const QString &texto) {
+    QAction *accion = anadir(QStringLiteral("acGuardar") + extension.toUpper(), texto);
+    connect(accion, &QAction::triggered, this, [this, extension] { PedirGuardarImagen(extension); });
+  };
+  guardar(QStringLiteral("png"), tr("Guardar imagen como &PNG…"));
+  guardar(QStringLiteral("svg"), tr("Guardar imagen como &SVG…"));
+  guardar(QStringLiteral("pdf"), tr("Guardar imagen como PD&F…"));
   connect(anadir(QStringLiteral("acCopiarImagen"), tr("&Copiar imagen")), &QAction::triggered, this,
           &Grafico::CopiarImagen);
   QAction *datos = anadir(QStringLiteral("acCopiarDatos"), tr("Copiar &datos a la vista"));

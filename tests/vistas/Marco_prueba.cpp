@@ -1,6 +1,8 @@
 // El marco: ventanas de trabajo, menús, cierre y trabajo sin pantalla.
 
 #include "app/Demostracion.h"
+#include "core/Rutas.h"
+#include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
 #include "tests/vistas/Manejo.h"
 
@@ -121,7 +123,7 @@ private slots:
 
   void laDemostracionDejaLasImagenesYLaExportacion() {
     const QString destino = QString::fromStdString(TextoDeRuta(marco_->datos.Directorio() / "salida/dentro"));
-    QVERIFY(EjecutarDemostracion(marco_->marco, destino));
+    QVERIFY(EjecutarDemostracion(destino));
     const QStringList ficheros = QDir(destino).entryList(QDir::Files);
     QCOMPARE(ficheros.size(), 5);
     for (const QString &fichero : ficheros) QVERIFY(QFileInfo(destino, fichero).size() > 1000);
@@ -131,10 +133,14 @@ private slots:
 
   void laDemostracionFallaSiNoPuedeHacerSuTrabajo() {
     const std::string fichero = marco_->datos.Directorio().Escribir("ocupado", "no soy un directorio");
-    QVERIFY(!EjecutarDemostracion(marco_->marco, QString::fromStdString(fichero)));
+    QVERIFY(!EjecutarDemostracion(QString::fromStdString(fichero)));
+    const QString destino = QString::fromStdString(TextoDeRuta(marco_->datos.Directorio() / "salida"));
     std::filesystem::remove(marco_->datos.Directorio() / "Meteo/almeria.met");
-    QVERIFY(!EjecutarDemostracion(
-        marco_->marco, QString::fromStdString(TextoDeRuta(marco_->datos.Directorio() / "salida"))));
+    QVERIFY(!EjecutarDemostracion(destino));
+    LiberarBaseDeLocalidades();
+    const DirectorioTemporal vacio;
+    IniciarConfiguracion(TextoDeRuta(vacio.Ruta())); // ni siquiera hay lista de localidades
+    QVERIFY(!EjecutarDemostracion(destino));
   }
 
 private:
