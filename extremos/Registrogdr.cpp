@@ -3,7 +3,7 @@
 #include "core/Codificacion.h"
 #include "core/Error.h"
 #include "extremos/Modelomensual.h"
-#include "solar/Lectornumeros.h"
+#include "core/Lectornumeros.h"
 
 #include <cmath>
 

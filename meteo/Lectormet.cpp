@@ -1,6 +1,6 @@
 #include "meteo/Lectormet.h"
 
-#include "meteo/Flujoreales.h"
+#include "core/Flujoreales.h"
 
 #include <algorithm>
 

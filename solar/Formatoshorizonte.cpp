@@ -4,7 +4,7 @@
 #include "core/Ficheros.h"
 #include "core/Formato.h"
 #include "solar/Giroshorizonte.h"
-#include "solar/Lectornumeros.h"
+#include "core/Lectornumeros.h"
 #include "solar/Listadohorizonte.h"
 #include "solar/Perfilcompleto.h"
 

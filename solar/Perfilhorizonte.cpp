@@ -1,7 +1,7 @@
 #include "solar/Perfilhorizonte.h"
 
 #include "core/Formato.h"
-#include "solar/Lectornumeros.h"
+#include "core/Lectornumeros.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace tesmo {
 
@@ -32,6 +34,10 @@ public:
   }
 
   [[nodiscard]] bool AlFinal() const { return cursor_ == fin_; }
+  /// Lo que queda por recorrer.
+  [[nodiscard]] std::string_view Resto() const { return {cursor_, static_cast<std::size_t>(fin_ - cursor_)}; }
+  /// Da por recorridos @p bytes, o los que queden si son menos.
+  void Avanzar(std::size_t bytes) { cursor_ += std::min(bytes, Resto().size()); }
   /// Bytes ya recorridos.
   [[nodiscard]] std::size_t Posicion() const { return static_cast<std::size_t>(cursor_ - inicio_); }
 

@@ -1,4 +1,4 @@
-#include "meteo/Flujoreales.h"
+#include "core/Flujoreales.h"
 
 #include <bit>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "meteo/Flujoreales.h"
+#include "core/Flujoreales.h"
 
 #include <algorithm>
 #include <array>
