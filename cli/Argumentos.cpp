@@ -105,6 +105,11 @@ double LeerNumero(const std::string &texto, const std::string &que, double minim
   return valor;
 }
 
+float LeerLatitud(const std::string &texto) {
+  constexpr double POLO = 90.0;
+  return static_cast<float>(LeerNumero(texto, "LAT", -POLO, POLO));
+}
+
 int LeerEntero(const std::string &texto, const std::string &que, int minimo, int maximo) {
   const std::optional<int> valor = Entero(texto);
   if (!valor || *valor < minimo || *valor > maximo)

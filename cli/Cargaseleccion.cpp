@@ -2,11 +2,13 @@
 
 #include "app/Carga.h"
 #include "app/Programa.h"
+#include "cli/Perfildehorizonte.h"
 #include "core/Ficheros.h"
 #include "core/Mensajes.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
 #include "psicro/Psicrometrico.h"
+#include "solar/Edicionhorizonte.h"
 #include "solar/Posicionsolar.h"
 
 namespace tesmo::cli {
@@ -40,9 +42,9 @@ ResultadoCarga CargarUna(const PeticionSeleccion &peticion, Programa &programa, 
   return CargarLocalidad(programa, seleccion);
 }
 
-void LeerHorizonte(const std::string &ruta, PosicionSolar &sol) {
-  if (!ruta.empty() && !sol.LeerHorizonte(ruta))
-    throw Fallo(Estado::FaltaEntrada, "no se puede leer el perfil de horizonte: " + ruta);
+void LeerHorizonte(const std::string &ruta, Contexto &contexto, PosicionSolar &sol) {
+  if (ruta.empty()) return;
+  CopiarHorizonte(PerfilParaUsar(LeerHorizonteDado(ruta, ruta, contexto)), sol);
 }
 
 void AvisarSiEsCorto(const Programa &programa, Contexto &contexto) {
@@ -64,7 +66,7 @@ void Cargar(const PeticionSeleccion &peticion, Contexto &contexto, std::optional
   }
   Seleccion seleccion;
   CrearSeleccion(peticion, *programa, seleccion);
-  LeerHorizonte(peticion.horizonte, *programa->DamePosicionSolar());
+  LeerHorizonte(peticion.horizonte, contexto, *programa->DamePosicionSolar());
   const ResultadoCarga resultado = CargarUna(peticion, *programa, seleccion);
   if (resultado == ResultadoCarga::CasillaVacia) throw Fallo(Estado::UsoIncorrecto, "");
   if (resultado != ResultadoCarga::Cargada) throw Fallo(Estado::FaltaEntrada, "");

@@ -17,6 +17,10 @@ void RegistrarSerie(CLI::App &raiz, Contexto &contexto);
 void RegistrarEstadisticas(CLI::App &raiz, Contexto &contexto);
 void RegistrarExportar(CLI::App &raiz, Contexto &contexto);
 void RegistrarSintetizar(CLI::App &raiz, Contexto &contexto);
+void RegistrarHorizonte(CLI::App &raiz, Contexto &contexto);
+/// Estas dos, dentro de la orden "sol".
+void RegistrarSolAnual(CLI::App &sol, Contexto &contexto);
+void RegistrarSolCurvas(CLI::App &sol, Contexto &contexto);
 
 /// Lo que la ayuda dice de una orden.
 struct AyudaOrden {

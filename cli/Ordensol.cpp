@@ -11,8 +11,6 @@ namespace tesmo::cli {
 
 namespace {
 
-constexpr double POLO = 90.0; ///< latitud [º] del polo
-
 struct Datos {
   std::optional<std::string> latitud, mes, dia, hora, registro;
   bool json = false;
@@ -28,7 +26,7 @@ struct Momento {
 
 Momento LeerMomento(const Datos &datos) {
   Momento m;
-  m.latitud = static_cast<float>(LeerNumero(*datos.latitud, "LAT", -POLO, POLO));
+  m.latitud = LeerLatitud(*datos.latitud);
   m.mes = LeerEntero(*datos.mes, "MES", 1, 12);
   m.dia = LeerEntero(*datos.dia, "DIA", 1, 31);
   ComprobarDia(m.mes, m.dia, "DIA");
@@ -106,6 +104,15 @@ void RegistrarSol(CLI::App &raiz, Contexto &contexto) {
                 "Escribe acimut (0 al sur, oeste positivo), altura y cenit [º], y 1 si es de día o 0 si no.",
                 "sol posicion 36.84 6 21 10.5"},
                Posicion, true);
+  RegistrarUna(
+      sol, contexto, "momento",
+      {"Lo que la carta solar enseña de un momento",
+       "Lo mismo que «sol posicion»: acimut (0 al sur, oeste positivo), altura y cenit [º], y 1 si es "
+       "de día o 0 si no.",
+       "sol momento 36.84 6 21 10.5"},
+      Posicion, true);
+  RegistrarSolCurvas(sol, contexto);
+  RegistrarSolAnual(sol, contexto);
 }
 
 } // namespace tesmo::cli

@@ -6,9 +6,26 @@ namespace {
 using Argumentos = std::vector<std::string>;
 class AyudaYErrores : public LineaDeOrdenes {};
 
-const std::vector<Argumentos> ORDENES{
-    {},           {"localidades"}, {"aire"},          {"sol"},           {"serie"},          {"estadisticas"},
-    {"exportar"}, {"sintetizar"},  {"sol", "salida"}, {"sol", "vector"}, {"sol", "posicion"}};
+const std::vector<Argumentos> ORDENES{{},
+                                      {"localidades"},
+                                      {"aire"},
+                                      {"sol"},
+                                      {"serie"},
+                                      {"estadisticas"},
+                                      {"exportar"},
+                                      {"sintetizar"},
+                                      {"sol", "salida"},
+                                      {"sol", "vector"},
+                                      {"sol", "posicion"},
+                                      {"sol", "momento"},
+                                      {"sol", "dia"},
+                                      {"sol", "meses"},
+                                      {"sol", "anual"},
+                                      {"horizonte"},
+                                      {"horizonte", "leer"},
+                                      {"horizonte", "guardar"},
+                                      {"horizonte", "convertir"},
+                                      {"horizonte", "efecto"}};
 
 void SinIngles(const std::string &texto) {
   for (const char *ingles : {"Usage", "Options", "OPTIONS", "Positionals", "REQUIRED", "TEXT", "SUBCOMMAND",
@@ -34,7 +51,8 @@ TEST_F(AyudaYErrores, CadaOrdenTieneAyudaEnEspanolConEjemplos) {
 
 TEST_F(AyudaYErrores, LaAyudaGeneralNombraTodasLasOrdenes) {
   const std::string ayuda = Orden({"--help"}).salida;
-  for (const char *orden : {"localidades", "aire", "sol", "serie", "estadisticas", "exportar", "sintetizar"})
+  for (const char *orden :
+       {"localidades", "aire", "sol", "serie", "estadisticas", "exportar", "sintetizar", "horizonte"})
     EXPECT_NE(ayuda.find(std::string("\n  ") + orden + " "), std::string::npos) << orden;
 }
 

@@ -1,0 +1,37 @@
+#include "cli/Argumentos.h"
+#include "cli/Ordenes.h"
+#include "solar/Ficheroanual.h"
+
+#include <memory>
+
+namespace tesmo::cli {
+
+namespace {
+
+struct Datos {
+  std::optional<std::string> latitud, salida;
+};
+
+void Ejecutar(const Datos &datos) {
+  const float latitud = LeerLatitud(*datos.latitud);
+  if (datos.salida->empty()) throw Fallo(Estado::FaltaSalida, "-o: la ruta está vacía");
+  if (!EscribirFicheroAnual(latitud, RutaAbsoluta(*datos.salida))) throw Fallo(Estado::FaltaSalida, "");
+}
+
+} // namespace
+
+void RegistrarSolAnual(CLI::App &sol, Contexto &contexto) {
+  const auto datos = std::make_shared<Datos>();
+  CLI::App &orden = NuevaOrden(sol, "anual",
+                               {"Escribe el fichero con las posiciones del sol de un año",
+                                "Una línea con la latitud y 8.760 con mes, hora, hora, acimut, altura y "
+                                "cenit [º] a la hora más media; "
+                                "de noche, 0, 0 y 90.",
+                                "sol anual 36.84 -o FPS.TXT"});
+  AnadirArgumento(orden, "LAT", datos->latitud, "Latitud [º], norte positivo")->required();
+  AnadirValor(orden, "-o,--salida", datos->salida, "FICHERO", "Fichero que se escribe (obligatorio)")
+      ->required();
+  orden.callback([datos, &contexto] { contexto.accion = [datos] { Ejecutar(*datos); }; });
+}
+
+} // namespace tesmo::cli
