@@ -9,8 +9,6 @@ namespace tesmo {
 
 namespace {
 
-/// Aire a cada lado del primer y el último punto, en unidades del eje horizontal.
-constexpr double AIRE_X = 0.5;
 /// Con menos puntos que estos un círculo señala cada uno.
 constexpr int PUNTOS_SENALADOS = 2;
 constexpr double DIAMETRO_SENAL = 6.0;

@@ -9,6 +9,9 @@
 
 namespace tesmo {
 
+/// Aire a cada lado del primer y el último punto, en unidades del eje horizontal.
+inline constexpr double AIRE_X = 0.5;
+
 /// Una serie con la curva que la pinta.
 struct SerieTrazada {
   SerieGrafico serie;

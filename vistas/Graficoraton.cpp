@@ -15,8 +15,7 @@ namespace tesmo {
 
 namespace {
 
-/// Aire a cada lado de los datos, y lo más que se puede ampliar, en unidades del eje horizontal.
-constexpr double AIRE_X = 0.5;
+/// Lo más que se puede ampliar, en unidades del eje horizontal.
 constexpr double TRAMO_MINIMO = 3.0;
 /// Parte del tramo que mueve una flecha, y lo que amplía una tecla o un paso de rueda.
 constexpr double PASO_DE_FLECHA = 0.1;

@@ -151,7 +151,7 @@ private slots:
     QVERIFY(estado.last().at(0).toString().contains(QStringLiteral("100 de las 8760")));
   }
 
-  void elMensajeEsUnaCajaModalEnEspaniolConLaFlecha() {
+  void elMensajeEsUnaCajaModalEnCastellanoConLaFlecha() {
     PresentadorVentanas presentador;
     PresentadorMensajes *anterior = DameMensajes().PonPresentador(&presentador);
     QString titulo;

@@ -1,6 +1,7 @@
 // El marco: ventanas de trabajo, menús, cierre y trabajo sin pantalla.
 
 #include "app/Demostracion.h"
+#include "core/Formato.h"
 #include "core/Rutas.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
@@ -8,6 +9,7 @@
 
 #include <QAction>
 #include <QDir>
+#include <QLocale>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -119,6 +121,26 @@ private slots:
         QVERIFY2(ventana->widget()->width() >= 300 && ventana->height() >= 200, orden);
       }
     }
+  }
+
+  void losNumerosSiguenElSeparadorPedidoYNuncaAgrupanMillares_data() {
+    QTest::addColumn<QByteArray>("decimal");
+    QTest::addColumn<QString>("texto");
+    QTest::newRow("coma") << QByteArray("coma") << "12345,5";
+    QTest::newRow("punto") << QByteArray("punto") << "12345.5";
+  }
+  void losNumerosSiguenElSeparadorPedidoYNuncaAgrupanMillares() {
+    QFETCH(const QByteArray, decimal);
+    QFETCH(const QString, texto);
+    const ConSeparador repone(Configuracionregional::SeparadorDecimal());
+    const QLocale anterior;
+    qputenv("TESMO_DECIMAL", decimal);
+    PrepararAplicacion(*qApp);
+    qunsetenv("TESMO_DECIMAL");
+    QCOMPARE(QLocale().toString(12345.5), texto);
+    QCOMPARE(QString::fromStdString(FormatearPatron(12345.5, "0.0")), texto);
+    QCOMPARE(QLocale().language(), QLocale::Spanish);
+    QLocale::setDefault(anterior);
   }
 
   void laDemostracionDejaLasImagenesYLaExportacion() {

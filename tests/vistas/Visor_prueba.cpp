@@ -84,7 +84,7 @@ private slots:
     QCOMPARE(grafico.Punto(3, 0).y(), double(0.007F * 1000.0F));
   }
 
-  void visualizarSinCasillasConstruyeLas21YNoEnseniaNinguna() {
+  void visualizarSinCasillasConstruyeLas21YNoMuestraNinguna() {
     const Ventana ventana = marco_->Numero(0);
     ventana.Localidad("Almería");
     ventana.Pulsar("btnSimulacion");
@@ -114,7 +114,7 @@ private slots:
     QCOMPARE(ventana.Chart().Punto(5, 0), QPointF(1.0, DatosPrueba::DireccionViento(181 * 24 + 12)));
   }
 
-  void lasCasillasEnseniaYOcultanSinRehacer() {
+  void lasCasillasMuestranYOcultanSinRehacer() {
     const Ventana ventana = marco_->Numero(0);
     ventana.Localidad("Almería");
     ventana.Marcar("cbTS");
@@ -159,7 +159,7 @@ private slots:
     QCOMPARE(ventana.Chart().Serie(0).lado, LadoEje::Izquierdo);
   }
 
-  void ejesPorUnidadLosRepartDeUnaVez() {
+  void ejesPorUnidadReparteDeUnaVez() {
     const Ventana ventana = marco_->Numero(0);
     ventana.Localidad("Almería");
     for (const char *casilla : {"cbTS", "cbTH", "cbE"}) ventana.Marcar(casilla);
