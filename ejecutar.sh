@@ -7,6 +7,7 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
 source cmake/preparar.sh
 
+[ $# -le 1 ] || { echo 'Sobran argumentos (vea ./ejecutar.sh --ayuda)' >&2; exit 2; }
 case ${1:-} in
   -h | --help | --ayuda) sed -n '2,5s/^# \{0,1\}//p' "$0"; exit 0 ;;
   '' | --compilar) ;;
@@ -17,7 +18,15 @@ instalar_paquetes "${PAQUETES_CONSTRUIR[@]}"
 construir release
 [ "${1:-}" != --compilar ] || { paso 'Listo: build/bin/tesmo y build/bin/tesmo-cli'; exit 0; }
 
-if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+# Un DISPLAY heredado de una sesión cerrada no es una pantalla.
+hay_pantalla() {
+  [ -n "${DISPLAY:-}" ] || return 1
+  case $DISPLAY in
+    :*) [ -S "/tmp/.X11-unix/X$(sed 's/^:\([0-9]*\).*/\1/' <<<"$DISPLAY")" ] ;;
+  esac
+}
+
+if hay_pantalla; then
   paso 'Abriendo Tesmo'
   exec build/bin/tesmo
 fi

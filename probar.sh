@@ -14,7 +14,9 @@ for region in es_ES en_US; do
   [ -d "$regiones/$region.UTF-8" ] && continue
   mkdir -p "$regiones"
   paso "Generando la región $region.UTF-8"
-  localedef -i "$region" -f UTF-8 "$regiones/$region.UTF-8"
+  rm -rf "$regiones/a-medias"
+  localedef -i "$region" -f UTF-8 "$regiones/a-medias"
+  mv "$regiones/a-medias" "$regiones/$region.UTF-8"
 done
 export LOCPATH=$regiones
 

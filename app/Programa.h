@@ -57,8 +57,8 @@ public:
 
 private:
   struct Motores;
+  std::shared_ptr<BaseDeLocalidades> localidades_; // va delante: se suelta después de los motores
   std::shared_ptr<Motores> motores_;
-  std::shared_ptr<BaseDeLocalidades> localidades_;
 };
 
 } // namespace tesmo

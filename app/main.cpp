@@ -5,6 +5,7 @@
 #include "app/Presentadorventanas.h"
 #include "app/Ventanaprincipal.h"
 #include "core/Rutas.h"
+#include "localidades/Ciudad.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -64,6 +65,9 @@ int main(int argc, char **argv) {
   QApplication aplicacion(argc, argv);
   tesmo::PrepararAplicacion(aplicacion);
   const Opciones opciones = LeerOpciones(aplicacion);
+  tesmo::PonAvisoLocalidades([](const std::string &aviso) {
+    QTextStream(stderr) << "Aviso: " << QString::fromStdString(aviso) << "\n";
+  });
   if (!opciones.base.isEmpty()) tesmo::IniciarConfiguracion(opciones.base.toStdString());
   if (!opciones.demostracion.isEmpty()) {
     return tesmo::EjecutarDemostracion(opciones.demostracion) ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -9,10 +9,6 @@ namespace tesmo::cli {
 
 namespace {
 
-/// Altitudes [m] que admite el programa para fijar la presión.
-constexpr double ALTITUD_MINIMA = -500.0;
-constexpr double ALTITUD_MAXIMA = 9000.0;
-
 /// El texto de una casilla de la superficie: vacío vale (se dirá que falta), otra cosa ha de ser un número.
 /// Los límites los pone la entrada validada.
 std::string TextoDeCasilla(const std::optional<std::string> &texto, const char *opcion,
@@ -22,16 +18,10 @@ std::string TextoDeCasilla(const std::optional<std::string> &texto, const char *
   return *texto;
 }
 
-std::optional<float> LeerPresion(const std::optional<std::string> &texto) {
+/// Un real optativo; los límites son los de los motores, que acotan y lo anotan.
+std::optional<float> LeerReal(const std::optional<std::string> &texto, const char *opcion) {
   if (!texto) return std::nullopt;
-  const auto presion = static_cast<float>(LeerNumero(*texto, "--presion"));
-  if (presion <= 0.0F) throw Fallo(Estado::UsoIncorrecto, "--presion: ha de ser mayor que 0");
-  return presion;
-}
-
-std::optional<float> LeerAltitud(const std::optional<std::string> &texto) {
-  if (!texto) return std::nullopt;
-  return static_cast<float>(LeerNumero(*texto, "--altitud", ALTITUD_MINIMA, ALTITUD_MAXIMA));
+  return static_cast<float>(LeerNumero(*texto, opcion));
 }
 
 Periodo LeerPeriodo(const OpcionesSeleccion &opciones, Periodo periodo) {
@@ -91,8 +81,8 @@ PeticionSeleccion Interpretar(const OpcionesSeleccion &opciones) {
   inclinacion = TextoDeCasilla(opciones.inclinacion, "--inclinacion", inclinacion);
   orientacion = TextoDeCasilla(opciones.orientacion, "--orientacion", orientacion);
   albedo = TextoDeCasilla(opciones.albedo, "--albedo", albedo);
-  peticion.presion = LeerPresion(opciones.presion);
-  peticion.altitud = LeerAltitud(opciones.altitud);
+  peticion.presion = LeerReal(opciones.presion, "--presion");
+  peticion.altitud = LeerReal(opciones.altitud, "--altitud");
   peticion.localidad = opciones.localidad.value_or("");
   peticion.fichero = RutaDada(opciones.fichero, "--fichero");
   peticion.horizonte = RutaDada(opciones.horizonte, "--horizonte");

@@ -1,10 +1,11 @@
 #include "core/Lectorclaves.h"
 
 #include "core/Codificacion.h"
+#include "core/Lectornumeros.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
+#include <optional>
 
 namespace tesmo {
 
@@ -52,13 +53,9 @@ int LectorClaves::LeerClave(std::string_view clave, std::string &destino) const 
 int LectorClaves::LeerClaveReal(std::string_view clave, float &destino) const {
   const std::size_t inicio = PosicionDelValor(clave);
   if (inicio == std::string::npos) return -1;
-  std::string_view resto = std::string_view(texto_).substr(inicio);
-  resto.remove_prefix(std::min(resto.find_first_not_of(" \t\v\f"), resto.size()));
-  if (!resto.empty() && resto.front() == '+') resto.remove_prefix(1);
-  float valor = 0.0F;
-  const auto [fin, error] = std::from_chars(resto.data(), resto.data() + resto.size(), valor);
-  if (error != std::errc() || !std::isfinite(valor)) return -1;
-  destino = valor;
+  const std::optional<float> valor = LectorNumeros(std::string_view(texto_).substr(inicio)).Real();
+  if (!valor || !std::isfinite(*valor)) return -1;
+  destino = *valor;
   return 0;
 }
 

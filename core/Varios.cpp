@@ -1,9 +1,10 @@
 #include "core/Varios.h"
 
 #include "core/Configuracionregional.h"
+#include "core/Lectornumeros.h"
 
+#include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <limits>
 
 namespace tesmo {
@@ -56,14 +57,6 @@ std::string NumeroEnPunto(std::string_view texto) {
   return i == texto.size() ? limpio : std::string();
 }
 
-/// Lo que no cabe en un real doble: infinito con su signo o cero, según el exponente.
-double FueraDeAlcance(std::string_view numero) {
-  const std::size_t e = numero.find('e');
-  const bool pequeno = e != std::string_view::npos && e + 1 < numero.size() && numero[e + 1] == '-';
-  const double magnitud = pequeno ? 0.0 : std::numeric_limits<double>::infinity();
-  return numero.front() == '-' ? -magnitud : magnitud;
-}
-
 } // namespace
 
 void AjustarSeparador(std::string &texto) {
@@ -81,8 +74,8 @@ std::optional<double> TextoAReal(std::string_view texto) {
   if (signo != std::string::npos) numero.erase(signo + 1, 1);
   double valor = 0.0;
   const auto [fin, error] = std::from_chars(numero.data(), numero.data() + numero.size(), valor);
-  if (error == std::errc::result_out_of_range) return FueraDeAlcance(numero);
-  return valor;
+  if (error != std::errc::result_out_of_range) return valor;
+  return LectorNumeros(numero).Real(); // infinito o cero, con su signo
 }
 
 float TextoARealOCero(std::string_view texto, bool &correcto) {

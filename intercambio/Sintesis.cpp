@@ -1,12 +1,16 @@
 #include "intercambio/Sintesis.h"
 
+#include "core/Codificacion.h"
 #include "core/Ficheros.h"
 #include "intercambio/sintesis/Aniosintetico.h"
 #include "intercambio/sintesis/Escriturameteo.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <optional>
+#include <set>
+#include <sstream>
 #include <system_error>
 
 namespace tesmo {
@@ -61,6 +65,31 @@ bool Escribir(const std::filesystem::path &ruta, const std::string &contenido, R
   return true;
 }
 
+/// Los nombres que encabezan los registros de una lista: lo que precede a @p separador en las líneas que
+/// empiezan por una letra.
+std::set<std::string> Nombres(const std::string &lista, char separador) {
+  std::set<std::string> nombres;
+  std::istringstream lineas(lista);
+  for (std::string linea; std::getline(lineas, linea);) {
+    const bool esNumero =
+        linea.empty() || std::string_view("-+.0123456789 \t\r").find(linea[0]) != std::string_view::npos;
+    if (!esNumero) nombres.insert(linea.substr(0, linea.find(separador)));
+  }
+  return nombres;
+}
+
+/// Escribe una lista salvo que la que hay nombre localidades que esta síntesis no conoce: alguien las añadió.
+bool EscribirLista(const std::filesystem::path &ruta, const std::string &contenido, char separador,
+                   ResultadoSintesis &resultado) {
+  const std::set<std::string> nuestros = Nombres(contenido, separador);
+  const std::set<std::string> presentes = Nombres(AUtf8(LeerFicheroEntero(ruta).value_or("")), separador);
+  if (!std::ranges::includes(nuestros, presentes)) {
+    resultado.avisos.push_back(TextoDeRuta(ruta) + ": tiene localidades añadidas; se deja como está");
+    return true;
+  }
+  return Escribir(ruta, contenido, resultado);
+}
+
 bool EscribirAnio(const std::filesystem::path &meteo, const NormalesLocalidad &localidad,
                   ResultadoSintesis &resultado) {
   const std::filesystem::path ruta = meteo / RutaDesdeTexto(FicheroMet(localidad));
@@ -82,8 +111,8 @@ bool EscribirTodo(const std::filesystem::path &meteo, const std::vector<Normales
   for (const NormalesLocalidad &localidad : localidades) {
     if (!EscribirAnio(meteo, localidad, resultado)) return false;
   }
-  return Escribir(meteo / "GDR.TXT", TextoGdr(localidades), resultado) &&
-         Escribir(meteo / "LocalidadesCC", TextoLocalidades(localidades), resultado);
+  return EscribirLista(meteo / "GDR.TXT", TextoGdr(localidades), ' ', resultado) &&
+         EscribirLista(meteo / "LocalidadesCC", TextoLocalidades(localidades), ',', resultado);
 }
 
 } // namespace

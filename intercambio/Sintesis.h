@@ -26,7 +26,8 @@ struct ResultadoSintesis {
 /// Hace de las medias mensuales de @p normales_csv un año sintético por localidad y escribe
 /// <directorio>/Meteo/<nombre corto>.met, <directorio>/Meteo/LocalidadesCC y <directorio>/Meteo/GDR.TXT,
 /// creando los directorios que falten. El mismo fichero de normales da siempre los mismos bytes.
-/// Un .met que ya esté y que no haya hecho esta síntesis es el año de una persona: se respeta y se avisa.
+/// Un .met que ya esté y que no haya hecho esta síntesis es el año de una persona: se respeta y se avisa;
+/// lo mismo una lista a la que se le añadieron localidades.
 /// Rutas en UTF-8. Devuelve verdadero si todo se escribió; si no, @p resultado dice qué y por qué.
 bool Sintetizar(const std::string &normales_csv, const std::string &directorio, ResultadoSintesis &resultado);
 

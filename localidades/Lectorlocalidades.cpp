@@ -81,9 +81,9 @@ private:
     const std::string_view campo = Trocear(linea_).front();
     const bool blanca = campo.find_first_not_of(" \t") == std::string_view::npos;
     const std::size_t cifra = std::min(campo.find_first_not_of(" \t"), campo.size());
-    if (!blanca && (campo[cifra] < '0' || campo[cifra] > '9'))
-      Avisar("campo 1: no es el número de localidades de un bloque");
-    return PrefijoEntero(campo);
+    if (blanca || (campo[cifra] >= '0' && campo[cifra] <= '9')) return PrefijoEntero(campo);
+    Avisar("campo 1: no es el número de localidades de un bloque");
+    return 0;
   }
 
   void LeerBloque(int cuenta) {

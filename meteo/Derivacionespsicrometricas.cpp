@@ -9,8 +9,8 @@ namespace {
 
 constexpr float ANGULO_RECTO = 90.0F;
 
-float DameReal(const CorrienteAire &aire, std::string_view codigo) {
-  return static_cast<float>(aire.dame(codigo));
+float DameReal(const CorrienteAire &aire, Magnitudaire magnitud) {
+  return static_cast<float>(aire.dame(magnitud));
 }
 
 } // namespace
@@ -28,11 +28,12 @@ void DerivarPsicrometricas(const SeriesLeidas &leidas, SeriesDerivadas &derivada
   CorrienteAire aire;
   RecorrerHoras(tramo, {}, seca.size(), [&](std::size_t i, const FechaHora &) {
     aire.pont_w(seca[i], humedad[i], presion);
-    derivadas[SerieDerivada::Rocio][i] = DameReal(aire, "tr");
-    derivadas[SerieDerivada::Humeda][i] = DameReal(aire, "th");
-    const float entalpia = DameReal(aire, "h");
+    derivadas[SerieDerivada::Rocio][i] = DameReal(aire, Magnitudaire::TemperaturaRocio);
+    derivadas[SerieDerivada::Humeda][i] = DameReal(aire, Magnitudaire::TemperaturaHumeda);
+    const float entalpia = DameReal(aire, Magnitudaire::Entalpia);
     derivadas[SerieDerivada::Entalpia][i] = entalpia;
-    derivadas[SerieDerivada::VolumenEspecifico][i] = static_cast<float>(1.0L / aire.dame("ro"));
+    derivadas[SerieDerivada::VolumenEspecifico][i] =
+        static_cast<float>(1.0L / aire.dame(Magnitudaire::Densidad));
     derivadas[SerieDerivada::CalorEspecifico][i] = CalorEspecifico(entalpia, seca[i]);
     derivadas[SerieDerivada::Altura][i] = ANGULO_RECTO - cenit[i];
   });

@@ -31,7 +31,7 @@ TramoHoras Recortar(TramoHoras tramo, std::size_t horas) {
 LeerMet::LeerMet() : ObjetoBase("LeerMet") {}
 
 bool LeerMet::LeerFichero(const std::string &ruta) {
-  const std::optional<std::string> texto = LeerFicheroEntero(RutaDesdeTexto(ruta));
+  const std::optional<std::string> texto = LeerFicheroEntero(BuscarSinMayusculas(RutaDesdeTexto(ruta)));
   if (!texto) return false;
   resumen_ = LeerTextoMet(*texto, sitio_, leidas_);
   ++carga_;

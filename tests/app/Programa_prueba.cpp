@@ -4,6 +4,7 @@
 #include "extremos/Diasextremos.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
+#include "psicro/Corrienteaire.h"
 #include "psicro/Psicrometrico.h"
 #include "solar/Posicionsolar.h"
 #include "tests/comun/Apoyos.h"
@@ -132,14 +133,37 @@ TEST_F(ProgramaYMotores, LaBaseDeLocalidadesSobreviveALosProgramas) {
   EXPECT_EQ(&DameBaseDeLocalidades(), &base);
 }
 
+TEST_F(ProgramaYMotores, LaBaseSeSueltaDespuesDeLosMotores) {
+  struct MotorAtento : DiasExtremos {
+    std::weak_ptr<BaseDeLocalidades> base;
+    bool *viva = nullptr;
+    ~MotorAtento() override { *viva = !base.expired(); }
+  };
+  bool viva = false;
+  FabricaMotores fabrica = FabricaMotores::DeLaAplicacion();
+  fabrica.diasExtremos = [&viva] {
+    auto motor = std::make_shared<MotorAtento>();
+    motor->base = CompartirBaseDeLocalidades();
+    motor->viva = &viva;
+    return motor;
+  };
+  {
+    const Programa programa(fabrica);
+    LiberarBaseDeLocalidades(); // ya sólo la sostiene el programa
+  }
+  EXPECT_TRUE(viva);
+}
+
 TEST_F(ProgramaYMotores, ClaveDesconocidaIgnoradaPorTodosLosMotores) {
   const Programa programa;
   mensajes_.apuntes.clear(); // el de la base de localidades, que aquí falta
   const float presion = programa.DamePsicro()->dameParametro(15);
-  for (ObjetoBase *motor : {static_cast<ObjetoBase *>(programa.DameDiasExtremos()),
-                            static_cast<ObjetoBase *>(programa.DameLeerMet()),
-                            static_cast<ObjetoBase *>(programa.DamePosicionSolar()),
-                            static_cast<ObjetoBase *>(programa.DamePsicro())}) {
+  CorrienteAire aire;
+  for (ObjetoBase *motor :
+       {static_cast<ObjetoBase *>(&aire), static_cast<ObjetoBase *>(programa.DameDiasExtremos()),
+        static_cast<ObjetoBase *>(programa.DameLeerMet()),
+        static_cast<ObjetoBase *>(programa.DamePosicionSolar()),
+        static_cast<ObjetoBase *>(programa.DamePsicro())}) {
     motor->PonTexto("Clave inventada", "99");
     EXPECT_EQ(motor->DameTexto("Clave inventada"), "") << motor->Nombre();
     EXPECT_FALSE(motor->MarcaAcumulada()) << motor->Nombre();

@@ -1,6 +1,7 @@
 #include "core/Lectorclaves.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 using namespace tesmo;
 
@@ -70,4 +71,53 @@ TEST(LectorClaves, UnRealSeLeeConPuntoYSuFaltaNoTocaNada) {
   EXPECT_EQ(valor, 8421631.0F);
   EXPECT_EQ(lector.LeerClaveReal("COLOR-X ", valor), 0);
   EXPECT_EQ(valor, 125.0F);
+  EXPECT_EQ(LectorClaves("; A = +-5").LeerClaveReal("A ", valor), -1);
+  EXPECT_EQ(valor, 125.0F);
+  EXPECT_EQ(LectorClaves("; A = 1e-50").LeerClaveReal("A ", valor), 0);
+  EXPECT_EQ(valor, 0.0F);
+}
+
+TEST(LectorClaves, TextosVaciosBinariosYEnormesNoTienenClaves) {
+  EXPECT_EQ(Leida("", "MET "), "(intacto)");
+  EXPECT_EQ(Leida(std::string_view("\0\1\2\xFF=\0", 6), "MET "), "(intacto)");
+  EXPECT_EQ(Leida(std::string(1'000'000, 'x'), "MET "), "(intacto)");
+  EXPECT_EQ(Leida("; MET = " + std::string(100'000, 'd') + "/", "MET ").size(), 100'001U);
+}
+
+TEST(LectorClaves, MutacionesNoRompenNiInventanValores) {
+  std::mt19937 azar(742);
+  const std::string semilla =
+      "; rutas\r\nPER = Perfiles\\\nMET = \"Mis datos\\\"\nCOLOR-TS   = 8421631.000000\n";
+  int hallados = 0;
+  for (int vuelta = 0; vuelta < 20'000; ++vuelta) {
+    std::string texto = semilla;
+    for (auto n = azar() % 6; n > 0 && !texto.empty(); --n) {
+      const std::size_t donde = azar() % texto.size();
+      switch (azar() % 4) {
+      case 0:
+        texto[donde] = static_cast<char>(azar());
+        break;
+      case 1:
+        texto.erase(donde, 1 + azar() % 9);
+        break;
+      case 2:
+        texto.insert(donde, azar() % 2 == 0 ? "\"" : "=");
+        break;
+      default:
+        texto.resize(donde);
+        break;
+      }
+    }
+    const LectorClaves lector(texto);
+    std::string valor = "(intacto)";
+    const int estado = lector.LeerClave("MET ", valor);
+    EXPECT_EQ(estado == -1, valor == "(intacto)");
+    EXPECT_LE(valor.size(), 2 * texto.size() + 9);
+    float real = -1.0F;
+    const bool leido = lector.LeerClaveReal("COLOR-TS ", real) == 0;
+    EXPECT_EQ(leido, real != -1.0F);
+    hallados += estado == 0 ? 1 : 0;
+  }
+  EXPECT_GT(hallados, 5'000);
+  EXPECT_LT(hallados, 20'000);
 }

@@ -36,6 +36,21 @@ TEST(Rutas, SinConfigIniTodoCaeEnElDirectorioBase) {
   EXPECT_EQ(valor, "intacto");
 }
 
+TEST(Rutas, UnConfigIniQueNoSePuedeLeerCuentaComoAusente) {
+  DirectorioTemporal conDirectorio;
+  std::filesystem::create_directory(conDirectorio / "config.ini");
+  ServicioConfiguracion servicio(TextoDeRuta(conDirectorio.Ruta()));
+  EXPECT_EQ(servicio.RutaMeteo("a"), TextoDeRuta(conDirectorio / "a"));
+
+  DirectorioTemporal cerrado;
+  const std::string ini = cerrado.Escribir("config.ini", "; x\nMET = M/\n");
+  std::filesystem::permissions(ini, std::filesystem::perms::none);
+  EXPECT_TRUE(SinPrivilegios([&] {
+    ServicioConfiguracion otro(TextoDeRuta(cerrado.Ruta()));
+    return otro.RutaMeteo("a") == TextoDeRuta(cerrado / "a");
+  }));
+}
+
 TEST(Rutas, HaceActualElDirectorioBase) {
   DirectorioTemporal directorio;
   ServicioConfiguracion servicio(TextoDeRuta(directorio.Ruta()));

@@ -47,6 +47,8 @@ TEST(Varios, LoQueNoCabeEsInfinitoOCero) {
   EXPECT_EQ(TextoAReal("1e999"), HUGE_VAL);
   EXPECT_EQ(TextoAReal("-1e999"), -HUGE_VAL);
   EXPECT_EQ(TextoAReal("1e-999"), 0.0);
+  EXPECT_EQ(TextoAReal("0." + std::string(400, '0') + "1"), 0.0);
+  EXPECT_EQ(TextoAReal("1" + std::string(400, '0') + "e-5"), HUGE_VAL);
 }
 
 TEST(Varios, PrefijoEnteroTomaLasCifrasDelPrincipio) {

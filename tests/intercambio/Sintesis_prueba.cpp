@@ -192,6 +192,20 @@ TEST_F(Sintesis, UnAnioDeVerdadSeRespetaYSeAvisa) {
   EXPECT_EQ(resultado_.ficheros.size(), 3U);
 }
 
+TEST_F(Sintesis, UnaListaConLocalidadesAnadidasSeRespetaYSeAvisa) {
+  ASSERT_TRUE(Hacer(Primeras(2)));
+  const std::string lista =
+      Meteo("LocalidadesCC") + "1\nMojácar,Mojacar,Almería,,Almería,mio.met,37.1,-1.9,15,9,0\n";
+  const std::string registros = Meteo("GDR.TXT") + "Mojacar COSTA 37.1 -1.9 15 10\n1 2 3\n";
+  const std::string ruta = directorio_.Escribir("Meteo/LocalidadesCC", lista);
+  directorio_.Escribir("Meteo/GDR.TXT", registros);
+  ASSERT_TRUE(Hacer(Primeras(2)));
+  EXPECT_EQ(Meteo("LocalidadesCC"), lista);
+  EXPECT_EQ(Meteo("GDR.TXT"), registros);
+  ASSERT_EQ(resultado_.avisos.size(), 2U);
+  EXPECT_EQ(resultado_.avisos[1], ruta + ": tiene localidades añadidas; se deja como está");
+}
+
 TEST_F(Sintesis, UnSinteticoViejoOVacioSeRehace) {
   directorio_.Escribir("Meteo/Almeria.met", "Año sintético de Tesmo, de otra versión\n");
   directorio_.Escribir("Meteo/Cadiz.met", "");

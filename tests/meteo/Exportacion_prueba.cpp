@@ -158,8 +158,9 @@ TEST(Exportacion, UnFicheroQueNoSePuedeCrearMuestraElMensaje60) {
   EXPECT_FALSE(exportador.met.EscribirFichero(ruta, TS_Y_HR));
   EXPECT_FALSE(exportador.met.EscribirFichero(TextoDeRuta(exportador.directorio.Ruta()), TS_Y_HR));
   ASSERT_EQ(mensajes.apuntes.size(), 2U);
-  EXPECT_NE(mensajes.apuntes[0].texto.find(ruta), std::string::npos);
+  EXPECT_EQ(mensajes.apuntes[0].texto, "El fichero de resultado " + ruta + " no se ha podido abrir.\n ");
   EXPECT_EQ(mensajes.apuntes[0].titulo, "Información");
+  EXPECT_EQ(mensajes.apuntes[0].icono, Icono::Informacion);
 }
 
 TEST(Exportacion, SustituyeElFicheroQueHubiera) {
