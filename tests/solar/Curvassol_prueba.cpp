@@ -17,7 +17,8 @@ CurvaSolar CurvaLlana(float latitud, int mes, int dia) {
   PosicionSolar sol(latitud, mes, dia, 12.0F);
   const SalidaPuesta horas = sol.CalcularSalidaPuesta(latitud, mes, dia);
   CurvaSolar curva;
-  for (float t = horas.salida + 0.01F; t <= horas.puesta; t = t + 0.01F) {
+  float t = horas.salida;
+  while ((t = t + 0.01F) <= horas.puesta) {
     const AngulosSolares a = sol.CalcularPosicion(latitud, mes, dia, t);
     curva.push_back({t, a.acimut, a.altura});
   }
@@ -88,7 +89,8 @@ TEST(Curvassol, LasHorasEnPuntoSonLasQueCaenEntreSalidaYPuesta) {
 // En el ecuador el sol sale a las 6 salvo un redondeo; con la tolerancia de la salida las 6 son de noche.
 TEST(Curvassol, LaHoraDentroDeLaToleranciaSeGuardaEnElDiaYNoEnLosMeses) {
   float latitud = 0.0F;
-  for (float candidata = 0.0F; candidata < 1.0F && latitud == 0.0F; candidata += 0.0005F) {
+  for (int i = 0; i < 2000 && latitud == 0.0F; ++i) {
+    const float candidata = 0.0005F * static_cast<float>(i);
     const SalidaPuesta horas = HorasDeSol(candidata, DeclinacionSolar(6, 21));
     if (horas.salida < 6.0F && !EsHoraDeDia(horas, 6.0F)) latitud = candidata;
   }

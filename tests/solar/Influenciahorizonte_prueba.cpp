@@ -50,7 +50,7 @@ TEST(Influenciahorizonte, SinHorizonteNoSePierdeNada) {
   }
   const HorasDeSolDelAnio horas = HorasDeSolPerdidas({}, 36.84F);
   EXPECT_EQ(horas.deSol, deSol);
-  EXPECT_NEAR(horas.deSol, 8760 / 2, 60);
+  EXPECT_NEAR(horas.deSol, HORAS_DEL_ANIO / 2.0, 60.0);
   EXPECT_EQ(horas.perdidas, 0);
   EXPECT_EQ(HorasDeSolPerdidas(Muro(0.0F), 36.84F).perdidas, 0);
 }
