@@ -5,7 +5,7 @@
 namespace tesmo {
 
 /// Color de 24 bits en orden azul, verde, rojo (0x00BBGGRR).
-using Color = std::uint32_t;
+using ColorBgr = std::uint32_t;
 
 /// Superficie de dibujo con una pluma, en píxeles enteros con el origen arriba a la izquierda. Lo que caiga
 /// fuera de la superficie lo recorta ella. La realizan la imagen de la ventana, la línea de órdenes y las
@@ -14,7 +14,7 @@ class Lienzo {
 public:
   virtual ~Lienzo() = default;
   /// Color de los trazos siguientes.
-  virtual void PonColor(Color color) = 0;
+  virtual void PonColor(ColorBgr color) = 0;
   /// Grueso de los trazos siguientes [píxeles].
   virtual void PonGrueso(int grueso) = 0;
   /// Lleva la pluma a (@p x, @p y) sin trazar.

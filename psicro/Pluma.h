@@ -11,7 +11,7 @@ class Pluma {
 public:
   explicit Pluma(Lienzo &lienzo) : lienzo_(lienzo) {}
 
-  void PonColor(Color color) { lienzo_.PonColor(color); }
+  void PonColor(ColorBgr color) { lienzo_.PonColor(color); }
   /// Lleva la pluma a (@p x, @p y) [píxeles].
   void MoverA(double x, double y);
   /// Traza hasta (@p x, @p y) [píxeles].

@@ -8,11 +8,11 @@ namespace tesmo {
 
 namespace {
 
-constexpr Color FUCSIA = 0xFF00FF;
-constexpr Color ROJO = 0x0000FF;
-constexpr Color NEGRO = 0x000000;
-constexpr Color VERDE_AZULADO = 0x808000;
-constexpr Color GRANATE = 0x000080;
+constexpr ColorBgr FUCSIA = 0xFF00FF;
+constexpr ColorBgr ROJO = 0x0000FF;
+constexpr ColorBgr NEGRO = 0x000000;
+constexpr ColorBgr VERDE_AZULADO = 0x808000;
+constexpr ColorBgr GRANATE = 0x000080;
 
 /// En el orden de Familia.
 constexpr std::array<AspectoFamilia, NUMERO_FAMILIAS> ASPECTO_INICIAL{{

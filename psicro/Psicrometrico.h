@@ -28,7 +28,7 @@ struct Rango {
 /// Todo lo que se puede cambiar de una familia de líneas.
 struct AspectoFamilia {
   Rango rango;
-  Color color = 0;
+  ColorBgr color = 0;
   bool visible = true;
 };
 
@@ -74,8 +74,8 @@ public:
 
   [[nodiscard]] const Rango &dameRango(Familia familia) const { return Aspecto(familia).rango; }
   void ponRango(Familia familia, const Rango &rango) { Aspecto(familia).rango = rango; }
-  [[nodiscard]] Color dameColor(Familia familia) const { return Aspecto(familia).color; }
-  void ponColor(Familia familia, Color color) { Aspecto(familia).color = color; }
+  [[nodiscard]] ColorBgr dameColor(Familia familia) const { return Aspecto(familia).color; }
+  void ponColor(Familia familia, ColorBgr color) { Aspecto(familia).color = color; }
   [[nodiscard]] bool esVisible(Familia familia) const { return Aspecto(familia).visible; }
   void ponVisible(Familia familia, bool visible) { Aspecto(familia).visible = visible; }
 

@@ -9,7 +9,7 @@ namespace {
 /// Lienzo que sólo suma, para medir el modelo y no la pintura.
 class LienzoSuma : public Lienzo {
 public:
-  void PonColor(Color color) override { suma += static_cast<long>(color); }
+  void PonColor(ColorBgr color) override { suma += static_cast<long>(color); }
   void PonGrueso(int grueso) override { suma += grueso; }
   void MoverA(int x, int y) override { suma += x + y; }
   void LineaA(int x, int y) override { suma += x - y; }

@@ -15,7 +15,7 @@ public:
     bool traza;
   };
 
-  void PonColor(tesmo::Color color) override {
+  void PonColor(tesmo::ColorBgr color) override {
     char texto[24];
     std::snprintf(texto, sizeof texto, "color 0x%06X", color);
     llamadas.emplace_back(texto);

@@ -20,7 +20,7 @@ constexpr float INFINITO = std::numeric_limits<float>::infinity();
 /// Lienzo que sólo cuenta, para los dibujos enormes.
 class LienzoContador : public Lienzo {
 public:
-  void PonColor(Color /*color*/) override { ++llamadas; }
+  void PonColor(ColorBgr /*color*/) override { ++llamadas; }
   void PonGrueso(int /*grueso*/) override { ++llamadas; }
   void MoverA(int /*x*/, int /*y*/) override { ++llamadas; }
   void LineaA(int /*x*/, int /*y*/) override { ++llamadas; }
