@@ -74,6 +74,7 @@ void Configurar(CLI::App &raiz, Contexto &contexto) {
       "escribir una salida.");
   RegistrarLocalidades(raiz, contexto);
   RegistrarAire(raiz, contexto);
+  RegistrarCorriente(raiz, contexto);
   RegistrarSol(raiz, contexto);
   RegistrarHorizonte(raiz, contexto);
   RegistrarSerie(raiz, contexto);

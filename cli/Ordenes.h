@@ -12,6 +12,7 @@ namespace tesmo::cli {
 /// la cumple; nada se hace antes. @p contexto ha de vivir tanto como @p raiz.
 void RegistrarLocalidades(CLI::App &raiz, Contexto &contexto);
 void RegistrarAire(CLI::App &raiz, Contexto &contexto);
+void RegistrarCorriente(CLI::App &raiz, Contexto &contexto);
 void RegistrarSol(CLI::App &raiz, Contexto &contexto);
 void RegistrarSerie(CLI::App &raiz, Contexto &contexto);
 void RegistrarEstadisticas(CLI::App &raiz, Contexto &contexto);

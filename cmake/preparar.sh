@@ -2,7 +2,7 @@
 
 PAQUETES_CONSTRUIR=(g++ cmake ninja-build
   qt6-base-dev qt6-svg-dev libqcustomplot-dev qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core
-  libcli11-dev nlohmann-json3-dev)
+  libcli11-dev nlohmann-json3-dev libreadline-dev)
 PAQUETES_PROBAR=(libgtest-dev xvfb openbox xdotool imagemagick x11-utils locales)
 PAQUETES_MEDIR=(libbenchmark-dev)
 

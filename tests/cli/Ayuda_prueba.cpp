@@ -14,6 +14,7 @@ const std::vector<Argumentos> ORDENES{{},
                                       {"estadisticas"},
                                       {"exportar"},
                                       {"sintetizar"},
+                                      {"corriente"},
                                       {"sol", "salida"},
                                       {"sol", "vector"},
                                       {"sol", "posicion"},
@@ -51,8 +52,8 @@ TEST_F(AyudaYErrores, CadaOrdenTieneAyudaEnEspanolConEjemplos) {
 
 TEST_F(AyudaYErrores, LaAyudaGeneralNombraTodasLasOrdenes) {
   const std::string ayuda = Orden({"--help"}).salida;
-  for (const char *orden :
-       {"localidades", "aire", "sol", "serie", "estadisticas", "exportar", "sintetizar", "horizonte"})
+  for (const char *orden : {"localidades", "aire", "sol", "serie", "estadisticas", "exportar", "sintetizar",
+                            "horizonte", "corriente"})
     EXPECT_NE(ayuda.find(std::string("\n  ") + orden + " "), std::string::npos) << orden;
 }
 

@@ -22,17 +22,22 @@ std::vector<std::string> Partir(const std::string &texto, char separador) {
   return partes;
 }
 
+struct Canales {
+  std::string entrada, salida, error;
+};
+
 [[noreturn]] void Sustituir(const std::vector<std::string> &argumentos, const std::string &directorio,
-                            const std::string &salida, const std::string &error) {
+                            const Canales &canales) {
   std::vector<char *> argv;
   argv.reserve(argumentos.size() + 1);
   for (const std::string &argumento : argumentos) argv.push_back(const_cast<char *>(argumento.c_str()));
   argv.push_back(nullptr);
   const int modo = O_WRONLY | O_CREAT | O_TRUNC;
-  const int s = open(salida.c_str(), modo, 0600);
-  const int e = open(error.c_str(), modo, 0600);
-  if (s >= 0 && e >= 0 && dup2(s, STDOUT_FILENO) >= 0 && dup2(e, STDERR_FILENO) >= 0 &&
-      chdir(directorio.c_str()) == 0)
+  const int i = open(canales.entrada.c_str(), O_RDONLY);
+  const int s = open(canales.salida.c_str(), modo, 0600);
+  const int e = open(canales.error.c_str(), modo, 0600);
+  if (i >= 0 && s >= 0 && e >= 0 && dup2(i, STDIN_FILENO) >= 0 && dup2(s, STDOUT_FILENO) >= 0 &&
+      dup2(e, STDERR_FILENO) >= 0 && chdir(directorio.c_str()) == 0)
     execv(argv[0], argv.data());
   _exit(127);
 }
@@ -68,13 +73,14 @@ std::string LineaDeOrdenes::Met() {
   return texto;
 }
 
-Ejecucion LineaDeOrdenes::Orden(const std::vector<std::string> &argumentos, const std::string &salida) const {
+Ejecucion LineaDeOrdenes::Orden(const std::vector<std::string> &argumentos, const std::string &salida,
+                                const std::string &entrada) const {
   std::vector<std::string> todos{std::string(TESMO_BIN) + "/tesmo-cli"};
   todos.insert(todos.end(), argumentos.begin(), argumentos.end());
   const std::string ficheroSalida = salida.empty() ? (raiz_ / "salida.txt").string() : salida;
   const std::string ficheroError = (raiz_ / "error.txt").string();
   const pid_t hijo = fork();
-  if (hijo == 0) Sustituir(todos, trabajo_, ficheroSalida, ficheroError);
+  if (hijo == 0) Sustituir(todos, trabajo_, {entrada, ficheroSalida, ficheroError});
   int estado = 0;
   if (hijo < 0 || waitpid(hijo, &estado, 0) != hijo || !WIFEXITED(estado)) return {};
   return {WEXITSTATUS(estado), salida.empty() ? Contenido(ficheroSalida) : std::string(),

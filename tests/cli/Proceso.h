@@ -24,9 +24,10 @@ struct Ejecucion {
 class LineaDeOrdenes : public ::testing::Test {
 protected:
   void SetUp() override;
-  /// Ejecuta tesmo-cli en el directorio de trabajo con @p argumentos, en un proceso aparte.
-  [[nodiscard]] Ejecucion Orden(const std::vector<std::string> &argumentos,
-                                const std::string &salida = {}) const;
+  /// Ejecuta tesmo-cli en el directorio de trabajo con @p argumentos, en un proceso aparte, con la entrada en
+  /// el fichero @p entrada.
+  [[nodiscard]] Ejecucion Orden(const std::vector<std::string> &argumentos, const std::string &salida = {},
+                                const std::string &entrada = "/dev/null") const;
   /// Lo mismo con "--base" y el directorio base al final.
   [[nodiscard]] Ejecucion ConBase(std::vector<std::string> argumentos) const;
   /// Un fichero de dos días cuya hora i (desde 0) tiene i/4 ºC de temperatura seca y 100 + i W/m² de directa.
