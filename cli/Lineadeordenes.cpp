@@ -75,6 +75,7 @@ void Configurar(CLI::App &raiz, Contexto &contexto) {
   RegistrarLocalidades(raiz, contexto);
   RegistrarAire(raiz, contexto);
   RegistrarCorriente(raiz, contexto);
+  RegistrarCarta(raiz, contexto);
   RegistrarSol(raiz, contexto);
   RegistrarHorizonte(raiz, contexto);
   RegistrarSerie(raiz, contexto);

@@ -70,19 +70,24 @@ void AnadirSeleccion(CLI::App &orden, OpcionesSeleccion &opciones) {
   AnadirBase(orden, opciones.base);
 }
 
+PeticionPresion InterpretarPresion(const OpcionesSeleccion &opciones) {
+  if (opciones.presion && opciones.altitud)
+    throw Fallo(Estado::UsoIncorrecto, "--presion y --altitud no pueden ir juntas");
+  return {LeerReal(opciones.presion, "--presion"), LeerReal(opciones.altitud, "--altitud")};
+}
+
 PeticionSeleccion Interpretar(const OpcionesSeleccion &opciones) {
   if (opciones.localidad.has_value() == opciones.fichero.has_value())
     throw Fallo(Estado::UsoIncorrecto, "hay que dar --localidad o --fichero, y sólo una de las dos");
-  if (opciones.presion && opciones.altitud)
-    throw Fallo(Estado::UsoIncorrecto, "--presion y --altitud no pueden ir juntas");
   PeticionSeleccion peticion;
   peticion.periodo = LeerPeriodo(opciones, peticion.periodo);
   auto &[inclinacion, orientacion, albedo] = peticion.superficie;
   inclinacion = TextoDeCasilla(opciones.inclinacion, "--inclinacion", inclinacion);
   orientacion = TextoDeCasilla(opciones.orientacion, "--orientacion", orientacion);
   albedo = TextoDeCasilla(opciones.albedo, "--albedo", albedo);
-  peticion.presion = LeerReal(opciones.presion, "--presion");
-  peticion.altitud = LeerReal(opciones.altitud, "--altitud");
+  const PeticionPresion presion = InterpretarPresion(opciones);
+  peticion.presion = presion.presion;
+  peticion.altitud = presion.altitud;
   peticion.localidad = opciones.localidad.value_or("");
   peticion.fichero = RutaDada(opciones.fichero, "--fichero");
   peticion.horizonte = RutaDada(opciones.horizonte, "--horizonte");

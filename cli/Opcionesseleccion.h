@@ -40,6 +40,12 @@ struct PeticionSeleccion {
   std::string horizonte;        ///< vacía: sin horizonte
   std::string base;             ///< vacía: junto al programa
 };
+/// De dónde sale la presión; ninguna de las dos: de donde diga la orden. Lanza Fallo si van juntas.
+struct PeticionPresion {
+  std::optional<float> presion; ///< [Pa]
+  std::optional<float> altitud; ///< [m]
+};
+[[nodiscard]] PeticionPresion InterpretarPresion(const OpcionesSeleccion &opciones);
 /// Lanza Fallo (uso incorrecto) si algo no vale.
 [[nodiscard]] PeticionSeleccion Interpretar(const OpcionesSeleccion &opciones);
 

@@ -13,6 +13,7 @@ namespace tesmo::cli {
 void RegistrarLocalidades(CLI::App &raiz, Contexto &contexto);
 void RegistrarAire(CLI::App &raiz, Contexto &contexto);
 void RegistrarCorriente(CLI::App &raiz, Contexto &contexto);
+void RegistrarCarta(CLI::App &raiz, Contexto &contexto);
 void RegistrarSol(CLI::App &raiz, Contexto &contexto);
 void RegistrarSerie(CLI::App &raiz, Contexto &contexto);
 void RegistrarEstadisticas(CLI::App &raiz, Contexto &contexto);

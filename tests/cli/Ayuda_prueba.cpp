@@ -15,6 +15,7 @@ const std::vector<Argumentos> ORDENES{{},
                                       {"exportar"},
                                       {"sintetizar"},
                                       {"corriente"},
+                                      {"carta"},
                                       {"sol", "salida"},
                                       {"sol", "vector"},
                                       {"sol", "posicion"},
@@ -53,7 +54,7 @@ TEST_F(AyudaYErrores, CadaOrdenTieneAyudaEnEspanolConEjemplos) {
 TEST_F(AyudaYErrores, LaAyudaGeneralNombraTodasLasOrdenes) {
   const std::string ayuda = Orden({"--help"}).salida;
   for (const char *orden : {"localidades", "aire", "sol", "serie", "estadisticas", "exportar", "sintetizar",
-                            "horizonte", "corriente"})
+                            "horizonte", "corriente", "carta"})
     EXPECT_NE(ayuda.find(std::string("\n  ") + orden + " "), std::string::npos) << orden;
 }
 
