@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
 #include <QTextStream>
 
@@ -29,7 +30,19 @@ QString RutaAbsoluta(const QString &ruta) {
   return ruta.isEmpty() ? ruta : QDir::current().absoluteFilePath(ruta);
 }
 
-Opciones LeerOpciones(const QApplication &aplicacion) {
+/// Las de Qt que se admiten en la orden; las atiende QApplication y aquí sólo se dejan pasar.
+QList<QCommandLineOption> OpcionesDeQt() {
+  QList<QCommandLineOption> opciones;
+  for (const QString &nombre : {QStringLiteral("platform"), QStringLiteral("style")}) {
+    opciones.emplace_back(nombre, QString(), QStringLiteral("VALOR"));
+    opciones.back().setFlags(QCommandLineOption::HiddenFromHelp);
+  }
+  return opciones;
+}
+
+/// Se leen antes de abrir la aplicación de ventanas: la ayuda y los errores no necesitan pantalla.
+Opciones LeerOpciones(int argc, char **argv) {
+  const QCoreApplication sinVentanas(argc, argv);
   const QCommandLineOption demostracion(
       QStringLiteral("demostracion"),
       QStringLiteral(
@@ -44,8 +57,9 @@ Opciones LeerOpciones(const QApplication &aplicacion) {
   QCommandLineParser lector;
   lector.setApplicationDescription(
       QStringLiteral("Año meteorológico típico, aire húmedo y sol para la edificación."));
-  lector.addOptions({demostracion, base, ayuda});
-  if (!lector.parse(aplicacion.arguments()) || !lector.positionalArguments().isEmpty()) {
+  lector.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+  lector.addOptions(QList<QCommandLineOption>{demostracion, base, ayuda} + OpcionesDeQt());
+  if (!lector.parse(QCoreApplication::arguments()) || !lector.positionalArguments().isEmpty()) {
     QTextStream(stderr) << (lector.errorText().isEmpty()
                                 ? QStringLiteral("Argumento de más: ") + lector.positionalArguments().value(0)
                                 : lector.errorText())
@@ -62,9 +76,9 @@ Opciones LeerOpciones(const QApplication &aplicacion) {
 } // namespace
 
 int main(int argc, char **argv) {
+  const Opciones opciones = LeerOpciones(argc, argv);
   QApplication aplicacion(argc, argv);
   tesmo::PrepararAplicacion(aplicacion);
-  const Opciones opciones = LeerOpciones(aplicacion);
   tesmo::PonAvisoLocalidades([](const std::string &aviso) {
     QTextStream(stderr) << "Aviso: " << QString::fromStdString(aviso) << "\n";
   });
