@@ -19,7 +19,7 @@ trap limpiar EXIT
 
 fallar() {
   echo "FALLO: $*" >&2
-  import -silent -window root "${TESMO_FOTO_FALLO:-$trabajo/fallo.png}" 2>/dev/null || true
+  import -silent -window root "${TESMO_FOTO_FALLO:-$PWD/extremo_a_extremo_fallo.png}" 2>/dev/null || true
   exit 1
 }
 
@@ -116,10 +116,13 @@ for sobra in ' ene' ' ago' 'Entalp'; do
   [[ $texto != *"$sobra"* ]] || fallar "la imagen lleva «$sobra»"
 done
 
+hay_horas() { grep -q ' h</text>\| h *$' "$1"; }
+! hay_horas "$trabajo/julio.svg" || fallar 'el mes entero ya lleva horas: la rueda no probaría nada'
+
 # --- ampliar con la rueda, quitar una variable, volver con doble clic
 xdotool mousemove 760 350 click --repeat 12 4
 guardar "$trabajo/ampliado.svg"
-grep -q ' h</text>\| h *$' "$trabajo/ampliado.svg" || fallar 'la rueda no amplió hasta las horas'
+hay_horas "$trabajo/ampliado.svg" || fallar 'la rueda no amplió hasta las horas'
 clic_en_muestra $HR
 esperar 30 'la humedad oculta' no_se_dibuja $HR
 xdotool mousemove 760 350 click --repeat 2 --delay 60 1
