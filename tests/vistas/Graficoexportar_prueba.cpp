@@ -5,6 +5,7 @@
 
 #include <QBuffer>
 #include <QClipboard>
+#include <QDir>
 #include <QFileDialog>
 #include <QRegularExpression>
 #include <optional>
@@ -161,6 +162,42 @@ private slots:
                                                                "4999\t7\t28\t7\t12\n"
                                                                "5000\t7\t28\t8\t10\n"
                                                                "5001\t7\t28\t9\t50\n"));
+  }
+
+  void unaSerieMasCortaQueElEjeSeCopiaHastaDondeLlega() {
+    const ConSeparador coma(',');
+    grafico_->Vaciar();
+    grafico_->AnadirSerie({QStringLiteral("ts"), QStringLiteral("Temperatura seca (ºC)"),
+                           QStringLiteral("0.0"), COLOR, 2.0, LadoEje::Izquierdo, true},
+                          std::vector<float>{1.5F, 2.5F});
+    grafico_->Redibujar();
+    grafico_->PonTramo(0.5, 3.5);
+    QCOMPARE(grafico_->TextoDatos(), QStringLiteral("n\tmes\tdia\thora\tTemperatura seca (ºC)\n"
+                                                    "1\t1\t1\t1\t1,5\n"
+                                                    "2\t1\t1\t2\t2,5\n"
+                                                    "3\t1\t1\t3\tnan\n"));
+  }
+
+  void elDialogoEmpiezaEnResultadosYRecuerdaElUltimoDirectorio() {
+    const DatosPrueba datos;
+    const auto dondeEmpieza = [&](const QString &guardar) {
+      grafico_->PedirGuardarImagen(QStringLiteral("svg"));
+      auto *dialogo = grafico_->findChild<QFileDialog *>(QStringLiteral("sdGuardarImagen"));
+      const QString directorio = dialogo->directory().absolutePath();
+      if (!guardar.isEmpty()) emit dialogo->fileSelected(guardar);
+      delete dialogo;
+      return directorio;
+    };
+    {
+      const DirectorioTemporal otro;
+      const QString ruta = QString::fromStdString(TextoDeRuta(otro.Ruta()));
+      (void)dondeEmpieza(ruta + QStringLiteral("/g.svg"));
+      QCOMPARE(dondeEmpieza({}), QDir(ruta).absolutePath());
+    }
+    // El recordado ya no está.
+    QCOMPARE(dondeEmpieza({}), QDir::homePath());
+    std::filesystem::create_directory(datos.Directorio() / "Resultados");
+    QCOMPARE(dondeEmpieza({}), QString::fromStdString(TextoDeRuta(datos.Directorio() / "Resultados")));
   }
 
   void elMenuVuelveAlPeriodoEntero() {
