@@ -10,6 +10,7 @@
 #include <QSvgGenerator>
 
 #include <cmath>
+#include <limits>
 
 namespace tesmo {
 
@@ -20,6 +21,13 @@ constexpr double ESCALA_DE_GUARDADO = 2.0;
 /// Resolución en que un píxel del dibujo vectorial es un píxel de pantalla [puntos por pulgada].
 constexpr int RESOLUCION = 96;
 constexpr double PUNTOS_POR_PULGADA = 72.0;
+
+/// Valor de la curva en @p x; no es un número si la curva no llega a ese punto.
+double ValorEn(const QCPGraph &curva, double x) {
+  const auto punto = curva.data()->findBegin(x, false);
+  const bool esta = punto != curva.data()->constEnd() && punto->key == x;
+  return esta ? punto->value : std::numeric_limits<double>::quiet_NaN();
+}
 
 } // namespace
 
@@ -97,7 +105,7 @@ QString Grafico::TextoDatos() const {
     if (!serie.visible) continue;
     rotulos.push_back(serie.rotulo.toStdString());
     std::vector<double> &y = valores.emplace_back();
-    for (int k = primero; k <= ultimo; ++k) y.push_back(curva->data()->at(k - 1)->value);
+    for (const double en : x) y.push_back(ValorEn(*curva, en));
   }
   std::vector<ColumnaTexto> columnas;
   for (std::size_t i = 0; i < valores.size(); ++i) columnas.push_back({rotulos[i], valores[i]});
