@@ -164,7 +164,6 @@ void Grafico::Redibujar() {
   RehacerLeyenda();
   RehacerEje(LadoEje::Izquierdo);
   RehacerEje(LadoEje::Derecho);
-  interno_->capa->Ocultar();
   interno_->trazo->replot();
   interno_->capa->PonAviso(rect(), Leyenda().isEmpty() ? interno_->aviso : QString());
 }

@@ -105,8 +105,9 @@ private:
   void RehacerLeyenda();
   void RehacerEje(LadoEje lado);
   void LimitarTramo();
-  void ElegirEjesDeRueda(const QPointF &donde, bool valores);
+  void ElegirEjesDeRueda(const QPointF &donde, bool conControl);
   void MoverCursor(const QPoint &donde);
+  void LeerBajoElPuntero();
   void EnsenarMenu(const QPoint &donde);
   void AnadirOrdenes(QMenu &menu);
   [[nodiscard]] int SerieEnLeyenda(const QPoint &donde) const;

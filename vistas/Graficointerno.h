@@ -5,6 +5,7 @@
 #include "vistas/Grafico.h"
 #include "vistas/Leyenda.h"
 
+#include <optional>
 #include <vector>
 
 namespace tesmo {
@@ -25,6 +26,7 @@ struct Grafico::Interno {
   std::shared_ptr<const EscalaX> escala;
   std::vector<SerieTrazada> series;
   QString aviso;
+  std::optional<QPoint> puntero; ///< dónde está el ratón; vacío: fuera del gráfico
 
   [[nodiscard]] QCPAxis *Eje(LadoEje lado) const {
     return lado == LadoEje::Izquierdo ? trazo->yAxis : trazo->yAxis2;

@@ -52,7 +52,10 @@ void Grafico::ConectarRaton() {
   connect(&trazo, &QCustomPlot::mouseDoubleClick, this, &Grafico::VerTodo);
   connect(&trazo, &QCustomPlot::mouseMove, this,
           [this](const QMouseEvent *suceso) { MoverCursor(suceso->position().toPoint()); });
+  // Lo que hay bajo un ratón quieto cambia con la rueda, las teclas y las series.
+  connect(&trazo, &QCustomPlot::afterReplot, this, &Grafico::LeerBajoElPuntero);
   connect(&trazo, &QCustomPlot::mouseWheel, this, [this](const QWheelEvent *suceso) {
+    interno_->puntero = suceso->position().toPoint();
     ElegirEjesDeRueda(suceso->position(), suceso->modifiers().testFlag(Qt::ControlModifier));
   });
   connect(trazo.xAxis, qOverload<const QCPRange &>(&QCPAxis::rangeChanged), this, &Grafico::LimitarTramo);
@@ -68,17 +71,27 @@ void Grafico::LimitarTramo() {
 }
 
 /// Sobre los datos la rueda amplía el tiempo; con Control, o sobre un eje de valores, amplía los valores.
-void Grafico::ElegirEjesDeRueda(const QPointF &donde, bool valores) {
+void Grafico::ElegirEjesDeRueda(const QPointF &donde, bool conControl) {
   QCustomPlot &trazo = *interno_->trazo;
   const QRect marco = trazo.axisRect()->rect();
   QList<QCPAxis *> verticales;
-  if (valores || donde.x() < marco.left()) verticales.append(trazo.yAxis);
-  if (valores || donde.x() > marco.right()) verticales.append(trazo.yAxis2);
-  trazo.axisRect()->setRangeZoomAxes(valores ? QList<QCPAxis *>() : QList<QCPAxis *>{trazo.xAxis},
-                                     verticales);
+  if (conControl || donde.x() < marco.left()) verticales.append(trazo.yAxis);
+  if (conControl || (donde.x() > marco.right() && trazo.yAxis2->visible())) verticales.append(trazo.yAxis2);
+  QList<QCPAxis *> horizontales;
+  if (verticales.isEmpty()) horizontales.append(trazo.xAxis);
+  trazo.axisRect()->setRangeZoomAxes(horizontales, verticales);
+}
+
+void Grafico::LeerBajoElPuntero() {
+  if (interno_->puntero) {
+    MoverCursor(*interno_->puntero);
+  } else {
+    interno_->capa->Ocultar();
+  }
 }
 
 void Grafico::MoverCursor(const QPoint &donde) {
+  interno_->puntero = donde;
   const QCustomPlot &trazo = *interno_->trazo;
   const QRect marco = trazo.axisRect()->rect();
   if (!interno_->escala || !marco.contains(donde) || Leyenda().isEmpty()) {
@@ -106,7 +119,10 @@ void Grafico::MoverCursor(const QPoint &donde) {
 QString Grafico::Lectura() const { return interno_->capa->Texto(); }
 
 bool Grafico::eventFilter(QObject *objeto, QEvent *suceso) {
-  if (objeto == interno_->trazo && suceso->type() == QEvent::Leave) interno_->capa->Ocultar();
+  if (objeto == interno_->trazo && suceso->type() == QEvent::Leave) {
+    interno_->puntero.reset();
+    interno_->capa->Ocultar();
+  }
   return QWidget::eventFilter(objeto, suceso);
 }
 

@@ -91,6 +91,25 @@ private slots:
     QCOMPARE(grafico_->Tramo(), (std::pair{0.5, HORAS + 0.5}));
   }
 
+  void sobreUnEjeDeValoresLaRuedaNoTocaElTiempo() {
+    const QRect marco = grafico_->Marco();
+    const auto ancho = [&](LadoEje lado) {
+      return grafico_->Limites(lado).maximo - grafico_->Limites(lado).minimo;
+    };
+    const double izquierdo = ancho(LadoEje::Izquierdo);
+    for (int x = 2; x < marco.left(); x += 4) Rueda(*trazo_, QPoint(x, marco.center().y()), 1);
+    QVERIFY(ancho(LadoEje::Izquierdo) < 0.7 * izquierdo);
+    QCOMPARE(grafico_->Tramo(), (std::pair{0.5, HORAS + 0.5}));
+    grafico_->PonLado(0, LadoEje::Derecho);
+    grafico_->Redibujar();
+    const double derecho = ancho(LadoEje::Derecho);
+    for (int x = grafico_->Marco().right() + 2; x < trazo_->width() - 2; x += 4) {
+      Rueda(*trazo_, QPoint(x, marco.center().y()), 1);
+    }
+    QVERIFY(ancho(LadoEje::Derecho) < 0.7 * derecho);
+    QCOMPARE(grafico_->Tramo(), (std::pair{0.5, HORAS + 0.5}));
+  }
+
   void arrastrarMueveElPeriodoALaVista() {
     grafico_->PonTramo(100.0, 200.0);
     const QPoint centro = grafico_->Marco().center();
@@ -132,11 +151,40 @@ private slots:
     QVERIFY(grafico_->Lectura().isEmpty());
   }
 
+  void laLecturaSigueALoQueHayBajoElPunteroQuieto() {
+    const QRect marco = grafico_->Marco();
+    const QPoint donde(marco.left() + marco.width() / 4, marco.center().y());
+    const auto esperada = [&] {
+      const auto [desde, hasta] = grafico_->Tramo();
+      const double x = desde + (donde.x() - marco.left()) * (hasta - desde) / marco.width();
+      return QStringLiteral("(hora %1 del período)").arg(std::lround(x));
+    };
+    QTest::mouseMove(trazo_, donde);
+    QVERIFY(grafico_->Lectura().contains(esperada()));
+    const QString antes = esperada();
+    for (const int tecla : {Qt::Key_Plus, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Minus}) {
+      QTest::keyClick(&*grafico_, static_cast<Qt::Key>(tecla));
+      QVERIFY2(grafico_->Lectura().contains(esperada()), qPrintable(grafico_->Lectura()));
+    }
+    grafico_->PonTramo(500.0, 600.0);
+    QVERIFY(esperada() != antes);
+    QVERIFY(grafico_->Lectura().contains(esperada()));
+    Rueda(*trazo_, donde, 2);
+    QVERIFY(grafico_->Lectura().contains(esperada()));
+    Rueda(*trazo_, donde + QPoint(200, 0), 2); // la rueda también dice dónde está el puntero
+    QVERIFY(!grafico_->Lectura().contains(esperada()));
+    grafico_->PonVisible(0, false);
+    grafico_->Redibujar();
+    QVERIFY(grafico_->Lectura().isEmpty());
+  }
+
   void salirDelGraficoQuitaElCursor() {
     QTest::mouseMove(trazo_, grafico_->Marco().center());
     QVERIFY(!grafico_->Lectura().isEmpty());
     QEvent sale(QEvent::Leave);
     QApplication::sendEvent(trazo_, &sale);
+    QVERIFY(grafico_->Lectura().isEmpty());
+    grafico_->PonTramo(100.0, 200.0); // y ampliar no lo trae de vuelta
     QVERIFY(grafico_->Lectura().isEmpty());
   }
 
