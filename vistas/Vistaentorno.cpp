@@ -56,6 +56,7 @@ bool Vistaentorno::visualizar() {
   leerPeriodo();
   if (PrepararDatos(programa_, seleccion_) != ResultadoCarga::Cargada) return false;
   ConstruirSeries();
+  if (repartoPendiente_) EjesPorUnidad();
   actualizarVisibles();
   return true;
 }
@@ -104,6 +105,7 @@ void Vistaentorno::Vaciar() {
 bool Vistaentorno::HaySeries() const { return grafico_.NumeroSeries() > 0; }
 
 void Vistaentorno::PonEje(int i, LadoEje lado) {
+  repartoPendiente_ = false;
   ejes_.at(static_cast<std::size_t>(i)) = lado;
   AplicarEjes();
 }
@@ -114,11 +116,12 @@ void Vistaentorno::AplicarEjes() {
 }
 
 void Vistaentorno::EjesPorUnidad() {
+  repartoPendiente_ = !HaySeries();
+  if (repartoPendiente_) return;
   std::vector<SerieReparto> series;
   for (int i = 0; i < NUMERO_SERIES; ++i) {
     if (!pagina_.Casilla(i).isChecked()) continue;
-    const double mayor = i < grafico_.NumeroSeries() ? grafico_.MayorValor(i) : 0.0;
-    series.push_back({Unidad(FichaDe(i).magnitud), mayor});
+    series.push_back({Unidad(FichaDe(i).magnitud), grafico_.MayorValor(i)});
   }
   const std::vector<LadoEje> lados = RepartirPorUnidad(series);
   std::map<std::string_view, LadoEje> ladoDeUnidad;

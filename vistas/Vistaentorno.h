@@ -46,8 +46,10 @@ public:
   [[nodiscard]] bool HaySeries() const;
   /// Eje vertical de la magnitud @p i (0 a 20).
   [[nodiscard]] LadoEje Eje(int i) const { return ejes_.at(static_cast<std::size_t>(i)); }
+  /// Elegir un eje a mano deja sin efecto el reparto que estuviera pendiente.
   void PonEje(int i, LadoEje lado);
   /// Reparte las magnitudes marcadas entre los dos ejes según sus unidades; las demás siguen a su unidad.
+  /// Sin series no se sabe cuánto vale cada una: el reparto queda pendiente hasta que se dibujen.
   void EjesPorUnidad();
 
 private:
@@ -63,6 +65,7 @@ private:
   Grafico &grafico_;
   QObject avisos_; ///< corta con su muerte las señales que llegan aquí
   std::array<LadoEje, NUMERO_MAGNITUDES_VISOR> ejes_{};
+  bool repartoPendiente_ = false;
   std::array<std::uint32_t, NUMERO_MAGNITUDES_VISOR> color_{};
 };
 

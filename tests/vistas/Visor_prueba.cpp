@@ -172,6 +172,32 @@ private slots:
     QCOMPARE(ventana.Chart().TituloEje(LadoEje::Izquierdo), QStringLiteral("ºC"));
   }
 
+  void ejesPorUnidadAntesDeVisualizarRepartePorLosValores() {
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Localidad("Almería");
+    for (const char *casilla : {"cbTS", "cbHR", "cbE"}) ventana.Marcar(casilla);
+    ventana.Pulsar("btnEjesPorUnidad");
+    ventana.Pulsar("btnSimulacion");
+    const Grafico &grafico = ventana.Chart();
+    QCOMPARE(grafico.Serie(0).lado, LadoEje::Izquierdo);
+    QCOMPARE(grafico.Serie(12).lado, LadoEje::Izquierdo);
+    QCOMPARE(grafico.Serie(13).lado, LadoEje::Derecho);
+    ElegirEnMenu(ventana.Casilla("cbHR"), QPoint(5, 5), "acEjeDerecho");
+    ventana.Pulsar("btnSimulacion"); // el reparto ya se hizo: no deshace lo elegido a mano
+    QCOMPARE(grafico.Serie(12).lado, LadoEje::Derecho);
+  }
+
+  void elegirUnEjeAManoAnulaElRepartoPendiente() {
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Localidad("Almería");
+    for (const char *casilla : {"cbTS", "cbHR", "cbE"}) ventana.Marcar(casilla);
+    ventana.Pulsar("btnEjesPorUnidad");
+    ElegirEnMenu(ventana.Casilla("cbHR"), QPoint(5, 5), "acEjeDerecho");
+    ventana.Pulsar("btnSimulacion");
+    QCOMPARE(ventana.Chart().Serie(12).lado, LadoEje::Derecho);
+    QCOMPARE(ventana.Chart().Serie(13).lado, LadoEje::Izquierdo);
+  }
+
   void dosVentanasNoSeMezclan() {
     marco_->marco.mnuNuevoClick();
     const Ventana una = marco_->Numero(0);
