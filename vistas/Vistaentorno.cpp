@@ -99,6 +99,7 @@ void Vistaentorno::aplicarColores() {
 
 void Vistaentorno::Vaciar() {
   grafico_.Vaciar();
+  grafico_.PonEscala(std::make_shared<EscalaHoras>(seleccion_.DamePeriodo()));
   grafico_.Redibujar();
 }
 

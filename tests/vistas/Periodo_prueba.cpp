@@ -96,6 +96,7 @@ private slots:
     QCOMPARE(ventana.Chart().NumeroSeries(), 21);
     ventana.Poner("csHorFin", 12);
     QCOMPARE(ventana.Chart().NumeroSeries(), 0);
+    QCOMPARE(ventana.Chart().Tramo(), (std::pair{0.5, 12.5})); // el gráfico vacío ya es del período nuevo
     ventana.Pulsar("btnSimulacion");
     QCOMPARE(ventana.Chart().NumeroPuntos(0), 12);
   }
