@@ -63,11 +63,13 @@ bool Vistaentorno::visualizar() {
 
 void Vistaentorno::ConstruirSeries() {
   const LeerMet &datos = *programa_.DameLeerMet();
-  std::vector<float> valores(static_cast<std::size_t>(datos.UltimaHora() - datos.PrimeraHora() + 1));
+  std::vector<float> valores;
   grafico_.Vaciar();
   grafico_.PonEscala(std::make_shared<EscalaHoras>(seleccion_.DamePeriodo()));
   for (int i = 0; i < NUMERO_SERIES; ++i) {
     const FichaMagnitud &ficha = FichaDe(i);
+    // Una serie sin derivar no copia nada: sin esto llevaría los valores de la anterior.
+    valores.assign(static_cast<std::size_t>(datos.HorasDelPeriodo()), 0.0F);
     datos.DameSerie(ficha.rotulo, valores.data());
     grafico_.AnadirSerie({Texto(ficha.claveSerie), Texto(ficha.rotulo),
                           Texto(ficha.patron.empty() ? PATRON_DE_LECTURA : ficha.patron),

@@ -1,7 +1,12 @@
 // La página "Visualizar datos": casillas, series, ejes y colores.
 
+#include "app/Programa.h"
+#include "app/Seleccion.h"
+#include "meteo/Leermet.h"
 #include "tests/vistas/Manejo.h"
 #include "vistas/Configuracion.h"
+#include "vistas/Paginaentorno.h"
+#include "vistas/Panelseleccion.h"
 #include "vistas/Textoqt.h"
 #include "vistas/Vistaentorno.h"
 
@@ -11,6 +16,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <optional>
+#include <set>
 
 using namespace tesmo;
 using namespace tesmo::prueba;
@@ -20,6 +26,36 @@ namespace {
 const QStringList CLAVES{"ts",     "rd",      "rdif", "w",       "vv",     "dv",  "cenith",
                          "altura", "azimuth", "tc",   "tr",      "th",     "hr",  "entalpia",
                          "ve",     "ce",      "dn",   "directa", "difusa", "ref", "global"};
+
+struct CasillaEsperada {
+  const char *nombre;
+  const char *rotulo;
+};
+
+/// Las 21 casillas, en el orden de sus series.
+constexpr CasillaEsperada CASILLAS[] = {
+    {"cbTS", "Temperatura seca (ºC)"},
+    {"cbRSDr", "Radiación solar directa (W/m²)"},
+    {"cbRSDf", "Radiación solar difusa (W/m²)"},
+    {"cbHA", "Humedad absoluta (g/kg)"},
+    {"cbVV", "Velocidad del viento (m/s)"},
+    {"cbDV", "Dirección del viento (º N)"},
+    {"cbC", "Cenith (º)"},
+    {"cbAl", "Altura (º)"},
+    {"cbAz", "Azimuth (º)"},
+    {"cbTC", "Temperatura de cielo (ºC)"},
+    {"cbTR", "Temperatura de rocío (ºC)"},
+    {"cbTH", "Temperatura húmeda (ºC)"},
+    {"cbHR", "Humedad relativa (%)"},
+    {"cbE", "Entalpía (J/kg)"},
+    {"cbVE", "Volumen específico (m³/kg)"},
+    {"cbCE", "Calor específico (J/(kg K))"},
+    {"cbDN", "Directa normal (W/m²)"},
+    {"cbDr", "Directa (W/m²)"},
+    {"cbDf", "Difusa (W/m²)"},
+    {"cbR", "Reflejada (W/m²)"},
+    {"cbG", "Global (W/m²)"},
+};
 
 /// Centro de la entrada @p i de la leyenda, que reparte el ancho en columnas iguales.
 QPoint CentroDeEntrada(const Grafico &grafico, int i) {
@@ -38,8 +74,9 @@ private slots:
 
   void lasCasillasVanEnSusTresGruposConSuRotulo() {
     const Ventana ventana = marco_->Numero(0);
-    QCOMPARE(ventana.Casilla("cbRSDr").text(), QStringLiteral("Radiación solar directa (W/m²)"));
-    QCOMPARE(ventana.Casilla("cbCE").text(), QStringLiteral("Calor específico (J/(kg K))"));
+    for (const auto &[nombre, rotulo] : CASILLAS) {
+      QCOMPARE(ventana.Casilla(nombre).text(), QString::fromUtf8(rotulo));
+    }
     const auto grupo = [&](const char *casilla) {
       return qobject_cast<QGroupBox *>(ventana.Casilla(casilla).parentWidget())->title();
     };
@@ -82,6 +119,44 @@ private slots:
                QPointF(k + 1, DatosPrueba::TemperaturaSeca(k, DatosPrueba::BASE_ALMERIA)));
     }
     QCOMPARE(grafico.Punto(3, 0).y(), double(0.007F * 1000.0F));
+  }
+
+  void cadaSerieDibujaLoQueElLectorDaPorSuRotulo() {
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Localidad("Almería");
+    ventana.Poner("csMesFin", 7);
+    ventana.Poner("csMesIni", 7);
+    ventana.Pulsar("btnSimulacion");
+    const Grafico &grafico = ventana.Chart();
+    std::set<std::vector<float>> distintas;
+    for (int i = 0; i < 21; ++i) {
+      std::vector<float> valores(24, -1.0F);
+      ventana.Controlador().DameLeerMet()->DameSerie(CASILLAS[i].rotulo, valores.data());
+      QCOMPARE(grafico.NumeroPuntos(i), 24);
+      QCOMPARE(grafico.Serie(i).rotulo, QString::fromUtf8(CASILLAS[i].rotulo));
+      for (int k = 0; k < 24; ++k) {
+        QCOMPARE(grafico.Punto(i, k), QPointF(k + 1, valores[static_cast<std::size_t>(k)]));
+      }
+      distintas.insert(valores);
+    }
+    QVERIFY(distintas.size() > 15); // hay radiaciones que coinciden, pero no todo es lo mismo
+  }
+
+  void unaSerieSinDerivarNoRepiteLaAnterior() {
+    FabricaMotores fabrica = FabricaMotores::DeLaAplicacion();
+    fabrica.psicro = {}; // sin él no se deriva nada
+    Programa programa(fabrica);
+    Seleccion seleccion;
+    PaginaEntorno pagina;
+    PanelSeleccion panel;
+    Vistaentorno vista(pagina, panel, programa, seleccion, DameTablaDeColores());
+    seleccion.PonProvincia("Almería");
+    seleccion.PonLocalidad("Almería");
+    QVERIFY(vista.visualizar());
+    for (int k = 0; k < 24; ++k) {
+      QCOMPARE(pagina.DameGrafico().Punto(6, k).y(), k >= 7 && k <= 16 ? 50.0 : 90.0); // cenit, del fichero
+      QCOMPARE(pagina.DameGrafico().Punto(7, k).y(), 0.0);                             // altura, sin derivar
+    }
   }
 
   void visualizarSinCasillasConstruyeLas21YNoMuestraNinguna() {
