@@ -44,11 +44,14 @@ void VistaPrograma::RellenarLocalidades() {
 }
 
 std::string VistaPrograma::Titulo() const {
+  // «Localidad» es sólo lo que dice el selector mientras no se elige nada: no sirve para nombrar la ventana.
   if (!seleccion_.HayLocalidad()) return nombre_;
   return seleccion_.DameLocalidad() + "-" + seleccion_.DameProvincia();
 }
 
-void VistaPrograma::PonTitulo() { formulario_->setWindowTitle(Texto(Titulo())); }
+void VistaPrograma::PonTitulo() {
+  if (formulario_) formulario_->setWindowTitle(Texto(Titulo()));
+}
 
 void VistaPrograma::CambiarProvincia() {
   const CursorOcupado ocupado;
@@ -79,7 +82,7 @@ bool VistaPrograma::Cargar() {
 
 void VistaPrograma::CambiarPeriodo() {
   vistaEntorno_->cambioPeriodo();
-  emit formulario_->estado(QObject::tr("Período cambiado: pulse «Visualizar» para dibujarlo."));
+  Decir(QObject::tr("Período cambiado: pulse «Visualizar» para dibujarlo."));
 }
 
 void VistaPrograma::Actualizar() {
@@ -89,16 +92,25 @@ void VistaPrograma::Actualizar() {
 }
 
 void VistaPrograma::Visualizar() {
-  if (vistaEntorno_->visualizar()) {
-    emit formulario_->estado(QObject::tr(
-        "Rueda: amplía. Arrastre: mueve. Doble clic: período entero. Botón derecho: guardar y copiar."));
+  if (!vistaEntorno_->visualizar()) return;
+  if (!DameLeerMet()->Resumen().Completa()) {
+    DecirCarga(); // que faltan horas importa más que cómo se maneja el gráfico
+    return;
   }
+  Decir(QObject::tr(
+      "Rueda: amplía. Arrastre: mueve. Doble clic: período entero. Botón derecho: guardar y copiar."));
 }
 
 void VistaPrograma::ActualizarVisibles() { vistaEntorno_->actualizarVisibles(); }
 void VistaPrograma::EjesPorUnidad() { vistaEntorno_->EjesPorUnidad(); }
 
-void VistaPrograma::ObjetoCambiado(const ObjetoBase &) { formulario_->update(); }
+void VistaPrograma::ObjetoCambiado(const ObjetoBase &) {
+  if (formulario_) formulario_->update();
+}
+
+void VistaPrograma::Decir(const QString &texto) const {
+  if (formulario_) emit formulario_->estado(texto);
+}
 
 /// La lectura no rechaza un fichero incompleto; aquí se dice sin interrumpir.
 void VistaPrograma::DecirCarga() const {
@@ -113,7 +125,7 @@ void VistaPrograma::DecirCarga() const {
                 .arg(resumen.registros)
                 .arg(HORAS_DEL_ANIO)
                 .arg(resumen.linea);
-  emit formulario_->estado(texto);
+  Decir(texto);
 }
 
 } // namespace tesmo

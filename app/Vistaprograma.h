@@ -47,6 +47,7 @@ private:
   void RellenarLocalidades();
   bool Cargar();
   void DecirCarga() const;
+  void Decir(const QString &texto) const;
 
   std::string nombre_;
   Seleccion seleccion_;

@@ -151,6 +151,40 @@ private slots:
     QVERIFY(estado.last().at(0).toString().contains(QStringLiteral("100 de las 8760")));
   }
 
+  void elAvisoDeFicheroCortadoQuedaALaVistaConElGrafico() {
+    const Ventana ventana = marco_->Numero(0);
+    QSignalSpy estado(&ventana.Controlador().DameFormulario(), &TforProgramas::estado);
+    const auto ultimo = [&] { return estado.last().at(0).toString(); };
+    ventana.Localidad("Almería");
+    ventana.Pulsar("btnSimulacion");
+    QVERIFY(ultimo().contains(QStringLiteral("Rueda")));
+    ventana.Provincia("Cádiz");
+    ventana.Localidad("Tarifa");
+    for (const char *boton : {"btnSimulacion", "btnActualizar"}) {
+      estado.clear();
+      ventana.Pulsar(boton);
+      QCOMPARE(ventana.Chart().NumeroSeries(), 21);
+      QVERIFY2(ultimo().contains(QStringLiteral("100 de las 8760")), boton);
+    }
+    // Otra vez la misma, ahora con un gráfico a la vista.
+    ventana.Localidad("Localidad");
+    estado.clear();
+    ventana.Localidad("Tarifa");
+    QVERIFY(ultimo().contains(QStringLiteral("100 de las 8760")));
+  }
+
+  void visualizarTrasUnaCargaFallidaDiceLoQueLee() {
+    const Ventana ventana = marco_->Numero(0);
+    QSignalSpy estado(&ventana.Controlador().DameFormulario(), &TforProgramas::estado);
+    ventana.Provincia("Granada");
+    ventana.Localidad("Motril"); // su fichero aún no está
+    marco_->datos.Directorio().Escribir("Meteo/falta.met",
+                                        Contenido(marco_->datos.Directorio() / "Meteo/tarifa.met"));
+    ventana.Pulsar("btnSimulacion");
+    QCOMPARE(ventana.Chart().NumeroSeries(), 21);
+    QVERIFY(estado.last().at(0).toString().contains(QStringLiteral("100 de las 8760")));
+  }
+
   void elMensajeEsUnaCajaModalEnCastellanoConLaFlecha() {
     PresentadorVentanas presentador;
     PresentadorMensajes *anterior = DameMensajes().PonPresentador(&presentador);
