@@ -29,7 +29,8 @@ TforPrincipal::TforPrincipal(QWidget *padre) : QMainWindow(padre) {
   setWindowTitle(QString::fromLatin1(TITULO));
   setMinimumSize(TAMANO_MINIMO);
   CrearPrograma();
-  DameConfiguracion(); // la primera petición fija el directorio de trabajo
+  ayuda_ =
+      DameConfiguracion().RutaPrograma("Crindel.hlp"); // la primera petición fija el directorio de trabajo
   area_ = new QMdiArea(this);
   area_->setObjectName(QStringLiteral("areaVentanas"));
   setCentralWidget(area_);

@@ -30,6 +30,8 @@ public:
     return controladores_;
   }
   [[nodiscard]] const std::vector<std::unique_ptr<Programa>> &Programas() const { return programas_; }
+  /// Ruta del fichero de ayuda, en el directorio del programa; puede no existir.
+  [[nodiscard]] const std::string &FicheroAyuda() const { return ayuda_; }
 
 public slots:
   void mnuNuevoClick();
@@ -47,6 +49,7 @@ private:
   void AbrirVentana(const Programa &programa);
   void Retirar(VistaPrograma *controlador);
 
+  std::string ayuda_;
   QMdiArea *area_ = nullptr;
   QList<QAction *> listaVentanas_; ///< las del menú, rehechas cada vez que se abre
   std::vector<std::unique_ptr<Programa>> programas_;
