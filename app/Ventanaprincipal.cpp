@@ -60,8 +60,8 @@ void TforPrincipal::CrearMenus() {
   ventana->setObjectName(QStringLiteral("mnuVentana"));
   connect(CrearOrden(*ventana, QStringLiteral("WindowCascade1"), tr("&Cascada"), {}), &QAction::triggered,
           area_, &QMdiArea::cascadeSubWindows);
-  connect(CrearOrden(*ventana, QStringLiteral("WindowTileVertical1"), tr("&Mosaico"), {}),
-          &QAction::triggered, area_, &QMdiArea::tileSubWindows);
+  connect(CrearOrden(*ventana, QStringLiteral("mnuMosaico"), tr("&Mosaico"), {}), &QAction::triggered, area_,
+          &QMdiArea::tileSubWindows);
   ventana->addSeparator();
   connect(ventana, &QMenu::aboutToShow, this, [this, ventana] { ListarVentanas(*ventana); });
 }

@@ -115,7 +115,7 @@ private slots:
     menu->actions().at(textos.indexOf(QStringLiteral("Sin Nombre1")))->trigger();
     auto *area = marco_->marco.findChild<QMdiArea *>();
     QCOMPARE(area->activeSubWindow()->windowTitle(), QStringLiteral("Sin Nombre1"));
-    for (const char *orden : {"WindowCascade1", "WindowTileVertical1"}) {
+    for (const char *orden : {"WindowCascade1", "mnuMosaico"}) {
       Orden(orden).trigger();
       for (const QMdiSubWindow *ventana : area->subWindowList()) {
         QVERIFY2(ventana->widget()->width() >= 300 && ventana->height() >= 200, orden);
