@@ -96,7 +96,7 @@ void TforPrincipal::AbrirPrimera() { AbrirVentana(*programas_.front()); }
 void TforPrincipal::mnuNuevoClick() { AbrirVentana(CrearPrograma()); }
 
 void TforPrincipal::AbrirVentana(const Programa &programa) {
-  const std::string nombre = "Sin Nombre" + std::to_string(controladores_.size() + 1);
+  const std::string nombre = "Sin Nombre" + std::to_string(area_->subWindowList().size() + 1);
   auto controlador = std::make_unique<VistaPrograma>(programa, nombre);
   VistaPrograma *este = controlador.get();
   controladores_.push_back(std::move(controlador));
