@@ -6,6 +6,7 @@
 #include "app/Vistaprograma.h"
 #include "core/Rutas.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -36,11 +37,12 @@ TforPrincipal::TforPrincipal(QWidget *padre) : QMainWindow(padre) {
   setCentralWidget(area_);
   statusBar()->setSizeGripEnabled(false);
   CrearMenus();
+  // Al acabar, la aplicación borra las ventanas cerradas sin atender antes lo que quede en la cola: sin esto
+  // cada formulario moriría antes que sus vistas.
+  connect(qApp, &QCoreApplication::aboutToQuit, this, &TforPrincipal::RetirarTodos);
 }
 
-TforPrincipal::~TforPrincipal() {
-  while (!controladores_.empty()) controladores_.pop_back();
-}
+TforPrincipal::~TforPrincipal() { RetirarTodos(); }
 
 void TforPrincipal::CrearMenus() {
   QMenu *archivo = menuBar()->addMenu(tr("&Archivo"));
@@ -117,8 +119,13 @@ void TforPrincipal::AbrirVentana(const Programa &programa) {
 void TforPrincipal::Retirar(VistaPrograma *controlador) {
   const auto sitio = std::ranges::find(controladores_, controlador, &std::unique_ptr<VistaPrograma>::get);
   if (sitio == controladores_.end()) return;
+  const std::unique_ptr<VistaPrograma> retirado = std::move(*sitio);
   controladores_.erase(sitio);
   statusBar()->clearMessage();
+}
+
+void TforPrincipal::RetirarTodos() {
+  while (!controladores_.empty()) Retirar(controladores_.back().get());
 }
 
 void TforPrincipal::mnuCerrarClick() { area_->closeActiveSubWindow(); }

@@ -48,6 +48,7 @@ private:
   Programa &CrearPrograma();
   void AbrirVentana(const Programa &programa);
   void Retirar(VistaPrograma *controlador);
+  void RetirarTodos();
 
   std::string ayuda_;
   QMdiArea *area_ = nullptr;

@@ -21,6 +21,7 @@ VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
 }
 
 VistaPrograma::~VistaPrograma() {
+  DesasociarVista();
   vistaEntorno_.reset();
   delete formulario_;
   DestruirMotores();

@@ -13,6 +13,8 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QTimer>
+#include <algorithm>
 #include <optional>
 
 using namespace tesmo;
@@ -42,6 +44,54 @@ private slots:
     Orden("mnuNuevo").trigger();
     QCOMPARE(marco_->Numero(2).Titulo(), QStringLiteral("Sin Nombre3"));
     QCOMPARE(marco_->marco.Programas().size(), 4U);
+  }
+
+  void nuevoTrasCerrarSinVolverAlBucleNoCuentaLaCerrada() {
+    Orden("mnuCerrar").trigger();
+    Orden("mnuNuevo").trigger();
+    QCOMPARE(marco_->marco.Controladores().back()->Titulo(), std::string("Sin Nombre1"));
+    QTRY_COMPARE(Ventanas(), 1);
+  }
+
+  void elFicheroDeAyudaEsElDelDirectorioDelPrograma() {
+    QCOMPARE(marco_->marco.FicheroAyuda(), DameConfiguracion().RutaPrograma("Crindel.hlp"));
+    QVERIFY(marco_->marco.FicheroAyuda().ends_with("/Crindel.hlp"));
+  }
+
+  void alAcabarElControladorDestruyeSuFormularioYDespuesLosMotores() {
+    Orden("mnuNuevo").trigger();
+    marco_->Numero(1).Localidad("Almería");
+    const auto &marco = marco_->marco;
+    int destruidos = 0;
+    bool enOrden = true;
+    for (std::size_t i = 0; i < 2; ++i) {
+      const VistaPrograma *controlador = marco.Controladores()[i].get();
+      const Programa *programa = marco.Programas()[i].get();
+      connect(&controlador->DameFormulario(), &QObject::destroyed, &marco, [&, controlador, programa] {
+        ++destruidos;
+        const bool lista = std::ranges::any_of(marco.Controladores(),
+                                               [&](const auto &este) { return este.get() == controlador; });
+        enOrden = enOrden && !lista && programa->DameLeerMet() != nullptr;
+      });
+    }
+    QTimer::singleShot(0, &marco_->marco, [this] {
+      Orden("mnuSalir").trigger();
+      QCoreApplication::exit(); // sin dar otra vuelta al bucle
+    });
+    QApplication::exec();
+    QCOMPARE(destruidos, 2);
+    QVERIFY(enOrden);
+    for (const auto &programa : marco.Programas()) QCOMPARE(programa->DameLeerMet(), nullptr);
+  }
+
+  void elControladorAguantaSinFormulario() {
+    const Programa programa;
+    VistaPrograma controlador(programa, "suelta");
+    delete &controlador.DameFormulario();
+    controlador.PonTitulo();
+    controlador.ObjetoCambiado(programa);
+    QCOMPARE(controlador.Titulo(), std::string("suelta"));
+    QVERIFY(controlador.Vista() == &controlador);
   }
 
   void cerrarUnaVentanaDestruyeSusMotoresYNoDejaNadaColgando() {
