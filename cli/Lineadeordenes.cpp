@@ -81,6 +81,7 @@ void Configurar(CLI::App &raiz, Contexto &contexto) {
   RegistrarSerie(raiz, contexto);
   RegistrarEstadisticas(raiz, contexto);
   RegistrarExportar(raiz, contexto);
+  RegistrarDiasExtremos(raiz, contexto);
   RegistrarSintetizar(raiz, contexto);
 }
 

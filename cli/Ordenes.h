@@ -18,6 +18,7 @@ void RegistrarSol(CLI::App &raiz, Contexto &contexto);
 void RegistrarSerie(CLI::App &raiz, Contexto &contexto);
 void RegistrarEstadisticas(CLI::App &raiz, Contexto &contexto);
 void RegistrarExportar(CLI::App &raiz, Contexto &contexto);
+void RegistrarDiasExtremos(CLI::App &raiz, Contexto &contexto);
 void RegistrarSintetizar(CLI::App &raiz, Contexto &contexto);
 void RegistrarHorizonte(CLI::App &raiz, Contexto &contexto);
 /// Estas dos, dentro de la orden "sol".
