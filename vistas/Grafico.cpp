@@ -116,7 +116,8 @@ int Grafico::AnadirSerie(const SerieGrafico &serie, std::span<const float> valor
   curva->setVisible(serie.visible);
   QVector<QCPGraphData> puntos;
   puntos.reserve(static_cast<qsizetype>(valores.size()));
-  for (const float valor : valores) puntos.append({static_cast<double>(puntos.size() + 1), valor});
+  const double primera = interno_->PrimeraAbscisa();
+  for (const float valor : valores) puntos.append({primera + static_cast<double>(puntos.size()), valor});
   curva->data()->set(puntos, true);
   if (puntos.size() < PUNTOS_SENALADOS) {
     curva->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, DIAMETRO_SENAL));
@@ -160,6 +161,10 @@ void Grafico::PonColor(int indice, const QColor &color) {
   trazada.curva->setPen(QPen(color, trazada.serie.grosor));
 }
 
+void Grafico::FijarLimites(LadoEje lado, const LimitesEje &limites) {
+  interno_->LimitesFijos(lado) = limites;
+}
+
 void Grafico::Redibujar() {
   RehacerLeyenda();
   RehacerEje(LadoEje::Izquierdo);
@@ -176,7 +181,8 @@ void Grafico::RehacerLeyenda() {
   for (int i = 0; i < NumeroSeries(); ++i) {
     const SerieGrafico &serie = Serie(i);
     if (!serie.visible) continue;
-    const QString texto = serie.clave + QStringLiteral(": ") + serie.rotulo;
+    const QString texto =
+        serie.leyenda.isEmpty() ? serie.clave + QStringLiteral(": ") + serie.rotulo : serie.leyenda;
     entradas.push_back(new EntradaLeyenda(&leyenda, i, texto, QPen(serie.color, serie.grosor)));
     entradas.back()->setFont(interno_->trazo->xAxis->tickLabelFont());
     ancho = std::max(ancho, entradas.back()->AnchoNecesario());
@@ -201,7 +207,7 @@ void Grafico::RehacerEje(LadoEje lado) {
       maximo = std::max(maximo, punto.value);
     }
   }
-  const LimitesEje limites = LimitesConAire(minimo, maximo);
+  const LimitesEje limites = interno_->LimitesFijos(lado).value_or(LimitesConAire(minimo, maximo));
   QCPAxis &eje = *interno_->Eje(lado);
   eje.setRange(limites.minimo, limites.maximo);
   eje.setLabel(QString::fromStdString(TituloDeEje(rotulos)));

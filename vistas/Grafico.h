@@ -27,6 +27,7 @@ struct SerieGrafico {
   double grosor = 2.0; ///< ancho de la pluma [px]
   LadoEje lado = LadoEje::Izquierdo;
   bool visible = false;
+  QString leyenda = {}; ///< texto de la leyenda; vacío: la clave y el rótulo
 };
 
 /// El gráfico de líneas que usan todas las vistas: series sobre dos ejes verticales, leyenda, cursor de
@@ -46,7 +47,8 @@ public:
 
   /// Quita todas las series.
   void Vaciar();
-  /// Añade una serie cuyos puntos son (k + 1, @p valores[k]) y devuelve su índice.
+  /// Añade una serie cuyos puntos son (p + k, @p valores[k]), con p el Primero() de la escala (1 si no hay
+  /// escala), y devuelve su índice.
   int AnadirSerie(const SerieGrafico &serie, std::span<const float> valores);
   [[nodiscard]] int NumeroSeries() const;
   [[nodiscard]] const SerieGrafico &Serie(int indice) const;
@@ -57,6 +59,8 @@ public:
   void PonVisible(int indice, bool visible);
   void PonLado(int indice, LadoEje lado);
   void PonColor(int indice, const QColor &color);
+  /// Fija los límites de un eje vertical, que deja así de ajustarse a sus series. Se ve al Redibujar().
+  void FijarLimites(LadoEje lado, const LimitesEje &limites);
   /// Rehace ejes y leyenda para las series a la vista y repinta.
   void Redibujar();
 

@@ -5,6 +5,7 @@
 #include "vistas/Grafico.h"
 #include "vistas/Leyenda.h"
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -27,10 +28,16 @@ struct Grafico::Interno {
   std::vector<SerieTrazada> series;
   QString aviso;
   std::optional<QPoint> puntero; ///< dónde está el ratón; vacío: fuera del gráfico
+  std::array<std::optional<LimitesEje>, 2> limitesFijos; ///< por lado
 
   [[nodiscard]] QCPAxis *Eje(LadoEje lado) const {
     return lado == LadoEje::Izquierdo ? trazo->yAxis : trazo->yAxis2;
   }
+  [[nodiscard]] std::optional<LimitesEje> &LimitesFijos(LadoEje lado) {
+    return limitesFijos.at(static_cast<std::size_t>(lado));
+  }
+  /// Abscisa del primer punto de toda serie.
+  [[nodiscard]] double PrimeraAbscisa() const { return escala ? escala->Primero() : 1.0; }
   [[nodiscard]] SerieTrazada &En(int indice) { return series.at(static_cast<std::size_t>(indice)); }
   [[nodiscard]] const SerieTrazada &En(int indice) const {
     return series.at(static_cast<std::size_t>(indice));

@@ -189,8 +189,7 @@ void Grafico::AnadirOrdenes(QMenu &menu) {
     accion->setObjectName(nombre);
     return accion;
   };
-  connect(anadir(QStringLiteral("acVerTodo"), tr("&Ver el período entero")), &QAction::triggered, this,
-          &Grafico::VerTodo);
+  connect(anadir(QStringLiteral("acVerTodo"), tr("&Ver todo")), &QAction::triggered, this, &Grafico::VerTodo);
   menu.addSeparator();
   const auto guardar = [&](const QString &extension, const QString &texto) {
     QAction *accion = anadir(QStringLiteral("acGuardar") + extension.toUpper(), texto);
