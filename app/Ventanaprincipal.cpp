@@ -4,7 +4,9 @@
 #include "app/Programa.h"
 #include "app/Ventanaprogramas.h"
 #include "app/Vistaprograma.h"
+#include "core/Ficheros.h"
 #include "core/Rutas.h"
+#include "extremos/Diasextremos.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -32,6 +34,8 @@ TforPrincipal::TforPrincipal(QWidget *padre) : QMainWindow(padre) {
   CrearPrograma();
   ayuda_ =
       DameConfiguracion().RutaPrograma("Crindel.hlp"); // la primera petición fija el directorio de trabajo
+  // El informe de los días extremos sólo guarda lo de esta ejecución; si no se puede vaciar, no se dice.
+  (void)EscribirFicheroEntero(RutaDesdeTexto(DiasExtremos::RutaSalida()), {});
   area_ = new QMdiArea(this);
   area_->setObjectName(QStringLiteral("areaVentanas"));
   setCentralWidget(area_);

@@ -1,7 +1,9 @@
 #include "app/Ventanaprogramas.h"
 
 #include "app/Vistaprograma.h"
+#include "vistas/Paginadiasextremos.h"
 #include "vistas/Paginaentorno.h"
+#include "vistas/Paginaresultadosextremos.h"
 #include "vistas/Panelseleccion.h"
 
 #include <QCloseEvent>
@@ -18,6 +20,11 @@ TforProgramas::TforProgramas(VistaPrograma &controlador, QWidget *padre)
   pcProgramas_->setDocumentMode(true);
   paginaEntorno_ = new PaginaEntorno;
   pcProgramas_->addTab(paginaEntorno_, tr("Visualizar datos"));
+  paginaDiasExtremos_ = new PaginaDiasExtremos;
+  pcProgramas_->addTab(paginaDiasExtremos_, tr("Dias extremos  "));
+  paginaResultados_ = new PaginaResultadosExtremos;
+  pcProgramas_->addTab(paginaResultados_, tr("Resultados Dias extremos"));
+  EnsenarResultados(false);
   panel_ = new PanelSeleccion(this);
   auto *disposicion = new QVBoxLayout(this);
   disposicion->setContentsMargins(0, 0, 0, 0);
@@ -37,6 +44,10 @@ void TforProgramas::Conectar() {
   connect(paginaEntorno_, &PaginaEntorno::casillaCambiada, this, &TforProgramas::casillaClick);
   connect(paginaEntorno_, &PaginaEntorno::ejesPorUnidadPedidos, this,
           [this] { controlador_.EjesPorUnidad(); });
+  connect(paginaDiasExtremos_, &PaginaDiasExtremos::calcularPedido, this, &TforProgramas::btnCalDiaExtClick);
+  connect(paginaResultados_, &PaginaResultadosExtremos::CheckListBox1ClickCheck, this,
+          &TforProgramas::CheckListBox1ClickCheck);
+  connect(paginaResultados_, &PaginaResultadosExtremos::Button1Click, this, &TforProgramas::Button1Click);
 }
 
 void TforProgramas::cbProvinciasChange() { controlador_.CambiarProvincia(); }
@@ -46,6 +57,17 @@ void TforProgramas::btnActualizarClick() { controlador_.Actualizar(); }
 void TforProgramas::csMesIniChange() { controlador_.CambiarPeriodo(); }
 void TforProgramas::btnSimulacionClick() { controlador_.Visualizar(); }
 void TforProgramas::casillaClick() { controlador_.ActualizarVisibles(); }
+
+void TforProgramas::btnCalDiaExtClick() { controlador_.CalcularDiasExtremos(); }
+void TforProgramas::CheckListBox1ClickCheck() { controlador_.ElegirMagnitudesExtremas(); }
+void TforProgramas::Button1Click() { controlador_.VisualizarFicherosExtremos(); }
+
+void TforProgramas::EnsenarResultados(bool ensenar) {
+  const int sitio = pcProgramas_->indexOf(paginaResultados_);
+  if (!ensenar && pcProgramas_->currentIndex() == sitio) pcProgramas_->setCurrentWidget(paginaDiasExtremos_);
+  pcProgramas_->setTabVisible(sitio, ensenar);
+  if (ensenar) pcProgramas_->setCurrentIndex(sitio);
+}
 
 void TforProgramas::closeEvent(QCloseEvent *suceso) {
   suceso->accept();

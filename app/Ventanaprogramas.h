@@ -6,7 +6,9 @@ class QTabWidget;
 
 namespace tesmo {
 
+class PaginaDiasExtremos;
 class PaginaEntorno;
+class PaginaResultadosExtremos;
 class PanelSeleccion;
 class VistaPrograma;
 
@@ -21,6 +23,8 @@ public:
 
   [[nodiscard]] VistaPrograma &DameControlador() const { return controlador_; }
   [[nodiscard]] PaginaEntorno &DamePaginaEntorno() const { return *paginaEntorno_; }
+  [[nodiscard]] PaginaDiasExtremos &DamePaginaDiasExtremos() const { return *paginaDiasExtremos_; }
+  [[nodiscard]] PaginaResultadosExtremos &DamePaginaResultados() const { return *paginaResultados_; }
   [[nodiscard]] PanelSeleccion &DamePanel() const { return *panel_; }
 
   void cbProvinciasChange();
@@ -30,6 +34,11 @@ public:
   void csMesIniChange();
   void btnSimulacionClick();
   void casillaClick();
+  void btnCalDiaExtClick();
+  void CheckListBox1ClickCheck();
+  void Button1Click();
+  /// Pone la pestaña de resultados de los días extremos a la vista y delante, o la esconde.
+  void EnsenarResultados(bool ensenar);
 
 signals:
   /// La ventana se cierra: quien la gobierna puede destruirla al volver al bucle de sucesos.
@@ -46,6 +55,8 @@ private:
   VistaPrograma &controlador_;
   QTabWidget *pcProgramas_ = nullptr;
   PaginaEntorno *paginaEntorno_ = nullptr;
+  PaginaDiasExtremos *paginaDiasExtremos_ = nullptr;
+  PaginaResultadosExtremos *paginaResultados_ = nullptr;
   PanelSeleccion *panel_ = nullptr;
 };
 

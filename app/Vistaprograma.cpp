@@ -6,22 +6,39 @@
 #include "meteo/Leermet.h"
 #include "vistas/Configuracion.h"
 #include "vistas/Cursorocupado.h"
+#include "vistas/Paginadiasextremos.h"
 #include "vistas/Paginaentorno.h"
+#include "vistas/Paginaresultadosextremos.h"
 #include "vistas/Panelseleccion.h"
 #include "vistas/Textoqt.h"
+#include "vistas/Vistadiasextremos.h"
 #include "vistas/Vistaentorno.h"
 
 namespace tesmo {
 
 VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
     : Programa(programa), nombre_(std::move(nombre)), formulario_(new TforProgramas(*this)),
+      vistaDiasExtremos_(CrearVistaDiasExtremos()),
       vistaEntorno_(std::make_unique<Vistaentorno>(formulario_->DamePaginaEntorno(), formulario_->DamePanel(),
                                                    *this, seleccion_, DameTablaDeColores())) {
   AsociarVista(this);
 }
 
+std::unique_ptr<VistaDiasExtremos> VistaPrograma::CrearVistaDiasExtremos() {
+  // El editor puede avisar después de cerrada la ventana.
+  const QPointer<TforProgramas> formulario = formulario_;
+  return std::make_unique<VistaDiasExtremos>(
+      formulario->DamePaginaDiasExtremos(), formulario->DamePaginaResultados(), formulario->DamePanel(),
+      *this, seleccion_,
+      VistaDiasExtremos::Ventana{[formulario](bool ensenar) { formulario->EnsenarResultados(ensenar); },
+                                 [formulario](const QString &texto) {
+                                   if (formulario) emit formulario->estado(texto);
+                                 }});
+}
+
 VistaPrograma::~VistaPrograma() {
   DesasociarVista();
+  vistaDiasExtremos_.reset();
   vistaEntorno_.reset();
   delete formulario_;
   DestruirMotores();
@@ -42,6 +59,7 @@ void VistaPrograma::RellenarLocalidades() {
   DameLocalidades()->ListaDe("Localidades", panel.Provincia(), localidades);
   panel.PonLocalidades(localidades);
   seleccion_.PonProvincia(panel.Provincia());
+  vistaDiasExtremos_->cbLocalidadesChange();
 }
 
 std::string VistaPrograma::Titulo() const {
@@ -65,6 +83,7 @@ void VistaPrograma::CambiarProvincia() {
 void VistaPrograma::CambiarLocalidad() {
   const CursorOcupado ocupado;
   seleccion_.PonLocalidad(formulario_->DamePanel().Localidad());
+  vistaDiasExtremos_->cbLocalidadesChange();
   PonTitulo();
   const bool habiaSeries = vistaEntorno_->HaySeries();
   vistaEntorno_->Vaciar();
@@ -104,6 +123,9 @@ void VistaPrograma::Visualizar() {
 
 void VistaPrograma::ActualizarVisibles() { vistaEntorno_->actualizarVisibles(); }
 void VistaPrograma::EjesPorUnidad() { vistaEntorno_->EjesPorUnidad(); }
+void VistaPrograma::CalcularDiasExtremos() { vistaDiasExtremos_->btnCalDiaExtClick(); }
+void VistaPrograma::ElegirMagnitudesExtremas() { vistaDiasExtremos_->CheckListBox1ClickCheck(); }
+void VistaPrograma::VisualizarFicherosExtremos() { vistaDiasExtremos_->Button1Click(); }
 
 void VistaPrograma::ObjetoCambiado(const ObjetoBase &) {
   if (formulario_) formulario_->update();

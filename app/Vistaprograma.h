@@ -12,6 +12,7 @@
 namespace tesmo {
 
 class TforProgramas;
+class VistaDiasExtremos;
 class Vistaentorno;
 
 /// Controlador de una ventana de trabajo: tiene una copia de su programa, la selección, el formulario y las
@@ -38,12 +39,16 @@ public:
   void Visualizar();
   void ActualizarVisibles();
   void EjesPorUnidad();
+  void CalcularDiasExtremos();
+  void ElegirMagnitudesExtremas();
+  void VisualizarFicherosExtremos();
   void PonTitulo();
 
   /// Un motor cambió: el formulario se repinta.
   void ObjetoCambiado(const ObjetoBase &objeto) override;
 
 private:
+  std::unique_ptr<VistaDiasExtremos> CrearVistaDiasExtremos();
   void RellenarLocalidades();
   bool Cargar();
   void DecirCarga() const;
@@ -52,6 +57,7 @@ private:
   std::string nombre_;
   Seleccion seleccion_;
   QPointer<TforProgramas> formulario_; ///< nulo si su ventana murió antes
+  std::unique_ptr<VistaDiasExtremos> vistaDiasExtremos_;
   std::unique_ptr<Vistaentorno> vistaEntorno_;
 };
 

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -16,12 +17,14 @@ namespace {
 
 constexpr int MESES_DEL_ANIO = 12;
 constexpr int MAXIMO_DIA = 31;
-/// Columnas de la rejilla: dos selectores, rótulo y tres casillas por extremo, hueco y botón.
-constexpr int COLUMNA_INICIO = 3;
-constexpr int COLUMNA_FIN = 8;
-constexpr int COLUMNA_BOTON = 13;
+/// Columnas de la rejilla: dos selectores, latitud, rótulo y tres casillas por extremo, hueco y botón.
+constexpr int COLUMNA_LATITUD = 2;
+constexpr int COLUMNA_INICIO = 4;
+constexpr int COLUMNA_FIN = 9;
+constexpr int COLUMNA_BOTON = 14;
 constexpr int HUECO = 12;           ///< entre grupos de controles [px]
 constexpr int LETRAS_SELECTOR = 16; ///< las que se ven del nombre más largo
+constexpr const char *LATITUD_MAS_ANCHA = "-88.88";
 
 } // namespace
 
@@ -32,6 +35,7 @@ PanelSeleccion::PanelSeleccion(QWidget *padre) : QWidget(padre) {
   rejilla->setVerticalSpacing(1);
   cbProvincias_ = CrearSelector(*rejilla, 0, QStringLiteral("cbProvincias"), tr("&Provincia:"));
   cbLocalidades_ = CrearSelector(*rejilla, 1, QStringLiteral("cbLocalidades"), tr("&Localidad:"));
+  edLatitud_ = CrearLatitud(*rejilla, COLUMNA_LATITUD);
   rejilla->setColumnMinimumWidth(COLUMNA_INICIO - 1, HUECO);
   inicio_ = CrearExtremo(*rejilla, COLUMNA_INICIO, tr("&Desde:"), QStringLiteral("Ini"));
   rejilla->setColumnMinimumWidth(COLUMNA_FIN - 1, HUECO);
@@ -61,6 +65,23 @@ QComboBox *PanelSeleccion::CrearSelector(QGridLayout &rejilla, int columna, cons
   rejilla.addWidget(selector, 1, columna);
   return selector;
 }
+
+QLineEdit *PanelSeleccion::CrearLatitud(QGridLayout &rejilla, int columna) {
+  auto *casilla = new QLineEdit(this);
+  casilla->setObjectName(QStringLiteral("edLatitud"));
+  casilla->setReadOnly(true);
+  casilla->setToolTip(tr("Latitud de la localidad en grados, norte positivo"));
+  const QMargins margenes = casilla->textMargins();
+  casilla->setFixedWidth(casilla->fontMetrics().horizontalAdvance(QLatin1String(LATITUD_MAS_ANCHA)) +
+                         2 * HUECO + margenes.left() + margenes.right());
+  auto *rotulo = new QLabel(tr("Latitud (º):"), this);
+  rotulo->setBuddy(casilla);
+  rejilla.addWidget(rotulo, 0, columna);
+  rejilla.addWidget(casilla, 1, columna);
+  return casilla;
+}
+
+void PanelSeleccion::PonLatitud(const std::string &latitud) { edLatitud_->setText(Texto(latitud)); }
 
 PanelSeleccion::Extremo PanelSeleccion::CrearExtremo(QGridLayout &rejilla, int columna, const QString &titulo,
                                                      const QString &sufijo) {

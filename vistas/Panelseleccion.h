@@ -10,14 +10,15 @@
 
 class QComboBox;
 class QGridLayout;
+class QLineEdit;
 class QPushButton;
 class QSpinBox;
 
 namespace tesmo {
 
-/// Panel bajo las páginas de una ventana de trabajo: provincia, localidad, período y "Actualizar". Sólo
-/// controles: no decide nada. Un valor tecleado cuenta cuando se termina (flechas, Intro o salir de la
-/// casilla).
+/// Panel bajo las páginas de una ventana de trabajo: provincia, localidad y su latitud, período y
+/// "Actualizar". Sólo controles: no decide nada. Un valor tecleado cuenta cuando se termina (flechas, Intro o
+/// salir de la casilla).
 class PanelSeleccion : public QWidget {
   Q_OBJECT
 
@@ -30,6 +31,9 @@ public:
   void PonLocalidades(const std::vector<std::string> &localidades);
   [[nodiscard]] std::string Provincia() const;
   [[nodiscard]] std::string Localidad() const;
+
+  /// Texto de la casilla, de sólo lectura, con la latitud de la localidad [°].
+  void PonLatitud(const std::string &latitud);
 
   /// Lo que dicen las seis casillas, terminando antes lo que se esté tecleando.
   [[nodiscard]] Periodo LeerPeriodo() const;
@@ -50,6 +54,7 @@ private:
     QSpinBox *hora = nullptr;
   };
   QComboBox *CrearSelector(QGridLayout &rejilla, int columna, const QString &nombre, const QString &titulo);
+  QLineEdit *CrearLatitud(QGridLayout &rejilla, int columna);
   Extremo CrearExtremo(QGridLayout &rejilla, int columna, const QString &titulo, const QString &sufijo);
   QSpinBox *CrearCasilla(const QString &nombre, int maximo, const QString &ayuda);
   static FechaHora Leer(const Extremo &extremo);
@@ -57,6 +62,7 @@ private:
 
   QComboBox *cbProvincias_ = nullptr;
   QComboBox *cbLocalidades_ = nullptr;
+  QLineEdit *edLatitud_ = nullptr;
   Extremo inicio_;
   Extremo fin_;
   QPushButton *btnActualizar_ = nullptr;

@@ -44,6 +44,16 @@ float DatosPrueba::TemperaturaSeca(int hora, float base) {
 
 float DatosPrueba::DireccionViento(int hora) { return 0.5F * static_cast<float>(hora % 720); }
 
+std::string DatosPrueba::RegistroGdr(const std::string &cabecera) {
+  return cabecera + "\n"
+                    "16.9 17.6 19.6 21.4 24.1 27.9 30.5 31 28.4 24.5 20.5 17.9\n"
+                    "8.3 9 10.6 12.5 15.2 18.9 21.7 22.4 20 16.3 12.3 9.6\n"
+                    "2.1 2.2 2.5 2.4 3 3.3 3.1 3 2.9 2.4 2.4 2\n"
+                    "2.1 2.1 2.2 2 2.3 2.2 2 2.1 2.3 2.4 2.5 2.3\n"
+                    "10000 13400 17500 21800 25400 28000 27100 23900 19000 14300 10800 9100\n"
+                    "67 67 65 62 63 61 60 63 65 68 67 67\n";
+}
+
 DatosPrueba::DatosPrueba() {
   directorio_.Escribir("config.ini", "Directorios de prueba\nMET = Meteo/\nRES = Resultados/\nEXE = ./\n");
   directorio_.Escribir("Meteo/LocalidadesCC", LOCALIDADES);
@@ -51,6 +61,10 @@ DatosPrueba::DatosPrueba() {
   directorio_.Escribir("Meteo/nijar.met", TextoMet(BASE_ALMERIA + 1.0F, HORAS_DEL_ANIO));
   directorio_.Escribir("Meteo/granada.met", TextoMet(BASE_GRANADA, HORAS_DEL_ANIO));
   directorio_.Escribir("Meteo/tarifa.met", TextoMet(BASE_ALMERIA, REGISTROS_CORTADO));
+  directorio_.Escribir("Meteo/GDR.TXT",
+                       RegistroGdr("Almeria COSTA 36.84 -2.39 15 10 ALT=21") +
+                           RegistroGdr("Granada INTERIOR 37.18 -3.6 15 10 ALT=680 WCAL=4.5 WREF=9"));
+  std::filesystem::create_directories(directorio_ / "Resultados");
   LiberarBaseDeLocalidades();
   IniciarConfiguracion(TextoDeRuta(directorio_.Ruta()));
 }

@@ -18,6 +18,9 @@ public:
   DatosPrueba &operator=(const DatosPrueba &) = delete;
 
   [[nodiscard]] const DirectorioTemporal &Directorio() const { return directorio_; }
+  /// Un registro de "GDR.TXT" con cifras verosímiles, hechas para la prueba. El fichero trae los de Almería y
+  /// Granada; Níjar no está.
+  [[nodiscard]] static std::string RegistroGdr(const std::string &cabecera);
   /// Temperatura seca [ºC] y dirección del viento [º N] que los ficheros llevan en la posición @p hora (0 a
   /// 8759).
   [[nodiscard]] static float TemperaturaSeca(int hora, float base);
