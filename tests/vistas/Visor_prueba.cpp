@@ -228,7 +228,7 @@ private slots:
     ventana.Marcar("cbTS");
     ventana.Marcar("cbHR");
     ventana.Pulsar("btnSimulacion");
-    QWidget &trazo = ventana.Buscar<QWidget>("trazo");
+    QWidget &trazo = *ventana.Chart().findChild<QWidget *>(QStringLiteral("trazo"));
     ElegirEnMenu(trazo, CentroDeEntrada(ventana.Chart(), 1), "acEjeDerecho");
     QCOMPARE(ventana.Chart().Serie(12).lado, LadoEje::Derecho);
     QCOMPARE(ventana.Chart().Serie(0).lado, LadoEje::Izquierdo);
