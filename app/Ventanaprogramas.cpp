@@ -3,6 +3,7 @@
 #include "app/Vistaprograma.h"
 #include "vistas/Paginadiasextremos.h"
 #include "vistas/Paginaentorno.h"
+#include "vistas/Paginapsicrometrico.h"
 #include "vistas/Paginaresultadosextremos.h"
 #include "vistas/Panelseleccion.h"
 
@@ -25,6 +26,8 @@ TforProgramas::TforProgramas(VistaPrograma &controlador, QWidget *padre)
   paginaResultados_ = new PaginaResultadosExtremos;
   pcProgramas_->addTab(paginaResultados_, tr("Resultados Dias extremos"));
   EnsenarResultados(false);
+  paginaPsicrometrico_ = new PaginaPsicrometrico;
+  pcProgramas_->addTab(paginaPsicrometrico_, tr("Psicrométrico  "));
   panel_ = new PanelSeleccion(this);
   auto *disposicion = new QVBoxLayout(this);
   disposicion->setContentsMargins(0, 0, 0, 0);

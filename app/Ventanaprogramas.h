@@ -9,6 +9,7 @@ namespace tesmo {
 class PaginaDiasExtremos;
 class PaginaEntorno;
 class PaginaResultadosExtremos;
+class PaginaPsicrometrico;
 class PanelSeleccion;
 class VistaPrograma;
 
@@ -25,6 +26,7 @@ public:
   [[nodiscard]] PaginaEntorno &DamePaginaEntorno() const { return *paginaEntorno_; }
   [[nodiscard]] PaginaDiasExtremos &DamePaginaDiasExtremos() const { return *paginaDiasExtremos_; }
   [[nodiscard]] PaginaResultadosExtremos &DamePaginaResultados() const { return *paginaResultados_; }
+  [[nodiscard]] PaginaPsicrometrico &DamePaginaPsicrometrico() const { return *paginaPsicrometrico_; }
   [[nodiscard]] PanelSeleccion &DamePanel() const { return *panel_; }
 
   void cbProvinciasChange();
@@ -57,6 +59,7 @@ private:
   PaginaEntorno *paginaEntorno_ = nullptr;
   PaginaDiasExtremos *paginaDiasExtremos_ = nullptr;
   PaginaResultadosExtremos *paginaResultados_ = nullptr;
+  PaginaPsicrometrico *paginaPsicrometrico_ = nullptr;
   PanelSeleccion *panel_ = nullptr;
 };
 

@@ -13,6 +13,7 @@
 #include "vistas/Textoqt.h"
 #include "vistas/Vistadiasextremos.h"
 #include "vistas/Vistaentorno.h"
+#include "vistas/Vistapsicrometrico.h"
 
 namespace tesmo {
 
@@ -20,7 +21,10 @@ VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
     : Programa(programa), nombre_(std::move(nombre)), formulario_(new TforProgramas(*this)),
       vistaDiasExtremos_(CrearVistaDiasExtremos()),
       vistaEntorno_(std::make_unique<Vistaentorno>(formulario_->DamePaginaEntorno(), formulario_->DamePanel(),
-                                                   *this, seleccion_, DameTablaDeColores())) {
+                                                   *this, seleccion_, DameTablaDeColores())),
+      vistaPsicrometrico_(std::make_unique<Vistapsicrometrico>(formulario_->DamePaginaPsicrometrico(),
+                                                               formulario_->DamePanel(), *this, seleccion_,
+                                                               [this] { CambiarAltitud(); })) {
   AsociarVista(this);
 }
 
@@ -40,6 +44,7 @@ VistaPrograma::~VistaPrograma() {
   DesasociarVista();
   vistaDiasExtremos_.reset();
   vistaEntorno_.reset();
+  vistaPsicrometrico_.reset();
   delete formulario_;
   DestruirMotores();
 }
@@ -77,6 +82,7 @@ void VistaPrograma::CambiarProvincia() {
   RellenarLocalidades();
   PonLocalidadCargada({});
   vistaEntorno_->Vaciar();
+  vistaPsicrometrico_->redibujar();
   PonTitulo();
 }
 
@@ -88,6 +94,7 @@ void VistaPrograma::CambiarLocalidad() {
   const bool habiaSeries = vistaEntorno_->HaySeries();
   vistaEntorno_->Vaciar();
   PonLocalidadCargada({});
+  vistaPsicrometrico_->redibujar();
   if (!seleccion_.HayLocalidad() || !Cargar()) return;
   if (habiaSeries) Visualizar();
 }
@@ -96,6 +103,7 @@ bool VistaPrograma::Cargar() {
   const ResultadoCarga resultado = CargarLocalidad(*this, seleccion_);
   if (resultado == ResultadoCarga::FicheroNoAbierto) vistaEntorno_->Vaciar();
   if (resultado != ResultadoCarga::Cargada) return false;
+  vistaPsicrometrico_->redibujar();
   DecirCarga();
   return true;
 }
@@ -126,6 +134,11 @@ void VistaPrograma::EjesPorUnidad() { vistaEntorno_->EjesPorUnidad(); }
 void VistaPrograma::CalcularDiasExtremos() { vistaDiasExtremos_->btnCalDiaExtClick(); }
 void VistaPrograma::ElegirMagnitudesExtremas() { vistaDiasExtremos_->CheckListBox1ClickCheck(); }
 void VistaPrograma::VisualizarFicherosExtremos() { vistaDiasExtremos_->Button1Click(); }
+
+/// La presión cambia con la altitud y con ella las magnitudes derivadas que se estén viendo.
+void VistaPrograma::CambiarAltitud() {
+  if (vistaEntorno_->HaySeries()) Visualizar();
+}
 
 void VistaPrograma::ObjetoCambiado(const ObjetoBase &) {
   if (formulario_) formulario_->update();

@@ -14,6 +14,7 @@ namespace tesmo {
 class TforProgramas;
 class VistaDiasExtremos;
 class Vistaentorno;
+class Vistapsicrometrico;
 
 /// Controlador de una ventana de trabajo: tiene una copia de su programa, la selección, el formulario y las
 /// vistas de las pestañas. Al morir destruye las vistas, el formulario y los motores, por este orden.
@@ -29,6 +30,7 @@ public:
   void Abrir();
   [[nodiscard]] TforProgramas &DameFormulario() const { return *formulario_; }
   [[nodiscard]] const Seleccion &DameSeleccion() const { return seleccion_; }
+  [[nodiscard]] Vistapsicrometrico &DameVistaPsicrometrico() const { return *vistaPsicrometrico_; }
   /// "Localidad-Provincia", o el nombre de la ventana si no hay localidad.
   [[nodiscard]] std::string Titulo() const;
 
@@ -42,6 +44,7 @@ public:
   void CalcularDiasExtremos();
   void ElegirMagnitudesExtremas();
   void VisualizarFicherosExtremos();
+  void CambiarAltitud();
   void PonTitulo();
 
   /// Un motor cambió: el formulario se repinta.
@@ -59,6 +62,7 @@ private:
   QPointer<TforProgramas> formulario_; ///< nulo si su ventana murió antes
   std::unique_ptr<VistaDiasExtremos> vistaDiasExtremos_;
   std::unique_ptr<Vistaentorno> vistaEntorno_;
+  std::unique_ptr<Vistapsicrometrico> vistaPsicrometrico_;
 };
 
 } // namespace tesmo

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "vistas/Pintorcarta.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include <optional>
+
+namespace tesmo {
+
+/// La carta psicrométrica con sus escalas, pintada una vez en memoria. Dentro, el control "imgPsicro" ocupa
+/// justo la carta: sus píxeles son los del modelo. La retícula se pinta encima, sin rehacer el dibujo.
+class MarcoCarta : public QWidget {
+  Q_OBJECT
+
+public:
+  explicit MarcoCarta(QWidget *padre = nullptr);
+
+  /// @p contenido vive mientras se dibuje; nulo: fondo blanco.
+  void PonContenido(ContenidoCarta *contenido);
+  /// Vuelve a dibujar: cambiaron las líneas, las marcas o los puntos.
+  void Redibujar();
+  /// Cuántas veces se ha dibujado.
+  [[nodiscard]] int VecesDibujada() const { return vecesDibujada_; }
+  /// Tamaño de la carta sin sus escalas [píxeles].
+  [[nodiscard]] QSize TamanoDeCarta() const;
+  /// Líneas cruzadas en un punto de la carta, o ninguna.
+  void PonReticula(std::optional<QPoint> sitio);
+  [[nodiscard]] std::optional<QPoint> Reticula() const { return reticula_; }
+
+  /// El dibujo, sin la retícula, a @p escala píxeles por píxel de pantalla.
+  [[nodiscard]] QImage Imagen(double escala) const;
+  /// Guarda en PNG, SVG o PDF según la extensión de @p ruta; falso si no se pudo.
+  [[nodiscard]] bool GuardarImagen(const QString &ruta) const;
+
+signals:
+  void punteroMovido(int x, int y);
+  void botonPulsado(int x, int y);
+  void menuPedido(const QPoint &donde);
+
+protected:
+  void paintEvent(QPaintEvent *suceso) override;
+  void resizeEvent(QResizeEvent *suceso) override;
+  bool eventFilter(QObject *objeto, QEvent *suceso) override;
+
+private:
+  void Dibujar();
+  void PintarReticula();
+  void Pintar(QPaintDevice &destino) const;
+  [[nodiscard]] QByteArray Vectorial(const QString &extension) const;
+
+  ContenidoCarta *contenido_ = nullptr;
+  QWidget *imgPsicro_ = nullptr;
+  QPixmap dibujo_;
+  int vecesDibujada_ = 0;
+  std::optional<QPoint> reticula_;
+};
+
+} // namespace tesmo

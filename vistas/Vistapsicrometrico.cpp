@@ -1,0 +1,235 @@
+#include "vistas/Vistapsicrometrico.h"
+
+#include "app/Carga.h"
+#include "app/Programa.h"
+#include "app/Seleccion.h"
+#include "core/Mensajes.h"
+#include "meteo/Leermet.h"
+#include "psicro/Corrienteaire.h"
+#include "psicro/Marcacarta.h"
+#include "psicro/Psicrometrico.h"
+#include "vistas/Cursorocupado.h"
+#include "vistas/Marcocarta.h"
+#include "vistas/Paginapsicrometrico.h"
+#include "vistas/Panelseleccion.h"
+#include "vistas/Textoqt.h"
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QMenu>
+
+#include <cmath>
+
+namespace tesmo {
+
+namespace {
+
+constexpr std::array<Familia, NUMERO_FAMILIAS> ORDEN_CASILLAS{Familia::T, Familia::W, Familia::H, Familia::HR,
+                                                              Familia::VE};
+constexpr int PARAMETRO_PRESION = 15;
+
+/// El estado de un píxel de la carta; vacío por encima de la saturación.
+std::optional<CorrienteAire> EstadoEn(const Psicro &carta, int x, int y) {
+  const float t = carta.t(x);
+  const float w = carta.w(y);
+  const float p = carta.dameParametro(PARAMETRO_PRESION);
+  CorrienteAire aire;
+  aire.pont_hr(t, 100.0F, p);
+  if (!(w <= aire.humedadAbsoluta())) return std::nullopt;
+  aire.pont_w(t, w, p);
+  return aire;
+}
+
+std::vector<float> Serie(const LeerMet &datos, Magnitud magnitud) {
+  std::vector<float> valores(static_cast<std::size_t>(datos.HorasDelPeriodo()));
+  datos.DameSerie(Ficha(magnitud).rotulo, valores.data());
+  return valores;
+}
+
+} // namespace
+
+Vistapsicrometrico::Vistapsicrometrico(PaginaPsicrometrico &pagina, PanelSeleccion &panel, Programa &programa,
+                                       Seleccion &seleccion, std::function<void()> altitudCambiada)
+    : pagina_(pagina), panel_(panel), programa_(programa), seleccion_(seleccion),
+      altitudCambiada_(std::move(altitudCambiada)), contenido_{*programa.DamePsicro()}, color_(COLOR_MARCA),
+      marco_(&pagina.DameMarco()) {
+  marco_->PonContenido(&contenido_);
+  Conectar();
+  redibujar();
+}
+
+// La página puede haber muerto ya con su ventana, o pintarse otra vez antes de morir.
+Vistapsicrometrico::~Vistapsicrometrico() {
+  if (marco_) marco_->PonContenido(nullptr);
+}
+
+void Vistapsicrometrico::Conectar() {
+  const auto conectar = [this](auto senal, auto accion) {
+    QObject::connect(&pagina_, senal, &avisos_, accion);
+  };
+  using Pagina = PaginaPsicrometrico;
+  conectar(&Pagina::representarPedido, [this] { representar(); });
+  conectar(&Pagina::limpiarPedido, [this] { redibujar(); });
+  conectar(&Pagina::colorPuntoPedido, [this] { PedirColor(); });
+  conectar(&Pagina::guardarPedido, [this] { PedirGuardar(); });
+  conectar(&Pagina::borrarPuntosPedido, [this] { BorrarPuntos(); });
+  conectar(&Pagina::puntosElegidosCambiados, [this] { ActualizarPuntos(); });
+  conectar(&Pagina::altitudCambiada, [this](int altitud) { PonAltitud(static_cast<float>(altitud)); });
+  conectar(&Pagina::altitudDelFicheroPedida, [this] { PonAltitud(std::nullopt); });
+  conectar(&Pagina::coloreoCambiado, [this](ColoreoNube coloreo) {
+    contenido_.coloreo = coloreo;
+    pagina_.DameMarco().Redibujar();
+  });
+  conectar(&Pagina::familiaCambiada, [this](int i, bool visible) {
+    contenido_.carta.ponVisible(ORDEN_CASILLAS.at(static_cast<std::size_t>(i)), visible);
+    pagina_.DameMarco().Redibujar();
+  });
+  const MarcoCarta *marco = &pagina_.DameMarco();
+  QObject::connect(marco, &MarcoCarta::punteroMovido, &avisos_,
+                   [this](int x, int y) { lecturaPuntero(x, y); });
+  QObject::connect(marco, &MarcoCarta::botonPulsado, &avisos_, [this](int x, int y) { botonPulsado(x, y); });
+  QObject::connect(marco, &MarcoCarta::menuPedido, &avisos_,
+                   [this](const QPoint &donde) { EnsenarMenu(donde); });
+}
+
+void Vistapsicrometrico::PonPresion() {
+  const float altitud = AltitudEnUso(programa_, seleccion_);
+  contenido_.carta.ponAltitud(altitud);
+  pagina_.PonAltitud(static_cast<int>(std::lround(altitud)), seleccion_.DameAltitudUsuario().has_value());
+}
+
+void Vistapsicrometrico::redibujar() {
+  PonPresion();
+  contenido_.marcas.clear();
+  contenido_.carta.ponVista(0, 0, 0, 0, 1);
+  pagina_.PonColorPunto(Color(color_));
+  ActualizarPuntos();
+}
+
+void Vistapsicrometrico::lecturaPuntero(int x, int y) {
+  const std::optional<CorrienteAire> aire = EstadoEn(contenido_.carta, x, y);
+  if (!aire) return;
+  pagina_.DameMarco().PonReticula(QPoint(x, y));
+  pagina_.PonValores(TextosDeEstado(*aire));
+}
+
+void Vistapsicrometrico::botonPulsado(int x, int y) {
+  if (!banda_) esquinas_.fill(QPoint(x, y));
+  const std::optional<CorrienteAire> aire = EstadoEn(contenido_.carta, x, y);
+  if (!aire) return;
+  contenido_.puntos.push_back(
+      {NombreDePunto(puntosFijados_++), aire->temperatura(), aire->humedadAbsoluta()});
+  ActualizarPuntos();
+}
+
+void Vistapsicrometrico::representar() {
+  const CursorOcupado ocupado;
+  seleccion_.PonPeriodo(panel_.LeerPeriodo());
+  const float presion = contenido_.carta.damePresion();
+  if (PrepararDatos(programa_, seleccion_) != ResultadoCarga::Cargada) return;
+  if (contenido_.carta.damePresion() != presion) redibujar(); // lo de antes era de otro sitio
+  MarcarPeriodo();
+  pagina_.DameMarco().Redibujar();
+}
+
+void Vistapsicrometrico::MarcarPeriodo() {
+  const LeerMet &datos = *programa_.DameLeerMet();
+  const std::vector<float> t = Serie(datos, Magnitud::TS);
+  const std::vector<float> w = Serie(datos, Magnitud::HAkg);
+  FechaHora fecha = seleccion_.DamePeriodo().inicio;
+  for (std::size_t i = 0; i < t.size(); ++i) {
+    if (fecha.hora >= pagina_.HoraInicial() && fecha.hora <= pagina_.HoraFinal())
+      marcarPunto(t[i], w[i], fecha.mes, fecha.hora);
+    SiguienteHora(fecha.mes, fecha.dia, fecha.hora);
+  }
+}
+
+void Vistapsicrometrico::marcarPunto(float t, float w, int mes, int hora) {
+  contenido_.marcas.push_back({t, w, mes, hora, color_});
+}
+
+void Vistapsicrometrico::PonColorMarca(const QColor &color) {
+  constexpr unsigned OCTETO = 8U;
+  color_ = static_cast<ColorBgr>(color.red()) | static_cast<ColorBgr>(color.green()) << OCTETO |
+           static_cast<ColorBgr>(color.blue()) << 2 * OCTETO;
+  pagina_.PonColorPunto(color);
+}
+
+void Vistapsicrometrico::PonAltitud(std::optional<float> altitud) {
+  seleccion_.PonAltitudUsuario(altitud);
+  PonPresion();
+  ActualizarPuntos();
+  altitudCambiada_();
+}
+
+/// Rehace la tabla, el proceso entre dos puntos (los dos elegidos o los dos últimos) y el dibujo.
+void Vistapsicrometrico::ActualizarPuntos() {
+  const std::vector<PuntoCarta> &puntos = contenido_.puntos;
+  const float presion = contenido_.carta.damePresion();
+  QList<QStringList> filas;
+  for (const PuntoCarta &punto : puntos) filas << QStringList(punto.nombre) + TextosDeEstado(punto, presion);
+  const QList<int> elegidos = pagina_.PuntosElegidos();
+  contenido_.proceso.reset();
+  if (elegidos.size() == 2 && static_cast<std::size_t>(elegidos[1]) < puntos.size()) {
+    contenido_.proceso.emplace(elegidos[0], elegidos[1]);
+  } else if (puntos.size() > 1) {
+    contenido_.proceso.emplace(puntos.size() - 2, puntos.size() - 1);
+  }
+  QString proceso;
+  if (contenido_.proceso)
+    proceso = TextoDeProceso(puntos[contenido_.proceso->first], puntos[contenido_.proceso->second], presion);
+  pagina_.PonPuntos(filas, proceso);
+  pagina_.DameMarco().Redibujar();
+}
+
+void Vistapsicrometrico::BorrarPuntos() {
+  const QList<int> elegidos = pagina_.PuntosElegidos();
+  if (elegidos.isEmpty()) contenido_.puntos.clear();
+  for (auto i = elegidos.crbegin(); i != elegidos.crend(); ++i)
+    contenido_.puntos.erase(contenido_.puntos.begin() + *i);
+  ActualizarPuntos();
+}
+
+void Vistapsicrometrico::PedirColor() {
+  auto *dialogo = new QColorDialog(Color(color_), &pagina_);
+  dialogo->setObjectName(QStringLiteral("cdPunto"));
+  dialogo->setAttribute(Qt::WA_DeleteOnClose);
+  dialogo->setOption(QColorDialog::DontUseNativeDialog);
+  QObject::connect(dialogo, &QColorDialog::colorSelected, &avisos_,
+                   [this](const QColor &color) { PonColorMarca(color); });
+  dialogo->open();
+}
+
+bool Vistapsicrometrico::GuardarImagen(const QString &ruta) const {
+  return pagina_.DameMarco().GuardarImagen(ruta);
+}
+
+void Vistapsicrometrico::PedirGuardar() {
+  auto *dialogo = new QFileDialog(&pagina_, QObject::tr("Guardar imagen"));
+  dialogo->setObjectName(QStringLiteral("sdGuardarCarta"));
+  dialogo->setAttribute(Qt::WA_DeleteOnClose);
+  dialogo->setOption(QFileDialog::DontUseNativeDialog);
+  dialogo->setAcceptMode(QFileDialog::AcceptSave);
+  dialogo->setDefaultSuffix(QStringLiteral("png"));
+  dialogo->setNameFilters({QObject::tr("Imagen PNG (*.png)"), QObject::tr("Dibujo SVG (*.svg)"),
+                           QObject::tr("Documento PDF (*.pdf)")});
+  QObject::connect(dialogo, &QFileDialog::filterSelected, dialogo, [dialogo](const QString &filtro) {
+    dialogo->setDefaultSuffix(filtro.mid(filtro.indexOf(QLatin1String("*.")) + 2).chopped(1));
+  });
+  QObject::connect(dialogo, &QFileDialog::fileSelected, &avisos_, [this](const QString &ruta) {
+    if (!GuardarImagen(ruta)) DameMensajes().Mensaje(MENSAJE_FICHERO_RESULTADO, ruta.toStdString());
+  });
+  dialogo->open();
+}
+
+void Vistapsicrometrico::EnsenarMenu(const QPoint &donde) {
+  auto *menu = new QMenu(&pagina_);
+  menu->setObjectName(QStringLiteral("menuCarta"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  QAction *guardar = menu->addAction(QObject::tr("&Guardar imagen…"));
+  guardar->setObjectName(QStringLiteral("acGuardarCarta"));
+  QObject::connect(guardar, &QAction::triggered, &avisos_, [this] { PedirGuardar(); });
+  menu->popup(donde);
+}
+
+} // namespace tesmo
