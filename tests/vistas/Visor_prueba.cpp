@@ -296,11 +296,12 @@ private slots:
     const Ventana ventana = marco_->Numero(0);
     QWidget *control = &ventana.Casilla("cbTS");
     QStringList orden;
-    for (int i = 0; i < 60; ++i, control = control->nextInFocusChain()) {
-      if (control->focusPolicy() & Qt::TabFocus && !control->objectName().startsWith(QLatin1String("qt_"))) {
+    do { // las páginas que no están delante no cuentan
+      const bool llega = control->isVisible() && control->focusPolicy() & Qt::TabFocus;
+      if (llega && !control->objectName().startsWith(QLatin1String("qt_")))
         orden.append(control->objectName());
-      }
-    }
+      control = control->nextInFocusChain();
+    } while (control != &ventana.Casilla("cbTS"));
     const QStringList esperado{"cbTS",       "cbG",          "btnSimulacion", "btnEjesPorUnidad",
                                "graEntorno", "cbProvincias", "cbLocalidades", "csMesIni",
                                "csDiaIni",   "csHorIni",     "csMesFin",      "csDiaFin",
