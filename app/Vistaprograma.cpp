@@ -34,7 +34,9 @@ std::unique_ptr<VistaDiasExtremos> VistaPrograma::CrearVistaDiasExtremos() {
   return std::make_unique<VistaDiasExtremos>(
       formulario->DamePaginaDiasExtremos(), formulario->DamePaginaResultados(), formulario->DamePanel(),
       *this, seleccion_,
-      VistaDiasExtremos::Ventana{[formulario](bool ensenar) { formulario->EnsenarResultados(ensenar); },
+      VistaDiasExtremos::Ventana{[formulario](bool ensenar) {
+                                   if (formulario) formulario->EnsenarResultados(ensenar);
+                                 },
                                  [formulario](const QString &texto) {
                                    if (formulario) emit formulario->estado(texto);
                                  }});
