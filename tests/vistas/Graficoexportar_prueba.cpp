@@ -194,7 +194,8 @@ private slots:
       (void)dondeEmpieza(ruta + QStringLiteral("/g.svg"));
       QCOMPARE(dondeEmpieza({}), QDir(ruta).absolutePath());
     }
-    // El recordado ya no está.
+    // El recordado ya no está, ni el de resultados.
+    std::filesystem::remove(datos.Directorio() / "Resultados");
     QCOMPARE(dondeEmpieza({}), QDir::homePath());
     std::filesystem::create_directory(datos.Directorio() / "Resultados");
     QCOMPARE(dondeEmpieza({}), QString::fromStdString(TextoDeRuta(datos.Directorio() / "Resultados")));
