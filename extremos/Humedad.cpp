@@ -50,7 +50,9 @@ long double PresionDeSaturacion(long double t) {
 
 long double RocioDePresion(long double pw) {
   constexpr long double CAMBIO_DE_RAMA = 0.18063L; // saturación a 0 °C
-  const long double alfa = std::log(pw);
+  // Sin vapor el logaritmo no existe; se toma el mínimo de la rama seca, su rocío más frío.
+  constexpr long double ALFA_MAS_SECA = -24.873L / (2.0L * 0.8927L);
+  const long double alfa = pw > 0.0L ? std::log(pw) : ALFA_MAS_SECA;
   if (pw >= CAMBIO_DE_RAMA) return Celsius(79.05L + 30.579L * alfa + 1.8893L * alfa * alfa);
   return Celsius(71.98L + 24.873L * alfa + 0.8927L * alfa * alfa);
 }

@@ -15,7 +15,7 @@ namespace tesmo::extremos {
 [[nodiscard]] long double PresionDeSaturacion(long double t);
 
 /// Rocío [°C] de un aire de presión parcial de vapor @p pw [pulgadas de mercurio], por correlación en dos
-/// ramas.
+/// ramas; sin vapor, el más frío que la correlación puede dar.
 [[nodiscard]] long double RocioDePresion(long double pw);
 
 /// Estado de un aire: humedad relativa en tanto por uno, humedad absoluta [kg/kg] y rocío [°C].

@@ -53,6 +53,7 @@ RepartoHorario RepartirDia(long double ocaso) {
 
 RadiacionDelDia RadiacionHoraria(long double diaria, const SolDelDia &sol) {
   RadiacionDelDia radiacion;
+  if (!(sol.extraterrestre > 0.0L)) return radiacion; // noche polar
   radiacion.claridad = diaria / sol.extraterrestre;
   const long double directaDiaria = std::max(diaria - FraccionDifusa(radiacion.claridad) * diaria, 0.0L);
   const long double difusaDiaria = diaria - directaDiaria;

@@ -2,8 +2,8 @@
 
 #include "core/Codificacion.h"
 #include "core/Error.h"
-#include "extremos/Modelomensual.h"
 #include "core/Lectornumeros.h"
+#include "extremos/Modelomensual.h"
 
 #include <cmath>
 
@@ -27,6 +27,7 @@ public:
         !LeerReal(sinUso, "tercer número de la cabecera") || !LeerReal(registro.factorDeCola, CAMPO_COLA)) {
       return false;
     }
+    if (std::fabs(registro.latitud) > LATITUD_DEL_POLO) return Fallar("latitud");
     if (!FactorDeColaAdmitido(registro.factorDeCola)) return Fallar(CAMPO_COLA);
     linea_ = lector_.Linea();
     LeerEtiquetas(lector_.RestoDeLinea(COLA_DE_CABECERA), registro);
@@ -38,6 +39,7 @@ public:
   }
 
 private:
+  static constexpr float LATITUD_DEL_POLO = 90.0F;
   static constexpr std::string_view CAMPO_COLA = "factor de cola";
 
   bool Fallar(std::string_view campo) {

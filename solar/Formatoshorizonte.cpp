@@ -3,8 +3,8 @@
 #include "core/Codificacion.h"
 #include "core/Ficheros.h"
 #include "core/Formato.h"
-#include "solar/Giroshorizonte.h"
 #include "core/Lectornumeros.h"
+#include "solar/Giroshorizonte.h"
 #include "solar/Listadohorizonte.h"
 #include "solar/Perfilcompleto.h"
 

@@ -133,7 +133,8 @@ void PaginaResultadosExtremos::Marcar(int elemento) {
 }
 
 bool PaginaResultadosExtremos::Marcado(int elemento) const {
-  return CheckListBox1_->item(elemento)->checkState() == Qt::Checked;
+  const QListWidgetItem *const casilla = CheckListBox1_->item(elemento); // nulo antes de calcular
+  return casilla != nullptr && casilla->checkState() == Qt::Checked;
 }
 
 void PaginaResultadosExtremos::PonDerivacion(const QString &texto) {

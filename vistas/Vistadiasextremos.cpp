@@ -60,20 +60,17 @@ constexpr std::array<ClavesEstacion, 2> ESTACIONES{
     {{Estacion::Calefaccion, "Mes calefacción", "Percentil calefacción", "Temporada calefacción"},
      {Estacion::Refrigeracion, "Mes refrigeración", "Percentil refrigeración", "Temporada refrigeración"}}};
 
-/// Recoge el primer diagnóstico del cálculo, que si no se perdería: con la ventana no suele haber registro.
-class PrimerDiagnostico {
+/// Recoge el último diagnóstico del cálculo, el que lo detuvo: con la ventana no suele haber registro.
+class UltimoDiagnostico {
 public:
-  PrimerDiagnostico() : propio_(!RegistroAbierto()) {
-    if (propio_)
-      AbrirRegistroEn([this](std::string_view texto) {
-        if (texto_.empty()) texto_ = texto;
-      });
+  UltimoDiagnostico() : propio_(!RegistroAbierto()) {
+    if (propio_) AbrirRegistroEn([this](std::string_view texto) { texto_ = texto; });
   }
-  ~PrimerDiagnostico() {
+  ~UltimoDiagnostico() {
     if (propio_) CerrarRegistro();
   }
-  PrimerDiagnostico(const PrimerDiagnostico &) = delete;
-  PrimerDiagnostico &operator=(const PrimerDiagnostico &) = delete;
+  UltimoDiagnostico(const UltimoDiagnostico &) = delete;
+  UltimoDiagnostico &operator=(const UltimoDiagnostico &) = delete;
   [[nodiscard]] const std::string &Texto() const { return texto_; }
 
 private:
@@ -176,12 +173,12 @@ void VistaDiasExtremos::btnCalDiaExtClick() {
   TomarAjustes();
   MostrarAjustes();
   if (!HayTemporadas()) return;
-  const PrimerDiagnostico diagnostico;
+  const UltimoDiagnostico diagnostico;
   if (!motor->Calcular()) {
-    ventana_.estado(
-        diagnostico.Texto().empty()
-            ? QObject::tr("%1 no tiene estadísticas en GDR.TXT.").arg(Texto(seleccion_.DameLocalidad()))
-            : Texto(diagnostico.Texto()));
+    ventana_.estado(diagnostico.Texto().empty()
+                        ? QObject::tr("No se pudieron leer las estadísticas de %1 en GDR.TXT.")
+                              .arg(Texto(seleccion_.DameLocalidad()))
+                        : Texto(diagnostico.Texto()));
     return;
   }
   RehacerGraficos();

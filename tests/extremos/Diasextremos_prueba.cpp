@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace tesmo {
 namespace {
@@ -147,6 +148,20 @@ TEST_F(Dias, EscribeLosDosFicheros) {
   EXPECT_EQ(std::count(cal.begin(), cal.end(), '\n'), 26);
   EXPECT_NE(cal.find("\n1\t15\t0\t"), std::string::npos);
   EXPECT_NE(ref.find("\n8\t15\t23\t"), std::string::npos);
+}
+
+TEST_F(Dias, ConLosMesesDeFabricaTodaFilaLlevaUnoYSiete) {
+  DiasExtremos dias;
+  ASSERT_TRUE(Calcular(dias));
+  ASSERT_TRUE(dias.EscribirFicherosEn(TextoDeRuta(base_ / "Resultados")));
+  for (const auto &[fichero, mes] : {std::pair{"extreCal.met", "1"}, std::pair{"extreRef.met", "7"}}) {
+    const std::string texto = prueba::Contenido(base_ / "Resultados" / fichero);
+    for (int hora = 0; hora < 24; ++hora) {
+      const std::string comienzo = std::string("\n") + mes + "\t15\t" + std::to_string(hora) + "\t";
+      EXPECT_NE(texto.find(comienzo), std::string::npos) << fichero << " " << hora;
+    }
+    EXPECT_EQ(std::count(texto.begin(), texto.end(), '\n'), 26);
+  }
 }
 
 // El mes de los ficheros es el que se calculó, aunque luego se teclee otro.

@@ -43,6 +43,12 @@ TEST(Rocio, LasDosRamasAMano) {
               1e-12);
 }
 
+TEST(Rocio, UnAireSinVaporTieneRocioFinito) {
+  const double rocio = D(RocioDePresion(0.0L));
+  EXPECT_TRUE(std::isfinite(rocio));
+  EXPECT_LT(rocio, D(RocioDePresion(1e-4L)));
+}
+
 TEST(PresionBarometrica, BajaConLaAltitud) {
   EXPECT_EQ(PresionBarometrica(0.0L), 29.921L);
   EXPECT_NEAR(D(PresionBarometrica(1000.0L)), 26.701, 1e-12);

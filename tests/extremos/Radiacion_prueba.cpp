@@ -25,6 +25,17 @@ TEST(SolDelDia, RadiacionExtraterrestrePublicada) {
   }
 }
 
+TEST(RadiacionHoraria, LaNochePolarNoDaRadiacionYEsFinita) {
+  const SolDelDia sol = CalcularSolDelDia(80.0F, 1);
+  ASSERT_LE(sol.extraterrestre, 0.0L);
+  const RadiacionDelDia radiacion = RadiacionHoraria(0.0L, sol);
+  EXPECT_EQ(radiacion.claridad, 0.0L);
+  for (std::size_t h = 0; h < radiacion.directa.size(); ++h) {
+    EXPECT_EQ(radiacion.directa[h], 0.0F) << h;
+    EXPECT_EQ(radiacion.difusa[h], 0.0F) << h;
+  }
+}
+
 // Enero, 36,84° N, a mano: n = 15, δ = −21,2695°, E0 = 1 + 0,033 cos(14,7945) = 0,97983.
 TEST(SolDelDia, EneroAMano) {
   const SolDelDia sol = CalcularSolDelDia(36.84F, 1);

@@ -152,6 +152,7 @@ TEST(Estropeado, NumerosSinSentido) {
   }
   EXPECT_NE(Diagnostico(Reemplazar(RegistroDeTexto("almeria"), "24.1", "inf")).find("temperatura máxima"),
             std::string::npos);
+  EXPECT_NE(Diagnostico(RegistroDeTexto("almeria", "COSTA 91 0 0 10")).find("latitud"), std::string::npos);
   EXPECT_NE(Diagnostico(RegistroDeTexto("almeria", "COSTA nan 0 0 10")).find("latitud"), std::string::npos);
 }
 
