@@ -33,15 +33,18 @@ std::string Contenido(const fs::path &ruta) {
   return {std::istreambuf_iterator<char>(fichero), {}};
 }
 
-bool SinPrivilegios(const std::function<bool()> &accion) {
+bool SinPrivilegios(const fs::path &directorio, const std::function<bool()> &accion) {
   constexpr uid_t NADIE = 65534;
   const pid_t hijo = ::fork();
   if (hijo == 0) {
+    if (::chdir(directorio.c_str()) != 0) ::_exit(1);
     const bool soltado = ::getuid() != 0 || (::setgid(NADIE) == 0 && ::setuid(NADIE) == 0);
     ::_exit(soltado && accion() ? 0 : 1);
   }
   int estado = 1;
   return hijo > 0 && ::waitpid(hijo, &estado, 0) == hijo && WIFEXITED(estado) && WEXITSTATUS(estado) == 0;
 }
+
+bool SinPrivilegios(const std::function<bool()> &accion) { return SinPrivilegios(".", accion); }
 
 } // namespace tesmo::prueba

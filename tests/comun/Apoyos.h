@@ -77,7 +77,11 @@ private:
 [[nodiscard]] std::string Contenido(const std::filesystem::path &ruta);
 
 /// Ejecuta @p accion en un proceso sin privilegios (usuario 65534) y dice si devolvió verdadero. Hace falta
-/// porque a root no lo detienen los permisos de los ficheros.
+/// porque a root no lo detienen los permisos de los ficheros. El proceso trabaja en @p directorio, al que
+/// entra antes de soltarlos: con rutas relativas llega a él aunque los directorios de encima estén cerrados.
+[[nodiscard]] bool SinPrivilegios(const std::filesystem::path &directorio,
+                                  const std::function<bool()> &accion);
+/// Lo mismo en el directorio de trabajo de la prueba.
 [[nodiscard]] bool SinPrivilegios(const std::function<bool()> &accion);
 
 } // namespace tesmo::prueba

@@ -33,7 +33,8 @@ TEST(Ficheros, UnFicheroSinPermisoDeLecturaNoSeLee) {
   DirectorioTemporal directorio;
   const std::string ruta = directorio.Escribir("a", "x");
   fs::permissions(ruta, fs::perms::none);
-  EXPECT_TRUE(SinPrivilegios([&] { return !LeerFicheroEntero(ruta).has_value(); }));
+  EXPECT_TRUE(SinPrivilegios(directorio.Ruta(),
+                             [] { return fs::exists("a") && !LeerFicheroEntero("a").has_value(); }));
 }
 
 TEST(Ficheros, SustituyeEnteroYNoDejaTemporales) {
@@ -84,7 +85,7 @@ TEST(Ficheros, UnFicheroDeSoloLecturaNoSeSustituye) {
   const std::string ruta = directorio.Escribir("a.txt", "viejo");
   fs::permissions(ruta, fs::perms::owner_read | fs::perms::others_read);
   fs::permissions(directorio.Ruta(), fs::perms::all);
-  EXPECT_TRUE(SinPrivilegios([&] { return !EscribirFicheroEntero(ruta, "nuevo"); }));
+  EXPECT_TRUE(SinPrivilegios(directorio.Ruta(), [] { return !EscribirFicheroEntero("a.txt", "nuevo"); }));
   EXPECT_EQ(Contenido(ruta), "viejo");
 }
 
@@ -94,9 +95,9 @@ TEST(Ficheros, EnUnDirectorioCerradoEscribeEnSuSitio) {
   fs::permissions(ruta,
                   fs::perms::all & ~(fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec));
   fs::permissions(directorio.Ruta(), fs::perms::owner_all | fs::perms::others_read | fs::perms::others_exec);
-  EXPECT_TRUE(SinPrivilegios([&] { return EscribirFicheroEntero(ruta, "nuevo"); }));
+  EXPECT_TRUE(SinPrivilegios(directorio.Ruta(), [] { return EscribirFicheroEntero("a.txt", "nuevo"); }));
   EXPECT_EQ(Contenido(ruta), "nuevo");
-  EXPECT_TRUE(SinPrivilegios([&] { return !EscribirFicheroEntero(directorio / "otro.txt", "x"); }));
+  EXPECT_TRUE(SinPrivilegios(directorio.Ruta(), [] { return !EscribirFicheroEntero("otro.txt", "x"); }));
 }
 
 TEST(Ficheros, UnDispositivoSeEscribeEnSuSitio) {
@@ -110,12 +111,12 @@ TEST(Ficheros, ConElDiscoLlenoNoSePierdeLoQueHabia) {
   const std::string ruta = directorio.Escribir("a.txt", "lo que había");
   fs::permissions(directorio.Ruta(), fs::perms::all);
   fs::permissions(ruta, fs::perms::all);
-  const bool fallo = SinPrivilegios([&] {
+  const bool fallo = SinPrivilegios(directorio.Ruta(), [] {
     // El límite de tamaño por proceso hace de disco lleno.
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limite{64, 64};
     ::setrlimit(RLIMIT_FSIZE, &limite);
-    return !EscribirFicheroEntero(ruta, std::string(10000, 'x'));
+    return !EscribirFicheroEntero("a.txt", std::string(10000, 'x'));
   });
   EXPECT_TRUE(fallo);
   EXPECT_EQ(Contenido(ruta), "lo que había");
@@ -127,11 +128,11 @@ TEST(Ficheros, EnSuSitioTambienSeReponeLoQueHabia) {
   const std::string ruta = directorio.Escribir("a.txt", "lo que había");
   fs::permissions(ruta, fs::perms::all);
   fs::permissions(directorio.Ruta(), fs::perms::owner_all | fs::perms::others_read | fs::perms::others_exec);
-  const bool fallo = SinPrivilegios([&] {
+  const bool fallo = SinPrivilegios(directorio.Ruta(), [] {
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limite{64, 64};
     ::setrlimit(RLIMIT_FSIZE, &limite);
-    return !EscribirFicheroEntero(ruta, std::string(10000, 'x'));
+    return !EscribirFicheroEntero("a.txt", std::string(10000, 'x'));
   });
   EXPECT_TRUE(fallo);
   EXPECT_EQ(Contenido(ruta), "lo que había");
