@@ -1,5 +1,6 @@
 #include "vistas/Paginapsicrometrico.h"
 
+#include "vistas/Casillanumero.h"
 #include "vistas/Marcocarta.h"
 
 #include <QAction>
@@ -16,7 +17,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSpinBox>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -125,7 +125,7 @@ void PaginaPsicrometrico::CrearValor(QGridLayout &rejilla, int i) {
 }
 
 QSpinBox *PaginaPsicrometrico::CrearHora(const char *nombre, int valor) {
-  auto *hora = new QSpinBox;
+  auto *hora = new CasillaEntera;
   hora->setObjectName(Nombre(nombre));
   hora->setRange(1, MAXIMO_HORA);
   hora->setValue(valor);
@@ -202,7 +202,7 @@ QGroupBox *PaginaPsicrometrico::CrearAltitud() {
   auto *caja = new QGroupBox(tr("Altitud"));
   auto *fila = new QHBoxLayout(caja);
   fila->setContentsMargins(6, 2, 6, 4);
-  csAltitud_ = new QSpinBox;
+  csAltitud_ = new CasillaEntera;
   csAltitud_->setObjectName(QStringLiteral("csAltitud"));
   csAltitud_->setRange(ALTITUD_MINIMA, ALTITUD_MAXIMA);
   csAltitud_->setSuffix(tr(" m"));

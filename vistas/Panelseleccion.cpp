@@ -1,6 +1,7 @@
 #include "vistas/Panelseleccion.h"
 
 #include "app/Seleccion.h"
+#include "vistas/Casillanumero.h"
 #include "vistas/Textoqt.h"
 
 #include <QComboBox>
@@ -9,7 +10,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QSpinBox>
 
 namespace tesmo {
 
@@ -102,7 +102,7 @@ PanelSeleccion::Extremo PanelSeleccion::CrearExtremo(QGridLayout &rejilla, int c
 }
 
 QSpinBox *PanelSeleccion::CrearCasilla(const QString &nombre, int maximo, const QString &ayuda) {
-  auto *casilla = new QSpinBox(this);
+  auto *casilla = new CasillaEntera(this);
   casilla->setObjectName(nombre);
   casilla->setRange(1, maximo);
   casilla->setKeyboardTracking(false); // las reglas del período no se aplican a medio teclear
