@@ -115,9 +115,6 @@ private:
   void EnsenarMenu(const QPoint &donde);
   void AnadirOrdenes(QMenu &menu);
   [[nodiscard]] int SerieEnLeyenda(const QPoint &donde) const;
-  [[nodiscard]] QByteArray ImagenPng() const;
-  [[nodiscard]] QByteArray ImagenSvg() const;
-  [[nodiscard]] QByteArray ImagenPdf() const;
   void PintarVectorial(class QPaintDevice &destino) const;
 
   std::unique_ptr<Interno> interno_;

@@ -1,13 +1,9 @@
-#include "core/Ficheros.h"
 #include "vistas/Graficointerno.h"
+#include "vistas/Guardardibujo.h"
 #include "vistas/Lectura.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QClipboard>
-#include <QFileInfo>
-#include <QPdfWriter>
-#include <QSvgGenerator>
 
 #include <cmath>
 #include <limits>
@@ -15,12 +11,6 @@
 namespace tesmo {
 
 namespace {
-
-/// La imagen guardada dobla la resolución de la pantalla, para informes impresos.
-constexpr double ESCALA_DE_GUARDADO = 2.0;
-/// Resolución en que un píxel del dibujo vectorial es un píxel de pantalla [puntos por pulgada].
-constexpr int RESOLUCION = 96;
-constexpr double PUNTOS_POR_PULGADA = 72.0;
 
 /// Valor de la curva en @p x; no es un número si la curva no llega a ese punto.
 double ValorEn(const QCPGraph &curva, double x) {
@@ -35,14 +25,6 @@ QImage Grafico::Imagen(double escala) const {
   return interno_->trazo->toPixmap(interno_->trazo->width(), interno_->trazo->height(), escala).toImage();
 }
 
-QByteArray Grafico::ImagenPng() const {
-  QByteArray bytes;
-  QBuffer destino(&bytes);
-  destino.open(QIODevice::WriteOnly);
-  Imagen(ESCALA_DE_GUARDADO).save(&destino, "PNG");
-  return bytes;
-}
-
 void Grafico::PintarVectorial(QPaintDevice &destino) const {
   QCPPainter pintor;
   pintor.begin(&destino);
@@ -52,40 +34,13 @@ void Grafico::PintarVectorial(QPaintDevice &destino) const {
   pintor.end();
 }
 
-QByteArray Grafico::ImagenSvg() const {
-  QByteArray bytes;
-  QBuffer destino(&bytes);
-  destino.open(QIODevice::WriteOnly);
-  QSvgGenerator generador;
-  generador.setOutputDevice(&destino);
-  generador.setResolution(RESOLUCION);
-  generador.setSize(interno_->trazo->size());
-  generador.setViewBox(interno_->trazo->rect());
-  generador.setTitle(windowTitle());
-  PintarVectorial(generador);
-  return bytes;
-}
-
-QByteArray Grafico::ImagenPdf() const {
-  QByteArray bytes;
-  QBuffer destino(&bytes);
-  destino.open(QIODevice::WriteOnly);
-  QPdfWriter escritor(&destino);
-  escritor.setResolution(RESOLUCION);
-  const QSizeF puntos = QSizeF(interno_->trazo->size()) * (PUNTOS_POR_PULGADA / RESOLUCION);
-  escritor.setPageSize(QPageSize(puntos, QPageSize::Point, QString(), QPageSize::ExactMatch));
-  escritor.setPageMargins(QMarginsF());
-  PintarVectorial(escritor);
-  return bytes;
-}
-
 bool Grafico::GuardarImagen(const QString &ruta) const {
-  const QString extension = QFileInfo(ruta).suffix().toLower();
-  const QByteArray bytes = extension == QLatin1String("svg")   ? ImagenSvg()
-                           : extension == QLatin1String("pdf") ? ImagenPdf()
-                                                               : ImagenPng();
-  return EscribirFicheroEntero(RutaDesdeTexto(ruta.toStdString()),
-                               std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  const QString extension = ExtensionVectorial(ruta);
+  return EscribirBytes(ruta,
+                       extension.isEmpty()
+                           ? BytesPng(Imagen(ESCALA_DE_GUARDADO))
+                           : DibujoVectorial(extension, interno_->trazo->size(), windowTitle(),
+                                             [this](QPaintDevice &destino) { PintarVectorial(destino); }));
 }
 
 void Grafico::CopiarImagen() const { QApplication::clipboard()->setImage(Imagen(ESCALA_DE_GUARDADO)); }

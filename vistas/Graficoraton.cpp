@@ -1,13 +1,9 @@
-#include "core/Mensajes.h"
-#include "core/Rutas.h"
 #include "vistas/Encuadre.h"
 #include "vistas/Graficointerno.h"
+#include "vistas/Guardardibujo.h"
 #include "vistas/Lectura.h"
 
 #include <QAction>
-#include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenu>
 
@@ -23,21 +19,6 @@ constexpr double TRAMO_MINIMO = 3.0;
 /// Parte del tramo que mueve una flecha, y lo que amplía una tecla o un paso de rueda.
 constexpr double PASO_DE_FLECHA = 0.1;
 constexpr double FACTOR_DE_AMPLIACION = 0.8;
-
-/// Directorio de la última imagen guardada, de todos los gráficos.
-QString &UltimoDirectorio() {
-  static QString ultimo;
-  return ultimo;
-}
-
-/// Donde se guardó la última vez o, si ya no está, el de resultados o el personal.
-QString DirectorioParaGuardar() {
-  const QString resultados = QString::fromStdString(DameConfiguracion().RutaResultados(""));
-  for (const QString &directorio : {UltimoDirectorio(), resultados}) {
-    if (!directorio.isEmpty() && QDir(directorio).exists()) return directorio;
-  }
-  return QDir::homePath();
-}
 
 } // namespace
 
@@ -206,22 +187,8 @@ void Grafico::AnadirOrdenes(QMenu &menu) {
 }
 
 void Grafico::PedirGuardarImagen(const QString &extension) {
-  auto *dialogo = new QFileDialog(this, tr("Guardar imagen"));
-  dialogo->setObjectName(QStringLiteral("sdGuardarImagen"));
-  dialogo->setAttribute(Qt::WA_DeleteOnClose);
-  dialogo->setOption(QFileDialog::DontUseNativeDialog);
-  dialogo->setDirectory(DirectorioParaGuardar());
-  dialogo->setAcceptMode(QFileDialog::AcceptSave);
-  dialogo->setDefaultSuffix(extension);
-  dialogo->setNameFilter(tr("Imagen %1 (*.%2)").arg(extension.toUpper(), extension));
-  connect(dialogo, &QFileDialog::fileSelected, this, [this](const QString &ruta) {
-    if (GuardarImagen(ruta)) {
-      UltimoDirectorio() = QFileInfo(ruta).absolutePath();
-    } else {
-      DameMensajes().Mensaje(MENSAJE_FICHERO_RESULTADO, ruta.toStdString());
-    }
-  });
-  dialogo->open();
+  PedirGuardarDibujo(*this, *this, QStringLiteral("sdGuardarImagen"), {extension},
+                     [this](const QString &ruta) { return GuardarImagen(ruta); });
 }
 
 } // namespace tesmo

@@ -1,26 +1,17 @@
 #include "vistas/Marcocarta.h"
 
-#include "core/Ficheros.h"
 #include "psicro/Psicrometrico.h"
+#include "vistas/Guardardibujo.h"
 
-#include <QBuffer>
 #include <QContextMenuEvent>
-#include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QSvgGenerator>
 
 namespace tesmo {
 
 namespace {
 
 constexpr QSize TAMANO_MINIMO(360, 240);
-/// La imagen guardada dobla la resolución de la pantalla, para informes impresos.
-constexpr double ESCALA_DE_GUARDADO = 2.0;
-/// Resolución en que un píxel del dibujo vectorial es un píxel de pantalla [puntos por pulgada].
-constexpr int RESOLUCION = 96;
-constexpr double PUNTOS_POR_PULGADA = 72.0;
 
 } // namespace
 
@@ -114,47 +105,12 @@ bool MarcoCarta::eventFilter(QObject *objeto, QEvent *suceso) {
 }
 
 QImage MarcoCarta::Imagen(double escala) const {
-  QImage imagen(size() * escala, QImage::Format_RGB32);
-  imagen.setDevicePixelRatio(escala);
-  Pintar(imagen);
-  return imagen;
-}
-
-QByteArray MarcoCarta::Vectorial(const QString &extension) const {
-  QByteArray bytes;
-  QBuffer destino(&bytes);
-  destino.open(QIODevice::WriteOnly);
-  if (extension == QLatin1String("svg")) {
-    QSvgGenerator generador;
-    generador.setOutputDevice(&destino);
-    generador.setResolution(RESOLUCION);
-    generador.setSize(size());
-    generador.setViewBox(rect());
-    generador.setTitle(tr("Carta psicrométrica"));
-    Pintar(generador);
-  } else {
-    QPdfWriter escritor(&destino);
-    escritor.setResolution(RESOLUCION);
-    const QSizeF puntos = QSizeF(size()) * (PUNTOS_POR_PULGADA / RESOLUCION);
-    escritor.setPageSize(QPageSize(puntos, QPageSize::Point, QString(), QPageSize::ExactMatch));
-    escritor.setPageMargins(QMarginsF());
-    Pintar(escritor);
-  }
-  return bytes;
+  return ImagenDeDibujo(size(), escala, [this](QPaintDevice &destino) { Pintar(destino); });
 }
 
 bool MarcoCarta::GuardarImagen(const QString &ruta) const {
-  const QString extension = QFileInfo(ruta).suffix().toLower();
-  QByteArray bytes;
-  if (extension == QLatin1String("svg") || extension == QLatin1String("pdf")) {
-    bytes = Vectorial(extension);
-  } else {
-    QBuffer destino(&bytes);
-    destino.open(QIODevice::WriteOnly);
-    if (!Imagen(ESCALA_DE_GUARDADO).save(&destino, "PNG")) return false;
-  }
-  return EscribirFicheroEntero(RutaDesdeTexto(ruta.toStdString()),
-                               {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  return GuardarDibujo(ruta, size(), tr("Carta psicrométrica"),
+                       [this](QPaintDevice &destino) { Pintar(destino); });
 }
 
 } // namespace tesmo

@@ -48,7 +48,6 @@ private:
   void Dibujar();
   void PintarReticula();
   void Pintar(QPaintDevice &destino) const;
-  [[nodiscard]] QByteArray Vectorial(const QString &extension) const;
 
   ContenidoCarta *contenido_ = nullptr;
   QWidget *imgPsicro_ = nullptr;

@@ -3,19 +3,18 @@
 #include "app/Carga.h"
 #include "app/Programa.h"
 #include "app/Seleccion.h"
-#include "core/Mensajes.h"
 #include "meteo/Leermet.h"
 #include "psicro/Corrienteaire.h"
 #include "psicro/Marcacarta.h"
 #include "psicro/Psicrometrico.h"
 #include "vistas/Cursorocupado.h"
+#include "vistas/Guardardibujo.h"
 #include "vistas/Marcocarta.h"
 #include "vistas/Paginapsicrometrico.h"
 #include "vistas/Panelseleccion.h"
 #include "vistas/Textoqt.h"
 
 #include <QColorDialog>
-#include <QFileDialog>
 #include <QMenu>
 
 #include <cmath>
@@ -205,21 +204,9 @@ bool Vistapsicrometrico::GuardarImagen(const QString &ruta) const {
 }
 
 void Vistapsicrometrico::PedirGuardar() {
-  auto *dialogo = new QFileDialog(&pagina_, QObject::tr("Guardar imagen"));
-  dialogo->setObjectName(QStringLiteral("sdGuardarCarta"));
-  dialogo->setAttribute(Qt::WA_DeleteOnClose);
-  dialogo->setOption(QFileDialog::DontUseNativeDialog);
-  dialogo->setAcceptMode(QFileDialog::AcceptSave);
-  dialogo->setDefaultSuffix(QStringLiteral("png"));
-  dialogo->setNameFilters({QObject::tr("Imagen PNG (*.png)"), QObject::tr("Dibujo SVG (*.svg)"),
-                           QObject::tr("Documento PDF (*.pdf)")});
-  QObject::connect(dialogo, &QFileDialog::filterSelected, dialogo, [dialogo](const QString &filtro) {
-    dialogo->setDefaultSuffix(filtro.mid(filtro.indexOf(QLatin1String("*.")) + 2).chopped(1));
-  });
-  QObject::connect(dialogo, &QFileDialog::fileSelected, &avisos_, [this](const QString &ruta) {
-    if (!GuardarImagen(ruta)) DameMensajes().Mensaje(MENSAJE_FICHERO_RESULTADO, ruta.toStdString());
-  });
-  dialogo->open();
+  PedirGuardarDibujo(pagina_, avisos_, QStringLiteral("sdGuardarCarta"),
+                     {QStringLiteral("png"), QStringLiteral("svg"), QStringLiteral("pdf")},
+                     [this](const QString &ruta) { return GuardarImagen(ruta); });
 }
 
 void Vistapsicrometrico::EnsenarMenu(const QPoint &donde) {
