@@ -6,6 +6,8 @@ namespace tesmo {
 
 /// Título de la aplicación en las ventanas.
 inline constexpr const char *TITULO = "Tesmo-A";
+/// Versión de la aplicación.
+inline constexpr const char *VERSION = TESMO_VERSION;
 
 /// Lo que toda ventana necesita antes de abrirse: título, español en números, fechas y botones de las cajas
 /// estándar, y el separador decimal de la región del sistema (o el de TESMO_DECIMAL).

@@ -1,20 +1,30 @@
 #include "app/Ventanaprincipal.h"
 
+#include "app/Acercade.h"
 #include "app/Aplicacion.h"
+#include "app/Manual.h"
+#include "app/Presentacion.h"
 #include "app/Programa.h"
+#include "app/Ventanaayuda.h"
 #include "app/Ventanaprogramas.h"
 #include "app/Vistaprograma.h"
 #include "core/Ficheros.h"
+#include "core/Mensajes.h"
 #include "core/Rutas.h"
 #include "extremos/Diasextremos.h"
+#include "vistas/Abrirdocumento.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QStatusBar>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -24,6 +34,9 @@ namespace {
 
 /// Lo menor en que caben el panel común y un gráfico legible [px].
 constexpr QSize TAMANO_MINIMO(960, 600);
+constexpr int INTERVALO_PRESENTACION = 100; ///< [ms]
+/// Los tictacs que sólo cuentan; en el siguiente la presentación acaba.
+constexpr int TICTACS_DE_ESPERA = 6;
 
 } // namespace
 
@@ -34,13 +47,22 @@ TforPrincipal::TforPrincipal(QWidget *padre) : QMainWindow(padre) {
   CrearPrograma();
   ayuda_ =
       DameConfiguracion().RutaPrograma("Crindel.hlp"); // la primera petición fija el directorio de trabajo
-  // El informe de los días extremos sólo guarda lo de esta ejecución; si no se puede vaciar, no se dice.
-  (void)EscribirFicheroEntero(RutaDesdeTexto(DiasExtremos::RutaSalida()), {});
   area_ = new QMdiArea(this);
   area_->setObjectName(QStringLiteral("areaVentanas"));
+  // Una ventana que no quepa tras ordenarlas se alcanza desplazando.
+  area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setCentralWidget(area_);
   statusBar()->setSizeGripEnabled(false);
   CrearMenus();
+  imagen_ = std::make_unique<Presentacion>();
+  // En cola: acabar el programa cierra todas las ventanas, y ésta aún se estaría cerrando.
+  connect(imagen_.get(), &Presentacion::cerrada, this, &QWidget::close, Qt::QueuedConnection);
+  FormCreate();
+  Timer1_ = new QTimer(this);
+  Timer1_->setObjectName(QStringLiteral("Timer1"));
+  connect(Timer1_, &QTimer::timeout, this, &TforPrincipal::Timer1Timer);
+  Timer1_->start(INTERVALO_PRESENTACION);
   // Al acabar, la aplicación borra las ventanas cerradas sin atender antes lo que quede en la cola: sin esto
   // cada formulario moriría antes que sus vistas.
   connect(qApp, &QCoreApplication::aboutToQuit, this, &TforPrincipal::RetirarTodos);
@@ -48,58 +70,40 @@ TforPrincipal::TforPrincipal(QWidget *padre) : QMainWindow(padre) {
 
 TforPrincipal::~TforPrincipal() { RetirarTodos(); }
 
-void TforPrincipal::CrearMenus() {
-  QMenu *archivo = menuBar()->addMenu(tr("&Archivo"));
-  archivo->setObjectName(QStringLiteral("mnuArchivo"));
-  connect(CrearOrden(*archivo, QStringLiteral("mnuNuevo"), tr("&Nuevo"), QKeySequence::New),
-          &QAction::triggered, this, &TforPrincipal::mnuNuevoClick);
-  connect(CrearOrden(*archivo, QStringLiteral("mnuCerrar"), tr("&Cerrar"), QKeySequence(tr("Ctrl+W"))),
-          &QAction::triggered, this, &TforPrincipal::mnuCerrarClick);
-  connect(CrearOrden(*archivo, QStringLiteral("mnuCerrarTodo"), tr("Cerrar &todo"),
-                     QKeySequence(tr("Ctrl+Shift+W"))),
-          &QAction::triggered, this, &TforPrincipal::mnuCerrarTodoClick);
-  archivo->addSeparator();
-  connect(CrearOrden(*archivo, QStringLiteral("mnuSalir"), tr("&Salir"), QKeySequence(tr("Ctrl+Q"))),
-          &QAction::triggered, this, &QWidget::close);
-
-  QMenu *ventana = menuBar()->addMenu(tr("Ve&ntana"));
-  ventana->setObjectName(QStringLiteral("mnuVentana"));
-  connect(CrearOrden(*ventana, QStringLiteral("WindowCascade1"), tr("&Cascada"), {}), &QAction::triggered,
-          area_, &QMdiArea::cascadeSubWindows);
-  connect(CrearOrden(*ventana, QStringLiteral("mnuMosaico"), tr("&Mosaico"), {}), &QAction::triggered, area_,
-          &QMdiArea::tileSubWindows);
-  ventana->addSeparator();
-  connect(ventana, &QMenu::aboutToShow, this, [this, ventana] { ListarVentanas(*ventana); });
+/// Así el informe de los días extremos sólo guarda lo de esta ejecución.
+void TforPrincipal::FormCreate() {
+  if (!EscribirFicheroEntero(RutaDesdeTexto(DiasExtremos::RutaSalida()), {}))
+    avisoArranque_ =
+        tr("No se puede escribir en el directorio del programa: la traza «salida.txt» no se guardará.");
 }
 
-void TforPrincipal::ListarVentanas(QMenu &menu) {
-  qDeleteAll(listaVentanas_);
-  listaVentanas_.clear();
-  for (QMdiSubWindow *ventana : area_->subWindowList()) {
-    QAction *orden = menu.addAction(ventana->windowTitle());
-    orden->setCheckable(true);
-    orden->setChecked(ventana == area_->activeSubWindow());
-    connect(orden, &QAction::triggered, ventana, [this, ventana] { area_->setActiveSubWindow(ventana); });
-    listaVentanas_.append(orden);
-  }
+QWidget *TforPrincipal::DameImagen() const { return imagen_.get(); }
+
+void TforPrincipal::Presentar() {
+  if (imagen_) imagen_->show();
 }
 
-QAction *TforPrincipal::CrearOrden(QMenu &menu, const QString &nombre, const QString &texto,
-                                   const QKeySequence &atajo) {
-  QAction *orden = menu.addAction(texto);
-  orden->setObjectName(nombre);
-  orden->setShortcut(atajo);
-  return orden;
+void TforPrincipal::Timer1Timer() {
+  if (contador_++ < TICTACS_DE_ESPERA) return;
+  Timer1_->stop();
+  showMaximized();
+  AbrirPrimera();
+}
+
+void TforPrincipal::AbrirPrimera() {
+  Timer1_->stop();
+  if (!imagen_) return;
+  imagen_->hide();
+  imagen_.release()->deleteLater(); // se puede llegar aquí desde su propio cierre
+  for (QAction *menu : menuBar()->actions()) menu->setVisible(true);
+  AbrirVentana(*programas_.front());
+  if (!avisoArranque_.isEmpty()) statusBar()->showMessage(avisoArranque_);
 }
 
 Programa &TforPrincipal::CrearPrograma() {
   programas_.push_back(std::make_unique<Programa>());
   return *programas_.back();
 }
-
-void TforPrincipal::AbrirPrimera() { AbrirVentana(*programas_.front()); }
-
-void TforPrincipal::mnuNuevoClick() { AbrirVentana(CrearPrograma()); }
 
 void TforPrincipal::AbrirVentana(const Programa &programa) {
   const std::string nombre = "Sin Nombre" + std::to_string(area_->subWindowList().size() + 1);
@@ -132,6 +136,8 @@ void TforPrincipal::RetirarTodos() {
   while (!controladores_.empty()) Retirar(controladores_.back().get());
 }
 
+void TforPrincipal::mnuNuevoClick() { AbrirVentana(CrearPrograma()); }
+
 void TforPrincipal::mnuCerrarClick() { area_->closeActiveSubWindow(); }
 
 void TforPrincipal::mnuCerrarTodoClick() {
@@ -139,10 +145,50 @@ void TforPrincipal::mnuCerrarTodoClick() {
   for (auto ventana = ventanas.rbegin(); ventana != ventanas.rend(); ++ventana) (*ventana)->close();
 }
 
+void TforPrincipal::mnuColoresClick() {
+  for (const auto &controlador : controladores_) controlador->AplicarColores();
+}
+
+TforProgramas *TforPrincipal::VentanaDelante() const {
+  const QMdiSubWindow *ventana = area_->currentSubWindow();
+  return ventana == nullptr ? nullptr : qobject_cast<TforProgramas *>(ventana->widget());
+}
+
+void TforPrincipal::mnuContenidoClick() {
+  QDir::setCurrent(QString::fromStdString(DameConfiguracion().RutaPrograma({})));
+  const QString ayuda = QString::fromStdString(ayuda_);
+  if (!QFileInfo(ayuda).isFile()) return AbrirManual();
+  const QPointer<TforPrincipal> marco(this); // el sistema puede contestar cuando ya no esté
+  AbrirDocumento(ayuda, [marco](const QString &) {
+    if (marco) marco->AbrirManual();
+  });
+}
+
+void TforPrincipal::AbrirManual() {
+  const QString directorio = DirectorioManual();
+  if (directorio.isEmpty()) {
+    statusBar()->showMessage(
+        tr("No se encuentra el manual: falta el directorio «manual» junto al programa."));
+    return;
+  }
+  if (manual_ == nullptr) manual_ = new VentanaAyuda(this);
+  const TforProgramas *ventana = VentanaDelante();
+  manual_->Ensenar(directorio, PaginaDelManual(ventana == nullptr ? QString() : ventana->PestanaDelante()));
+}
+
+void TforPrincipal::mnuAcercadeClick() {
+  TforAcercade caja(this);
+  caja.exec();
+}
+
 void TforPrincipal::closeEvent(QCloseEvent *suceso) {
+  Timer1_->stop();
   LiberarConfiguracion();
   mnuCerrarTodoClick();
+  DameMensajes().PonPresentador(nullptr);
   suceso->accept();
+  // No basta con que se cierre la última ventana: si lo que se cierra es la presentación, ésta no cuenta.
+  QCoreApplication::quit();
 }
 
 } // namespace tesmo

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -9,22 +10,31 @@
 class QAction;
 class QMdiArea;
 class QMenu;
+class QTimer;
 
 namespace tesmo {
 
+class Presentacion;
 class Programa;
+class TforProgramas;
+class VentanaAyuda;
 class VistaPrograma;
 
-/// Marco de la aplicación: documentos múltiples, una ventana de trabajo por documento. Es dueño de los
-/// controladores y de los programas; cerrarlo cierra las ventanas de la última a la primera.
+/// Marco de la aplicación: la presentación y, en el séptimo tictac, los documentos múltiples, una ventana de
+/// trabajo por documento. Es dueño de los controladores y de los programas. Cerrarlo cierra las ventanas de
+/// la última a la primera y acaba el programa; cerrar la última ventana lo deja abierto.
 class TforPrincipal : public QMainWindow {
   Q_OBJECT
 
 public:
+  /// Nace escondido, con el reloj de la presentación en marcha y los menús sin enseñar.
   explicit TforPrincipal(QWidget *padre = nullptr);
   ~TforPrincipal() override;
 
-  /// Abre la primera ventana, sobre el programa con que nació el marco.
+  /// Enseña la imagen de presentación hasta el séptimo tictac.
+  void Presentar();
+  /// Acaba la presentación: para el reloj, enseña los menús y abre la primera ventana, sobre el programa con
+  /// que nació el marco. Otra vez no hace nada.
   void AbrirPrimera();
   [[nodiscard]] const std::vector<std::unique_ptr<VistaPrograma>> &Controladores() const {
     return controladores_;
@@ -32,26 +42,53 @@ public:
   [[nodiscard]] const std::vector<std::unique_ptr<Programa>> &Programas() const { return programas_; }
   /// Ruta del fichero de ayuda, en el directorio del programa; puede no existir.
   [[nodiscard]] const std::string &FicheroAyuda() const { return ayuda_; }
+  /// La imagen de presentación; nula cuando ya pasó.
+  [[nodiscard]] QWidget *DameImagen() const;
 
 public slots:
   void mnuNuevoClick();
   void mnuCerrarClick();
   void mnuCerrarTodoClick();
+  void mnuColoresClick();
+  void mnuContenidoClick();
+  void mnuAcercadeClick();
+
+private slots:
+  void Timer1Timer();
 
 protected:
   void closeEvent(QCloseEvent *suceso) override;
 
 private:
+  /// Una orden de un menú; sin nombre es una raya.
+  struct Orden {
+    const char *nombre = nullptr;
+    QString texto;
+    QKeySequence atajo;
+    std::function<void()> alElegir;
+  };
+  void FormCreate();
   void CrearMenus();
-  QAction *CrearOrden(QMenu &menu, const QString &nombre, const QString &texto, const QKeySequence &atajo);
+  QMenu *CrearMenu(const char *nombre, const QString &titulo, const std::vector<Orden> &ordenes);
+  [[nodiscard]] std::vector<Orden> OrdenesDeArchivo();
+  [[nodiscard]] std::vector<Orden> OrdenesDeHerramienta();
+  [[nodiscard]] std::vector<Orden> OrdenesDeVentana();
+  [[nodiscard]] std::vector<Orden> OrdenesDeAyuda();
   void ListarVentanas(QMenu &menu);
+  void AbrirManual();
+  [[nodiscard]] TforProgramas *VentanaDelante() const;
   Programa &CrearPrograma();
   void AbrirVentana(const Programa &programa);
   void Retirar(VistaPrograma *controlador);
   void RetirarTodos();
 
+  int contador_ = 0; ///< tictacs de la presentación
+  QTimer *Timer1_ = nullptr;
+  std::unique_ptr<Presentacion> imagen_;
   std::string ayuda_;
+  QString avisoArranque_; ///< lo que falló al arrancar sin que nadie lo dijera
   QMdiArea *area_ = nullptr;
+  VentanaAyuda *manual_ = nullptr; ///< nula hasta que se abre por primera vez
   QList<QAction *> listaVentanas_; ///< las del menú, rehechas cada vez que se abre
   std::vector<std::unique_ptr<Programa>> programas_;
   std::vector<std::unique_ptr<VistaPrograma>> controladores_;

@@ -65,6 +65,8 @@ void TforProgramas::btnCalDiaExtClick() { controlador_.CalcularDiasExtremos(); }
 void TforProgramas::CheckListBox1ClickCheck() { controlador_.ElegirMagnitudesExtremas(); }
 void TforProgramas::Button1Click() { controlador_.VisualizarFicherosExtremos(); }
 
+QString TforProgramas::PestanaDelante() const { return pcProgramas_->currentWidget()->objectName(); }
+
 void TforProgramas::EnsenarResultados(bool ensenar) {
   const int sitio = pcProgramas_->indexOf(paginaResultados_);
   if (!ensenar && pcProgramas_->currentIndex() == sitio) pcProgramas_->setCurrentWidget(paginaDiasExtremos_);

@@ -29,6 +29,9 @@ public:
   [[nodiscard]] PaginaPsicrometrico &DamePaginaPsicrometrico() const { return *paginaPsicrometrico_; }
   [[nodiscard]] PanelSeleccion &DamePanel() const { return *panel_; }
 
+  /// Nombre de la página que está delante ("tsDatosGenerales"…).
+  [[nodiscard]] QString PestanaDelante() const;
+
   void cbProvinciasChange();
   void cbLocalidadesChange();
   void pcProgramasChange();

@@ -132,6 +132,7 @@ void VistaPrograma::Visualizar() {
 }
 
 void VistaPrograma::ActualizarVisibles() { vistaEntorno_->actualizarVisibles(); }
+void VistaPrograma::AplicarColores() { vistaEntorno_->aplicarColores(); }
 void VistaPrograma::EjesPorUnidad() { vistaEntorno_->EjesPorUnidad(); }
 void VistaPrograma::CalcularDiasExtremos() { vistaDiasExtremos_->btnCalDiaExtClick(); }
 void VistaPrograma::ElegirMagnitudesExtremas() { vistaDiasExtremos_->CheckListBox1ClickCheck(); }

@@ -45,6 +45,8 @@ public:
   void ElegirMagnitudesExtremas();
   void VisualizarFicherosExtremos();
   void CambiarAltitud();
+  /// Toma los colores de la tabla compartida.
+  void AplicarColores();
   void PonTitulo();
 
   /// Un motor cambió: el formulario se repinta.

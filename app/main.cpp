@@ -89,8 +89,7 @@ int main(int argc, char **argv) {
   tesmo::PresentadorVentanas presentador;
   tesmo::DameMensajes().PonPresentador(&presentador);
   tesmo::TforPrincipal marco;
-  marco.showMaximized();
-  marco.AbrirPrimera();
+  marco.Presentar();
   const int resultado = QApplication::exec();
   tesmo::DameMensajes().PonPresentador(nullptr);
   return resultado;

@@ -1,5 +1,6 @@
 #include "vistas/Abrireditor.h"
 
+#include "vistas/Lanzarprograma.h"
 #include <QDir>
 #include <QObject>
 #include <QProcess>
@@ -26,28 +27,6 @@ QString BuscarTerminal(const EntornoEditor &entorno) {
   return {};
 }
 #endif
-
-/// Un programa que hubo que lanzar: avisa si acaba mal y se destruye al acabar. No tiene padre a propósito:
-/// un QProcess destruido mata a su programa, y el editor ha de sobrevivir al nuestro.
-bool Lanzar(const QStringList &orden, const std::function<void(const QString &)> &alFallar) {
-  auto *proceso = new QProcess;
-  proceso->setProcessChannelMode(QProcess::ForwardedChannels);
-  proceso->setStandardInputFile(QProcess::nullDevice());
-  proceso->start(orden.front(), orden.mid(1));
-  // Sólo espera a que el sistema lo ponga en marcha, no a que haga nada.
-  if (!proceso->waitForStarted()) {
-    delete proceso;
-    return false;
-  }
-  const QString programa = QDir::toNativeSeparators(orden.front());
-  QObject::connect(proceso, &QProcess::finished, proceso,
-                   [proceso, programa, alFallar](int codigo, QProcess::ExitStatus salida) {
-                     if (salida != QProcess::NormalExit || codigo != 0)
-                       alFallar(QObject::tr("%1 no pudo abrirlo (código %2)").arg(programa).arg(codigo));
-                     proceso->deleteLater();
-                   });
-  return true;
-}
 
 } // namespace
 
@@ -77,7 +56,7 @@ std::vector<QStringList> OrdenesDeEditor(const QString &ruta, const EntornoEdito
 
 void AbrirEditor(const QString &ruta, std::function<void(const QString &)> alFallar) {
   for (const QStringList &orden : OrdenesDeEditor(ruta, EntornoEditor::DelSistema())) {
-    if (Lanzar(orden, alFallar)) return;
+    if (LanzarPrograma(orden, alFallar)) return;
   }
   alFallar(QObject::tr("no hay ningún editor de textos: ponga uno en la variable VISUAL"));
 }

@@ -75,6 +75,12 @@ MarcoPrueba::MarcoPrueba() {
   (void)QTest::qWaitForWindowActive(&marco);
 }
 
+QAction &MarcoPrueba::Orden(const char *nombre) const {
+  auto *orden = marco.findChild<QAction *>(QString::fromLatin1(nombre));
+  if (!orden) qFatal("falta la orden %s", nombre);
+  return *orden;
+}
+
 void ElegirEnMenu(QWidget &control, const QPoint &donde, const char *accion) {
   QContextMenuEvent suceso(QContextMenuEvent::Mouse, donde, control.mapToGlobal(donde));
   QApplication::sendEvent(&control, &suceso);

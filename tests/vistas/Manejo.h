@@ -54,6 +54,8 @@ private:
 struct MarcoPrueba {
   MarcoPrueba();
   [[nodiscard]] Ventana Numero(std::size_t i) const { return Ventana(*marco.Controladores().at(i)); }
+  /// Orden de un menú del marco por su nombre.
+  [[nodiscard]] QAction &Orden(const char *nombre) const;
 
   DatosPrueba datos;
   MensajesApuntados mensajes;
