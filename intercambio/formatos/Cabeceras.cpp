@@ -1,0 +1,75 @@
+#include "intercambio/formatos/Cabeceras.h"
+
+#include "intercambio/formatos/Numeros.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+namespace tesmo {
+
+namespace {
+
+constexpr double LATITUD_MAXIMA = 90.0;
+constexpr double LONGITUD_MAXIMA = 180.0;
+constexpr double GRADOS_POR_HORA = 15.0;
+/// Altitudes [m] que se creen: de la orilla del mar Muerto a la cima más alta.
+constexpr double ALTITUD_MINIMA = -450.0;
+constexpr double ALTITUD_MAXIMA = 9000.0;
+
+constexpr char Minuscula(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+std::size_t Buscar(std::string_view texto, std::string_view clave) {
+  const auto igual = [](char a, char b) { return Minuscula(a) == Minuscula(b); };
+  const auto *hallado = std::search(texto.begin(), texto.end(), clave.begin(), clave.end(), igual);
+  return hallado == texto.end() && !clave.empty() ? std::string_view::npos
+                                                  : static_cast<std::size_t>(hallado - texto.begin());
+}
+
+double Angulo(std::optional<double> valor, double maximo, const char *nombre, int linea, Cuaderno &cuaderno) {
+  if (valor && std::fabs(*valor) <= maximo) return *valor;
+  cuaderno.Error({.clase = ClaseNota::Cabecera,
+                  .linea = linea,
+                  .texto = "línea " + std::to_string(linea) + ": la " + nombre +
+                           (valor ? " no cabe en un círculo" : " falta o no es un número") +
+                           "; escríbala en grados con punto decimal"});
+  return AUSENTE;
+}
+
+} // namespace
+
+void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, std::optional<double> altitud,
+                int linea, SitioClima &sitio, Cuaderno &cuaderno) {
+  sitio.latitud = Angulo(latitud, LATITUD_MAXIMA, "latitud", linea, cuaderno);
+  sitio.longitud = Angulo(longitud, LONGITUD_MAXIMA, "longitud", linea, cuaderno);
+  if (altitud && *altitud >= ALTITUD_MINIMA && *altitud <= ALTITUD_MAXIMA) {
+    sitio.altitud = *altitud;
+    return;
+  }
+  cuaderno.Aviso(
+      {.clase = ClaseNota::Cabecera,
+       .linea = linea,
+       .texto = "línea " + std::to_string(linea) +
+                ": no da una altitud creíble; indíquela al importar, porque de ella sale la presión "
+                "de las horas que no la traen"});
+}
+
+double HusoDeLongitud(double longitud) {
+  return std::isfinite(longitud) ? std::round(longitud / GRADOS_POR_HORA) + 0.0 : 0.0;
+}
+
+std::optional<double> NumeroTras(std::string_view texto, std::string_view clave) {
+  const std::size_t hallada = Buscar(texto, clave);
+  if (hallada == std::string_view::npos) return std::nullopt;
+  std::string_view resto = texto.substr(hallada + clave.size());
+  const std::size_t inicio = resto.find_first_not_of(" \t:");
+  if (inicio == std::string_view::npos) return std::nullopt;
+  resto.remove_prefix(inicio);
+  return LeerNumero(resto.substr(0, resto.find_first_not_of("0123456789.+-eE")));
+}
+
+bool Contiene(std::string_view texto, std::string_view clave) {
+  return Buscar(texto, clave) != std::string_view::npos;
+}
+
+} // namespace tesmo

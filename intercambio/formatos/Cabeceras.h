@@ -1,0 +1,33 @@
+#pragma once
+
+#include "intercambio/formatos/Cuaderno.h"
+
+#include <optional>
+#include <string_view>
+
+namespace tesmo {
+
+/// Piezas comunes de las cabeceras.
+
+/// Pone latitud y longitud, que han de estar, y altitud, que puede faltar (con aviso). Un valor ausente o que
+/// no cabe en su ángulo es un error de la @p linea.
+void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, std::optional<double> altitud,
+                int linea, SitioClima &sitio, Cuaderno &cuaderno);
+
+/// Huso [h] que le toca a una longitud [°] cuando el fichero no lo dice; 0 si no se conoce.
+[[nodiscard]] double HusoDeLongitud(double longitud);
+
+/// El número que sigue a @p clave en @p texto, sin distinguir mayúsculas ni contar los ':' y blancos de en
+/// medio; vacío si la clave no está o no la sigue un número.
+[[nodiscard]] std::optional<double> NumeroTras(std::string_view texto, std::string_view clave);
+
+/// ¿Está @p clave (en minúsculas) en @p texto, sin distinguir mayúsculas?
+[[nodiscard]] bool Contiene(std::string_view texto, std::string_view clave);
+
+/// Minutos entre la etiqueta de PVGIS, contada de 1 a 24, y el instante de su radiación cuando el fichero no
+/// lo dice: los satélites que cubren Europa pasan hacia el minuto 10 de la hora que se escribe.
+inline constexpr double DESFASE_PVGIS_MIN = -50.0;
+/// Desfases [min] que se admiten.
+inline constexpr double DESFASE_MAXIMO_MIN = 90.0;
+
+} // namespace tesmo

@@ -1,0 +1,127 @@
+#include "core/Codificacion.h"
+#include "intercambio/formatos/Cabeceras.h"
+#include "intercambio/formatos/Fechatexto.h"
+#include "intercambio/formatos/Lectores.h"
+#include "intercambio/formatos/Mapacolumnas.h"
+#include "intercambio/formatos/Montaje.h"
+#include "intercambio/formatos/Numeros.h"
+#include "intercambio/formatos/Unidadesclima.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <string>
+
+namespace tesmo {
+
+namespace {
+
+constexpr std::size_t SIN_COLUMNA = static_cast<std::size_t>(-1);
+/// Columnas que se miran; las de un mapa han de estar entre ellas.
+constexpr int COLUMNAS_MAXIMAS = 1000;
+
+std::optional<double> SiHay(double valor) { return std::isnan(valor) ? std::nullopt : std::optional(valor); }
+
+class LectorDelimitado {
+public:
+  LectorDelimitado(std::string_view texto, const MapaColumnas &mapa, AnioCanonico &anio, Cuaderno &cuaderno)
+      : lineas_(texto), mapa_(mapa), anio_(anio), cuaderno_(cuaderno) {}
+
+  void Leer() {
+    anio_.sitio.nombre = mapa_.nombre;
+    PonerSitio(SiHay(mapa_.latitud), SiHay(mapa_.longitud), SiHay(mapa_.altitud), 0, anio_.sitio, cuaderno_);
+    anio_.reloj = mapa_.reloj;
+    LeerRotulos();
+    EsquemaFilas esquema{.separador = mapa_.separador, .comaDecimal = mapa_.comaDecimal};
+    for (const ColumnaMapa &columna : mapa_.columnas) AnadirColumna(columna, esquema);
+    ElegirFecha(esquema);
+    if (!cuaderno_.Resultado().errores.empty()) return;
+    std::vector<FilaClima> filas = LeerFilas(lineas_, esquema, cuaderno_);
+    MontarAnio(filas, anio_, cuaderno_);
+  }
+
+private:
+  void LeerRotulos() {
+    std::string_view linea;
+    for (int i = 0; i < mapa_.lineasCabecera; ++i) (void)lineas_.Siguiente(linea);
+    if (mapa_.lineasCabecera > 0) PartirLinea(linea, mapa_.separador, COLUMNAS_MAXIMAS, rotulos_);
+  }
+
+  /// Posición, desde 0, de una columna nombrada por su número o por su rótulo.
+  std::size_t Posicion(const std::string &columna, std::string_view para) {
+    if (columna.empty()) return SIN_COLUMNA;
+    const std::optional<int> numero = LeerEntero(columna);
+    if (numero && *numero >= 1 && *numero <= COLUMNAS_MAXIMAS) return static_cast<std::size_t>(*numero - 1);
+    const std::string buscado = PlegarMinusculas(columna);
+    for (std::size_t i = 0; i < rotulos_.size(); ++i) {
+      if (PlegarMinusculas(AUtf8(rotulos_[i])) == buscado) return i;
+    }
+    cuaderno_.Error(
+        {.clase = ClaseNota::Cabecera,
+         .linea = mapa_.lineasCabecera,
+         .texto = "no hay columna " + Citado(columna) + " para " + std::string(para) +
+                  "; póngase en el mapa su número, desde 1, o su rótulo tal como está en la línea " +
+                  std::to_string(mapa_.lineasCabecera)});
+    return SIN_COLUMNA;
+  }
+
+  void AnadirColumna(const ColumnaMapa &columna, EsquemaFilas &esquema) {
+    const std::size_t posicion = Posicion(columna.columna, NombreCampo(columna.campo));
+    const UnidadClima *unidad = columna.unidad.empty() ? &UnidadesDe(columna.campo).front()
+                                                       : BuscarUnidad(columna.campo, columna.unidad);
+    if (posicion == SIN_COLUMNA || unidad == nullptr) return;
+    esquema.columnas.push_back({posicion, columna.campo, unidad->factor, unidad->sumando, mapa_.sinDato});
+  }
+
+  void ElegirFecha(EsquemaFilas &esquema) {
+    const std::size_t fecha = Posicion(mapa_.columnaFecha, "la fecha");
+    const std::size_t anio = Posicion(mapa_.columnaAnio, "el año");
+    const std::size_t mes = Posicion(mapa_.columnaMes, "el mes");
+    const std::size_t dia = Posicion(mapa_.columnaDia, "el día");
+    const std::size_t hora = Posicion(mapa_.columnaHora, "la hora");
+    for (const std::size_t posicion : {fecha, anio, mes, dia, hora}) {
+      if (posicion != SIN_COLUMNA) esquema.camposMinimos = std::max(esquema.camposMinimos, posicion + 1);
+    }
+    const OrdenFecha orden = mapa_.orden;
+    if (fecha != SIN_COLUMNA) {
+      esquema.fecha = [=](const CamposLinea &campos, FilaClima &fila) {
+        return LeerFechaTexto(campos[fecha], orden, fila) &&
+               (hora == SIN_COLUMNA || LeerHoraTexto(campos[hora], fila));
+      };
+    } else if (mes != SIN_COLUMNA && dia != SIN_COLUMNA && hora != SIN_COLUMNA) {
+      esquema.fecha = [=](const CamposLinea &campos, FilaClima &fila) {
+        const auto entero = [&](std::size_t i) {
+          return i == SIN_COLUMNA ? 0 : LeerEntero(campos[i]).value_or(-1);
+        };
+        fila.anio = entero(anio);
+        fila.mes = entero(mes);
+        fila.dia = entero(dia);
+        return LeerHoraTexto(campos[hora], fila);
+      };
+    } else {
+      NumerarPorOrden(esquema);
+    }
+  }
+
+  void NumerarPorOrden(EsquemaFilas &esquema) const {
+    esquema.fecha = [posicion = 0](const CamposLinea &, FilaClima &fila) mutable {
+      FechaDePosicion(posicion++ % HORAS_DEL_ANIO, fila.mes, fila.dia, fila.hora);
+      return true;
+    };
+  }
+
+  Lineas lineas_;
+  const MapaColumnas &mapa_;
+  AnioCanonico &anio_;
+  Cuaderno &cuaderno_;
+  CamposLinea rotulos_;
+};
+
+} // namespace
+
+void LeerDelimitado(std::string_view texto, const MapaColumnas &mapa, AnioCanonico &anio,
+                    Cuaderno &cuaderno) {
+  LectorDelimitado(texto, mapa, anio, cuaderno).Leer();
+}
+
+} // namespace tesmo

@@ -1,0 +1,210 @@
+#include "intercambio/formatos/Montaje.h"
+
+#include "core/Calendario.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace tesmo {
+
+namespace {
+
+constexpr std::size_t HORAS = static_cast<std::size_t>(HORAS_DEL_ANIO);
+
+bool EsBisiesto(const FilaClima &fila) { return fila.mes == 2 && fila.dia == 29; }
+
+/// Lleva las filas a sus posiciones y apunta lo que no encaja.
+class Montador {
+public:
+  Montador(const std::vector<FilaClima> &filas, AnioCanonico &anio, Cuaderno &cuaderno)
+      : filas_(filas), anio_(anio), cuaderno_(cuaderno) {}
+
+  void Montar() {
+    DecidirEtiquetas();
+    RechazarBisiestos();
+    for (const FilaClima &fila : filas_) Colocar(fila);
+    ContarRegistros();
+    ComprobarVueltas();
+    AvisarDeFaltas();
+  }
+
+private:
+  void DecidirEtiquetas() {
+    const auto esCero = [](const FilaClima &fila) { return fila.hora == 0; };
+    const auto esVeinticuatro = [](const FilaClima &fila) { return fila.hora == HORAS_DEL_DIA; };
+    const bool hayCero = std::any_of(filas_.begin(), filas_.end(), esCero);
+    const bool hay24 = std::any_of(filas_.begin(), filas_.end(), esVeinticuatro);
+    // Si la primera etiqueta no es 0, los ceros son el final del día anterior.
+    deCeroA23_ = hayCero && !hay24 && filas_.front().hora == 0;
+    if (!deCeroA23_) return;
+    cuaderno_.Aviso({.clase = ClaseNota::Etiquetas,
+                     .linea = filas_.front().linea,
+                     .texto = "las horas van de 0 a 23: la 0 se toma como la hora 1 del día"});
+  }
+
+  void RechazarBisiestos() {
+    const auto primera = std::find_if(filas_.begin(), filas_.end(), EsBisiesto);
+    if (primera == filas_.end()) return;
+    const auto ultima = std::find_if(filas_.rbegin(), filas_.rend(), EsBisiesto);
+    bisiestos_ = static_cast<int>(std::count_if(filas_.begin(), filas_.end(), EsBisiesto));
+    cuaderno_.Error({.clase = ClaseNota::Bisiesto,
+                     .linea = primera->linea,
+                     .ultimaLinea = ultima->linea,
+                     .veces = bisiestos_,
+                     .texto = TextoLineas(primera->linea, ultima->linea) +
+                              ": son del 29 de febrero, y el año es de 365 días; quítelas del fichero"});
+  }
+
+  void Colocar(const FilaClima &fila) {
+    if (EsBisiesto(fila)) return;
+    const int posicion = Posicion(fila);
+    if (posicion < 0) return AvisarDeFecha(fila);
+    const auto i = static_cast<std::size_t>(posicion);
+    if (anio_.lineas[i] != 0) return RechazarRepetida(fila, posicion);
+    ComprobarOrden(fila, posicion);
+    anio_.lineas[i] = fila.linea;
+    anio_.anios[i] = fila.anio;
+    for (std::size_t c = 0; c < NUMERO_CAMPOS; ++c)
+      anio_.series[c].Poner(i, fila.valores[c], Procedencia::Copiada);
+  }
+
+  [[nodiscard]] int Posicion(const FilaClima &fila) const {
+    if (deCeroA23_) return PosicionEtiqueta(fila.mes, fila.dia, fila.hora + 1);
+    if (fila.hora > 0) return PosicionEtiqueta(fila.mes, fila.dia, fila.hora);
+    // El 0 del 1 de marzo cierra el 28 de febrero, y el del 1 de enero, el año.
+    const int primera = PosicionEtiqueta(fila.mes, fila.dia, 1);
+    return primera < 0 ? -1 : (primera + HORAS_DEL_ANIO - 1) % HORAS_DEL_ANIO;
+  }
+
+  void ComprobarOrden(const FilaClima &fila, int posicion) {
+    if (primeraPosicion_ < 0) primeraPosicion_ = posicion;
+    if (posicion < ultimaPosicion_) {
+      ++vueltas_;
+      lineaVuelta_ = fila.linea;
+      if (vueltas_ > 1) Desordenada(fila.linea);
+    }
+    ultimaPosicion_ = posicion;
+  }
+
+  void Desordenada(int linea) {
+    cuaderno_.Error(
+        {.clase = ClaseNota::FueraDeOrden,
+         .linea = linea,
+         .texto = "línea " + std::to_string(linea) +
+                  ": su fecha es anterior a la de la línea de antes; ordene el fichero por fechas"});
+  }
+
+  /// Una sola vuelta atrás vale si el año entero cabe en ella: de julio a junio, por ejemplo.
+  void ComprobarVueltas() {
+    if (vueltas_ == 0) return;
+    if (vueltas_ > 1 || ultimaPosicion_ >= primeraPosicion_) return Desordenada(lineaVuelta_);
+    cuaderno_.Aviso({.clase = ClaseNota::Etiquetas,
+                     .linea = filas_.front().linea,
+                     .texto = "el año empieza el " + TextoHora(primeraPosicion_) +
+                              " y da la vuelta en la línea " + std::to_string(lineaVuelta_) +
+                              "; se ha puesto de enero a diciembre"});
+  }
+
+  void RechazarRepetida(const FilaClima &fila, int posicion) {
+    const int anterior = anio_.lineas[static_cast<std::size_t>(posicion)];
+    cuaderno_.Error({.clase = ClaseNota::RegistroRepetido,
+                     .linea = fila.linea,
+                     .texto = "línea " + std::to_string(fila.linea) + ": repite la hora de la línea " +
+                              std::to_string(anterior) + " (" + TextoHora(posicion) +
+                              "); hace falta un solo registro por hora"});
+  }
+
+  void AvisarDeFecha(const FilaClima &fila) {
+    cuaderno_.Aviso({.clase = ClaseNota::Registro,
+                     .linea = fila.linea,
+                     .texto = "línea " + std::to_string(fila.linea) + ": no hay mes " +
+                              std::to_string(fila.mes) + ", día " + std::to_string(fila.dia) + ", hora " +
+                              std::to_string(fila.hora) + "; esa hora se da por no escrita"});
+  }
+
+  void ContarRegistros() {
+    const int registros = cuaderno_.Resultado().registros;
+    if (registros - bisiestos_ <= HORAS_DEL_ANIO) return;
+    cuaderno_.Error({.clase = ClaseNota::SobranRegistros,
+                     .linea = filas_.back().linea,
+                     .veces = registros - bisiestos_ - HORAS_DEL_ANIO,
+                     .texto = "hay " + std::to_string(registros) + " líneas de datos y un año tiene " +
+                              std::to_string(HORAS_DEL_ANIO) +
+                              " horas; deje un solo año con un registro por hora"});
+  }
+
+  void AvisarDeFaltas() {
+    for (std::size_t i = 0; i < HORAS; ++i) {
+      if (anio_.lineas[i] != 0) continue;
+      std::size_t fin = i;
+      while (fin < HORAS && anio_.lineas[fin] == 0) ++fin;
+      AvisarDeTramo(i, fin - 1);
+      i = fin;
+    }
+  }
+
+  void AvisarDeTramo(std::size_t primera, std::size_t ultima) {
+    const int antes = primera == 0 ? 0 : anio_.lineas[primera - 1];
+    const int despues = ultima + 1 == HORAS ? 0 : anio_.lineas[ultima + 1];
+    const int horas = static_cast<int>(ultima - primera + 1);
+    cuaderno_.Aviso({.clase = ClaseNota::FaltanRegistros,
+                     .linea = antes != 0 ? antes : despues,
+                     .ultimaLinea = despues != 0 ? despues : antes,
+                     .veces = horas,
+                     .texto = "faltan " + std::to_string(horas) + " registros, del " +
+                              TextoHora(static_cast<int>(primera)) + " al " +
+                              TextoHora(static_cast<int>(ultima)) +
+                              (antes != 0 ? ", tras la línea " + std::to_string(antes) : "")});
+  }
+
+  const std::vector<FilaClima> &filas_;
+  AnioCanonico &anio_;
+  Cuaderno &cuaderno_;
+  bool deCeroA23_ = false;
+  int bisiestos_ = 0;
+  int primeraPosicion_ = -1;
+  int ultimaPosicion_ = -1;
+  int vueltas_ = 0;
+  int lineaVuelta_ = 0;
+};
+
+} // namespace
+
+int PosicionEtiqueta(int mes, int dia, int hora) {
+  if (mes < 1 || mes > 12 || hora < 1 || hora > HORAS_DEL_DIA) return -1;
+  if (dia < 1 || dia > DIAS_DEL_MES[static_cast<std::size_t>(mes - 1)]) return -1;
+  return (DiaDelAnio(mes, dia) - 1) * HORAS_DEL_DIA + hora - 1;
+}
+
+void FechaDePosicion(int posicion, int &mes, int &dia, int &hora) {
+  const int diaDelAnio = posicion / HORAS_DEL_DIA; // desde 0
+  const auto *siguiente = std::upper_bound(DIAS_ANTES_DEL_MES.begin(), DIAS_ANTES_DEL_MES.end(), diaDelAnio);
+  mes = static_cast<int>(siguiente - DIAS_ANTES_DEL_MES.begin());
+  dia = diaDelAnio - *(siguiente - 1) + 1;
+  hora = posicion % HORAS_DEL_DIA + 1;
+}
+
+std::string TextoHora(int posicion) {
+  constexpr std::array<std::string_view, 12> MESES{"enero",      "febrero", "marzo",     "abril",
+                                                   "mayo",       "junio",   "julio",     "agosto",
+                                                   "septiembre", "octubre", "noviembre", "diciembre"};
+  int mes = 0;
+  int dia = 0;
+  int hora = 0;
+  FechaDePosicion(posicion, mes, dia, hora);
+  return std::to_string(dia) + " de " + std::string(MESES[static_cast<std::size_t>(mes - 1)]) +
+         " a la hora " + std::to_string(hora);
+}
+
+void MontarAnio(const std::vector<FilaClima> &filas, AnioCanonico &anio, Cuaderno &cuaderno) {
+  if (filas.empty()) {
+    cuaderno.Error({.clase = ClaseNota::FaltanRegistros,
+                    .texto = "no hay ninguna línea de datos que se entienda; compruebe que el fichero está "
+                             "entero y es del formato que dice"});
+    return;
+  }
+  Montador(filas, anio, cuaderno).Montar();
+}
+
+} // namespace tesmo

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "intercambio/formatos/Filas.h"
+
+#include <vector>
+
+namespace tesmo {
+
+/// Pone cada fila en su hora del año. Con horas de 0 a 23 cada etiqueta pasa a la siguiente; con horas de 1 a
+/// 24, un 0 es el 24 de la víspera. Errores: 29 de febrero, horas repetidas, desorden y más registros que
+/// horas. Un año que empieza en otro mes y da la vuelta una sola vez vale, con un aviso. De las horas sin
+/// fila se avisa con las líneas que las rodean.
+void MontarAnio(const std::vector<FilaClima> &filas, AnioCanonico &anio, Cuaderno &cuaderno);
+
+/// La posición de la etiqueta en el año, o −1 si la fecha no es del año de 365 días.
+[[nodiscard]] int PosicionEtiqueta(int mes, int dia, int hora);
+/// La etiqueta (mes, día y hora 1 a 24) de una posición del año, 0 a 8759.
+void FechaDePosicion(int posicion, int &mes, int &dia, int &hora);
+/// «3 de mayo a la hora 14» de una posición del año.
+[[nodiscard]] std::string TextoHora(int posicion);
+
+} // namespace tesmo
