@@ -1,9 +1,11 @@
 #include "app/Carga.h"
 
+#include "app/Accion.h"
 #include "app/Programa.h"
 #include "app/Seleccion.h"
 #include "core/Mensajes.h"
 #include "core/Rutas.h"
+#include "core/Varios.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
 #include "psicro/Psicrometrico.h"
@@ -34,10 +36,10 @@ std::array<Casilla, 3> Casillas(const Seleccion::Superficie &superficie) {
 }
 
 /// Se mira el texto, antes de cargar nada; la primera casilla vacía se dice.
-bool HayCasillaVacia(const Seleccion::Superficie &superficie) {
+bool HayCasillaVacia(const Programa &programa, const Seleccion::Superficie &superficie) {
   for (const Casilla &casilla : Casillas(superficie)) {
     if (!casilla.texto.empty()) continue;
-    DameMensajes().Mensaje(MENSAJE_CASILLA_VACIA, casilla.rotulo);
+    DecirUnaVez(programa, MENSAJE_CASILLA_VACIA, casilla.rotulo);
     return true;
   }
   return false;
@@ -45,22 +47,38 @@ bool HayCasillaVacia(const Seleccion::Superficie &superficie) {
 
 ResultadoCarga FicheroNoAbierto(Programa &programa, const std::string &nombre) {
   programa.PonLocalidadCargada({});
-  DameMensajes().Mensaje(MENSAJE_FICHERO_METEO, nombre);
+  DecirUnaVez(programa, MENSAJE_FICHERO_METEO, nombre);
   return ResultadoCarga::FicheroNoAbierto;
 }
 
-ResultadoCarga SinLocalidad() {
-  DameMensajes().Mensaje(MENSAJE_FICHERO_METEO, SIN_LOCALIDAD);
+ResultadoCarga SinLocalidad(const Programa &programa) {
+  DecirUnaVez(programa, MENSAJE_FICHERO_METEO, SIN_LOCALIDAD);
   return ResultadoCarga::SinLocalidad;
+}
+
+bool EsNumero(std::string texto) {
+  AjustarSeparador(texto);
+  return TextoAReal(texto).has_value();
+}
+
+/// La entrada validada dice lo que está fuera de límites y calla lo que no es un número: eso se dice aquí. En
+/// los dos casos se sigue con el valor por defecto.
+void PonSuperficie(Programa &programa, const Seleccion::Superficie &superficie) {
+  const std::array<std::string, 3> textos{superficie.inclinacion, superficie.orientacion, superficie.albedo};
+  Accion *accion = programa.DameAccion();
+  if (accion != nullptr && accion->superficie == textos) return;
+  if (accion != nullptr) accion->superficie = textos;
+  for (const Casilla &casilla : Casillas(superficie)) {
+    if (!EsNumero(casilla.texto)) DecirUnaVez(programa, MENSAJE_VALOR_INCORRECTO, casilla.rotulo);
+    programa.DameLeerMet()->PonTexto(casilla.rotulo, casilla.texto);
+  }
 }
 
 /// Superficie, período y presión de la selección, con los datos ya cargados.
 void Aplicar(Programa &programa, const Seleccion &seleccion) {
-  LeerMet &meteo = *programa.DameLeerMet();
-  for (const Casilla &casilla : Casillas(seleccion.DameSuperficie()))
-    meteo.PonTexto(casilla.rotulo, casilla.texto);
+  PonSuperficie(programa, seleccion.DameSuperficie());
   const auto &[inicio, fin] = seleccion.DamePeriodo();
-  meteo.PonPeriodo(inicio.mes, inicio.dia, inicio.hora, fin.mes, fin.dia, fin.hora);
+  programa.DameLeerMet()->PonPeriodo(inicio.mes, inicio.dia, inicio.hora, fin.mes, fin.dia, fin.hora);
   if (programa.DamePsicro() != nullptr) programa.DamePsicro()->ponAltitud(AltitudEnUso(programa, seleccion));
 }
 
@@ -78,8 +96,8 @@ ResultadoCarga Leer(Programa &programa, const Seleccion &seleccion, const std::s
 } // namespace
 
 ResultadoCarga CargarLocalidad(Programa &programa, const Seleccion &seleccion) {
-  if (!seleccion.HayLocalidad()) return SinLocalidad();
-  if (HayCasillaVacia(seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
+  if (!seleccion.HayLocalidad()) return SinLocalidad(programa);
+  if (HayCasillaVacia(programa, seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
   const std::string &localidad = seleccion.DameLocalidad();
   BaseDeLocalidades &base = *programa.DameLocalidades();
   base.PonTexto("Ciudad", localidad);
@@ -91,16 +109,16 @@ ResultadoCarga CargarLocalidad(Programa &programa, const Seleccion &seleccion) {
 
 ResultadoCarga CargarFichero(Programa &programa, const Seleccion &seleccion, const std::string &ruta,
                              const std::string &nombre) {
-  if (HayCasillaVacia(seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
+  if (HayCasillaVacia(programa, seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
   return Leer(programa, seleccion, ruta, nombre);
 }
 
 ResultadoCarga PrepararDatos(Programa &programa, const Seleccion &seleccion) {
-  if (!seleccion.HayLocalidad()) return SinLocalidad();
+  if (!seleccion.HayLocalidad()) return SinLocalidad(programa);
   if (programa.DameLocalidadCargada() != seleccion.DameLocalidad()) {
     const ResultadoCarga resultado = CargarLocalidad(programa, seleccion);
     if (resultado != ResultadoCarga::Cargada) return resultado;
-  } else if (HayCasillaVacia(seleccion.DameSuperficie())) {
+  } else if (HayCasillaVacia(programa, seleccion.DameSuperficie())) {
     return ResultadoCarga::CasillaVacia;
   } else {
     Aplicar(programa, seleccion);

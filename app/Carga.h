@@ -15,7 +15,9 @@ enum class ResultadoCarga {
   CasillaVacia,     ///< falta un texto de la superficie: mensaje 58 con su rótulo; nada cambia
 };
 
-/// Camino de carga: localidad → fichero → LeerMet → superficie y período → presión por la altitud. La base de
+/// Camino de carga. De la superficie, una casilla que no es un número da el mensaje 62 con su rótulo, y una
+/// fuera de límites la caja de la entrada validada; las dos siguen con el valor por defecto.
+/// Pasos: localidad → fichero → LeerMet → superficie y período → presión por la altitud. La base de
 /// localidades queda con la localidad como "Ciudad". No deriva: las derivadas se hacen al pedirlas
 /// (PrepararDatos o LeerMet::AsegurarDerivadas).
 ResultadoCarga CargarLocalidad(Programa &programa, const Seleccion &seleccion);

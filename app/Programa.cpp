@@ -17,6 +17,7 @@ struct Programa::Motores {
   std::shared_ptr<LeerMet> leerMet;
   std::shared_ptr<Psicro> psicro;
   std::string localidadCargada;
+  Accion *accion = nullptr;
 
   Motores() = default;
   Motores(const Motores &) = delete;
@@ -80,5 +81,8 @@ void Programa::DestruirMotores() { motores_->Destruir(); }
 bool Programa::HayDatos() const { return !motores_->localidadCargada.empty(); }
 const std::string &Programa::DameLocalidadCargada() const { return motores_->localidadCargada; }
 void Programa::PonLocalidadCargada(const std::string &localidad) { motores_->localidadCargada = localidad; }
+
+Accion *Programa::DameAccion() const { return motores_->accion; }
+void Programa::PonAccion(Accion *accion) { motores_->accion = accion; }
 
 } // namespace tesmo

@@ -8,6 +8,7 @@
 
 namespace tesmo {
 
+class Accion;
 class BaseDeLocalidades;
 class DiasExtremos;
 class LeerMet;
@@ -54,6 +55,10 @@ public:
   [[nodiscard]] const std::string &DameLocalidadCargada() const;
   /// La anota el camino de carga (app/Carga.h); vacía: no hay datos.
   void PonLocalidadCargada(const std::string &localidad);
+
+  /// Acción del usuario en curso, que ella misma anota y borra (app/Accion.h); nula si no hay ninguna.
+  [[nodiscard]] Accion *DameAccion() const;
+  void PonAccion(Accion *accion);
 
 private:
   struct Motores;

@@ -1,5 +1,6 @@
 #include "app/Vistaprograma.h"
 
+#include "app/Accion.h"
 #include "app/Carga.h"
 #include "app/Ventanaprogramas.h"
 #include "localidades/Ciudad.h"
@@ -90,6 +91,7 @@ void VistaPrograma::CambiarProvincia() {
 
 void VistaPrograma::CambiarLocalidad() {
   const CursorOcupado ocupado;
+  const Accion accion(*this);
   seleccion_.PonLocalidad(formulario_->DamePanel().Localidad());
   vistaDiasExtremos_->cbLocalidadesChange();
   PonTitulo();
@@ -117,6 +119,7 @@ void VistaPrograma::CambiarPeriodo() {
 
 void VistaPrograma::Actualizar() {
   const CursorOcupado ocupado;
+  const Accion accion(*this);
   vistaEntorno_->leerPeriodo();
   if (Cargar()) Visualizar();
 }

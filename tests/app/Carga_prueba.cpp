@@ -1,5 +1,6 @@
 #include "app/Carga.h"
 
+#include "app/Accion.h"
 #include "app/Programa.h"
 #include "app/Seleccion.h"
 #include "core/Rutas.h"
@@ -187,6 +188,68 @@ TEST_F(CaminoDeCarga, ValorFueraDeLimitesTomaElDeFabricaYSeDice) {
   EXPECT_EQ(programa_->DameLeerMet()->Superficie().inclinacion, 90.0F);
   ASSERT_EQ(mensajes_.apuntes.size(), 1U);
   EXPECT_EQ(mensajes_.apuntes[0].texto, "200.000000 > 180.000000 (máximo), valor por defecto: 90.000000");
+}
+
+TEST_F(CaminoDeCarga, LoQueNoEsUnNumeroMensaje62ConSuRotuloYSigueConElDeFabrica) {
+  const std::pair<Seleccion::Superficie, const char *> casos[] = {{{"noventa", "0", "0.2"}, "Inclinación"},
+                                                                  {{"90", "1,2,3", "0.2"}, "Orientación"},
+                                                                  {{"90", "0", " "}, "Albedo"}};
+  Elegir("Rota");
+  for (const auto &[superficie, rotulo] : casos) {
+    seleccion_.PonSuperficie(superficie);
+    mensajes_.apuntes.clear();
+    EXPECT_EQ(PrepararDatos(*programa_, seleccion_), ResultadoCarga::Cargada);
+    ASSERT_EQ(mensajes_.apuntes.size(), 1U) << rotulo;
+    EXPECT_EQ(mensajes_.apuntes[0].texto,
+              std::string("La casilla \"") + rotulo + "\" contiene un valor incorrecto.\n ");
+    EXPECT_EQ(mensajes_.apuntes[0].titulo, "Información");
+    const auto &puesta = programa_->DameLeerMet()->Superficie();
+    EXPECT_EQ(puesta.inclinacion, 90.0F);
+    EXPECT_EQ(puesta.orientacion, 0.0F);
+    EXPECT_EQ(puesta.albedo, 0.2F);
+  }
+}
+
+TEST_F(CaminoDeCarga, LosDosSeparadoresSonNumeros) {
+  Elegir("Rota");
+  for (const char separador : {'.', ','}) {
+    const prueba::ConSeparador region(separador);
+    seleccion_.PonSuperficie({"30.5", "-12,25", "0,3"});
+    EXPECT_EQ(PrepararDatos(*programa_, seleccion_), ResultadoCarga::Cargada);
+    EXPECT_EQ(programa_->DameLeerMet()->Superficie().inclinacion, 30.5F);
+    EXPECT_EQ(programa_->DameLeerMet()->Superficie().orientacion, -12.25F);
+  }
+  EXPECT_TRUE(mensajes_.apuntes.empty());
+}
+
+TEST_F(CaminoDeCarga, EnUnaAccionCadaMensajeSeDiceUnaVezYEnLaSiguienteOtra) {
+  Elegir("Rota");
+  for (const Seleccion::Superficie &mala :
+       {Seleccion::Superficie{"", "0", "0.2"}, {"x", "0", "0.2"}, {"200", "0", "0.2"}}) {
+    seleccion_.PonSuperficie(mala);
+    for (int vez = 1; vez <= 2; ++vez) {
+      mensajes_.apuntes.clear();
+      const Accion accion(*programa_);
+      CargarLocalidad(*programa_, seleccion_);
+      {
+        const Accion dentro(*programa_);
+        PrepararDatos(*programa_, seleccion_);
+      }
+      PrepararDatos(*programa_, seleccion_);
+      EXPECT_EQ(mensajes_.apuntes.size(), 1U) << mala.inclinacion << " vez " << vez;
+    }
+  }
+  EXPECT_EQ(programa_->DameAccion(), nullptr);
+}
+
+TEST_F(CaminoDeCarga, UnaSuperficieCorregidaDentroDeLaAccionSeEntrega) {
+  Elegir("Rota");
+  const Accion accion(*programa_);
+  seleccion_.PonSuperficie({"200", "0", "0.2"});
+  PrepararDatos(*programa_, seleccion_);
+  seleccion_.PonSuperficie({"45", "0", "0.2"});
+  PrepararDatos(*programa_, seleccion_);
+  EXPECT_EQ(programa_->DameLeerMet()->Superficie().inclinacion, 45.0F);
 }
 
 TEST_F(CaminoDeCarga, PrepararCargaYDejaAlDiaLasDerivadas) {
