@@ -3,9 +3,11 @@
 #include "app/Vistaprograma.h"
 #include "vistas/Paginadiasextremos.h"
 #include "vistas/Paginaentorno.h"
+#include "vistas/Paginaexportacion.h"
 #include "vistas/Paginapsicrometrico.h"
 #include "vistas/Paginaresultadosextremos.h"
 #include "vistas/Panelseleccion.h"
+#include "vistas/Vistaexportacion.h"
 
 #include <QCloseEvent>
 #include <QTabWidget>
@@ -28,6 +30,8 @@ TforProgramas::TforProgramas(VistaPrograma &controlador, QWidget *padre)
   EnsenarResultados(false);
   paginaPsicrometrico_ = new PaginaPsicrometrico;
   pcProgramas_->addTab(paginaPsicrometrico_, tr("Psicrométrico  "));
+  paginaExportacion_ = new PaginaExportacion;
+  pcProgramas_->addTab(paginaExportacion_, tr("Archivos horarios  "));
   panel_ = new PanelSeleccion(this);
   auto *disposicion = new QVBoxLayout(this);
   disposicion->setContentsMargins(0, 0, 0, 0);
@@ -51,6 +55,11 @@ void TforProgramas::Conectar() {
   connect(paginaResultados_, &PaginaResultadosExtremos::CheckListBox1ClickCheck, this,
           &TforProgramas::CheckListBox1ClickCheck);
   connect(paginaResultados_, &PaginaResultadosExtremos::Button1Click, this, &TforProgramas::Button1Click);
+  connect(paginaExportacion_, &PaginaExportacion::escribirPedido, this, &TforProgramas::btnEscribirClick);
+  connect(paginaExportacion_, &PaginaExportacion::subirPedido, this, &TforProgramas::btnSubirClick);
+  connect(paginaExportacion_, &PaginaExportacion::bajarPedido, this, &TforProgramas::btnBajarClick);
+  connect(paginaExportacion_, &PaginaExportacion::casillaCambiada, this,
+          &TforProgramas::casillaExportacionClick);
 }
 
 void TforProgramas::cbProvinciasChange() { controlador_.CambiarProvincia(); }
@@ -66,6 +75,12 @@ void TforProgramas::CheckListBox1ClickCheck() { controlador_.ElegirMagnitudesExt
 void TforProgramas::Button1Click() { controlador_.VisualizarFicherosExtremos(); }
 
 QString TforProgramas::PestanaDelante() const { return pcProgramas_->currentWidget()->objectName(); }
+void TforProgramas::btnEscribirClick() { controlador_.EscribirArchivoHorario(); }
+void TforProgramas::btnSubirClick() { controlador_.DameVistaExportacion().btnSubirClick(); }
+void TforProgramas::btnBajarClick() { controlador_.DameVistaExportacion().btnBajarClick(); }
+void TforProgramas::casillaExportacionClick(const QString &rotulo, bool puesta) {
+  controlador_.DameVistaExportacion().casillaClick(rotulo, puesta);
+}
 
 void TforProgramas::EnsenarResultados(bool ensenar) {
   const int sitio = pcProgramas_->indexOf(paginaResultados_);

@@ -8,6 +8,7 @@ namespace tesmo {
 
 class PaginaDiasExtremos;
 class PaginaEntorno;
+class PaginaExportacion;
 class PaginaResultadosExtremos;
 class PaginaPsicrometrico;
 class PanelSeleccion;
@@ -27,6 +28,7 @@ public:
   [[nodiscard]] PaginaDiasExtremos &DamePaginaDiasExtremos() const { return *paginaDiasExtremos_; }
   [[nodiscard]] PaginaResultadosExtremos &DamePaginaResultados() const { return *paginaResultados_; }
   [[nodiscard]] PaginaPsicrometrico &DamePaginaPsicrometrico() const { return *paginaPsicrometrico_; }
+  [[nodiscard]] PaginaExportacion &DamePaginaExportacion() const { return *paginaExportacion_; }
   [[nodiscard]] PanelSeleccion &DamePanel() const { return *panel_; }
 
   /// Nombre de la página que está delante ("tsDatosGenerales"…).
@@ -42,6 +44,10 @@ public:
   void btnCalDiaExtClick();
   void CheckListBox1ClickCheck();
   void Button1Click();
+  void btnEscribirClick();
+  void btnSubirClick();
+  void btnBajarClick();
+  void casillaExportacionClick(const QString &rotulo, bool puesta);
   /// Pone la pestaña de resultados de los días extremos a la vista y delante, o la esconde.
   void EnsenarResultados(bool ensenar);
 
@@ -63,6 +69,7 @@ private:
   PaginaDiasExtremos *paginaDiasExtremos_ = nullptr;
   PaginaResultadosExtremos *paginaResultados_ = nullptr;
   PaginaPsicrometrico *paginaPsicrometrico_ = nullptr;
+  PaginaExportacion *paginaExportacion_ = nullptr;
   PanelSeleccion *panel_ = nullptr;
 };
 

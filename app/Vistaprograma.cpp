@@ -14,6 +14,7 @@
 #include "vistas/Textoqt.h"
 #include "vistas/Vistadiasextremos.h"
 #include "vistas/Vistaentorno.h"
+#include "vistas/Vistaexportacion.h"
 #include "vistas/Vistapsicrometrico.h"
 
 namespace tesmo {
@@ -25,7 +26,10 @@ VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
                                                    *this, seleccion_, DameTablaDeColores())),
       vistaPsicrometrico_(std::make_unique<Vistapsicrometrico>(formulario_->DamePaginaPsicrometrico(),
                                                                formulario_->DamePanel(), *this, seleccion_,
-                                                               [this] { CambiarAltitud(); })) {
+                                                               [this] { CambiarAltitud(); })),
+      vistaExportacion_(std::make_unique<VistaExportacion>(formulario_->DamePaginaExportacion(),
+                                                           formulario_->DamePanel(), *this, seleccion_,
+                                                           [this](const QString &texto) { Decir(texto); })) {
   AsociarVista(this);
 }
 
@@ -48,6 +52,7 @@ VistaPrograma::~VistaPrograma() {
   vistaDiasExtremos_.reset();
   vistaEntorno_.reset();
   vistaPsicrometrico_.reset();
+  vistaExportacion_.reset();
   delete formulario_;
   DestruirMotores();
 }
@@ -145,6 +150,8 @@ void VistaPrograma::VisualizarFicherosExtremos() { vistaDiasExtremos_->Button1Cl
 void VistaPrograma::CambiarAltitud() {
   if (vistaEntorno_->HaySeries()) Visualizar();
 }
+
+void VistaPrograma::EscribirArchivoHorario() { vistaExportacion_->btnEscribirClick(); }
 
 void VistaPrograma::ObjetoCambiado(const ObjetoBase &) {
   if (formulario_) formulario_->update();

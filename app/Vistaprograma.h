@@ -14,6 +14,7 @@ namespace tesmo {
 class TforProgramas;
 class VistaDiasExtremos;
 class Vistaentorno;
+class VistaExportacion;
 class Vistapsicrometrico;
 
 /// Controlador de una ventana de trabajo: tiene una copia de su programa, la selección, el formulario y las
@@ -31,6 +32,7 @@ public:
   [[nodiscard]] TforProgramas &DameFormulario() const { return *formulario_; }
   [[nodiscard]] const Seleccion &DameSeleccion() const { return seleccion_; }
   [[nodiscard]] Vistapsicrometrico &DameVistaPsicrometrico() const { return *vistaPsicrometrico_; }
+  [[nodiscard]] VistaExportacion &DameVistaExportacion() const { return *vistaExportacion_; }
   /// "Localidad-Provincia", o el nombre de la ventana si no hay localidad.
   [[nodiscard]] std::string Titulo() const;
 
@@ -47,6 +49,8 @@ public:
   void CambiarAltitud();
   /// Toma los colores de la tabla compartida.
   void AplicarColores();
+  /// Pone al día la vista de la posición solar y escribe el fichero horario.
+  void EscribirArchivoHorario();
   void PonTitulo();
 
   /// Un motor cambió: el formulario se repinta.
@@ -65,6 +69,7 @@ private:
   std::unique_ptr<VistaDiasExtremos> vistaDiasExtremos_;
   std::unique_ptr<Vistaentorno> vistaEntorno_;
   std::unique_ptr<Vistapsicrometrico> vistaPsicrometrico_;
+  std::unique_ptr<VistaExportacion> vistaExportacion_;
 };
 
 } // namespace tesmo

@@ -48,4 +48,11 @@ struct EncabezamientoExportacion {
                                            const std::vector<ColumnaExportacion> &columnas, FechaHora inicio,
                                            std::size_t horas);
 
+/// Líneas de ese texto.
+[[nodiscard]] constexpr std::size_t LineasDeExportacion(bool cabecera, std::size_t horas) {
+  constexpr std::size_t LINEAS_DE_LA_LOCALIDAD = 2;
+  constexpr std::size_t LINEAS_DE_SUPERFICIE_Y_NOMBRES = 2;
+  return (cabecera ? LINEAS_DE_LA_LOCALIDAD : 0) + LINEAS_DE_SUPERFICIE_Y_NOMBRES + horas;
+}
+
 } // namespace tesmo

@@ -157,6 +157,13 @@ inline constexpr std::array<FichaMagnitud, NUMERO_MAGNITUDES> MAGNITUDES{{
    "0.0000", "w", "cbHumAbs", "", "", 0, "", ""},
 }};
 
+/// Orden de las casillas del visor, de los colores y de las estadísticas: el de la tabla.
+inline constexpr auto ORDEN_DEL_VISOR = [] {
+  std::array<Magnitud, NUMERO_MAGNITUDES_VISOR> orden{};
+  for (std::size_t i = 0; i < orden.size(); ++i) orden[i] = MAGNITUDES[i].magnitud;
+  return orden;
+}();
+
 /// Orden en que se comparan los rótulos al pedir una serie.
 inline constexpr std::array<Magnitud, NUMERO_MAGNITUDES> ORDEN_DE_SERIES{
   Magnitud::TS, Magnitud::RSDr, Magnitud::RSDf, Magnitud::HAkg, Magnitud::HA, Magnitud::HR, Magnitud::VV, Magnitud::DV,

@@ -2,12 +2,9 @@
 
 #include "core/Ficheros.h"
 #include "core/Mensajes.h"
-#include "core/Rutas.h"
-#include "vistas/Textoqt.h"
+#include "vistas/Dialogoguardar.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QPdfWriter>
 #include <QSvgGenerator>
@@ -37,21 +34,6 @@ void PintarSvg(QIODevice &destino, const QSize &tamano, const QString &titulo, c
   generador.setViewBox(QRect(QPoint(), tamano));
   generador.setTitle(titulo);
   pintar(generador);
-}
-
-/// Directorio de la última imagen guardada, de todos los dibujos.
-QString &UltimoDirectorio() {
-  static QString ultimo;
-  return ultimo;
-}
-
-/// Donde se guardó la última vez o, si ya no está, el de resultados o el personal.
-QString DirectorioParaGuardar() {
-  const QString resultados = Texto(DameConfiguracion().RutaResultados(""));
-  for (const QString &directorio : {UltimoDirectorio(), resultados}) {
-    if (!directorio.isEmpty() && QDir(directorio).exists()) return directorio;
-  }
-  return QDir::homePath();
 }
 
 QString Filtro(const QString &extension) {
@@ -112,28 +94,15 @@ bool EscribirBytes(const QString &ruta, const QByteArray &bytes) {
 
 void PedirGuardarDibujo(QWidget &padre, const QObject &contexto, const QString &nombre,
                         const QStringList &extensiones, std::function<bool(const QString &)> guardar) {
-  auto *dialogo = new QFileDialog(&padre, QObject::tr("Guardar imagen"));
-  dialogo->setObjectName(nombre);
-  dialogo->setAttribute(Qt::WA_DeleteOnClose);
-  dialogo->setOption(QFileDialog::DontUseNativeDialog);
-  dialogo->setDirectory(DirectorioParaGuardar());
-  dialogo->setAcceptMode(QFileDialog::AcceptSave);
-  dialogo->setDefaultSuffix(extensiones.first());
   QStringList filtros;
   for (const QString &extension : extensiones) filtros << Filtro(extension);
-  dialogo->setNameFilters(filtros);
-  QObject::connect(dialogo, &QFileDialog::filterSelected, dialogo, [dialogo](const QString &filtro) {
-    dialogo->setDefaultSuffix(filtro.mid(filtro.indexOf(QLatin1String("*.")) + 2).chopped(1));
-  });
-  QObject::connect(dialogo, &QFileDialog::fileSelected, &contexto,
-                   [guardar = std::move(guardar)](const QString &ruta) {
-                     if (guardar(ruta)) {
-                       UltimoDirectorio() = QFileInfo(ruta).absolutePath();
-                     } else {
-                       DameMensajes().Mensaje(MENSAJE_FICHERO_RESULTADO, ruta.toStdString());
-                     }
-                   });
-  dialogo->open();
+  PedirGuardar(padre, contexto,
+               {nombre, QObject::tr("Guardar imagen"), QStringLiteral("imágenes"), QString(), filtros},
+               [guardar = std::move(guardar)](const QString &ruta) {
+                 const bool guardado = guardar(ruta);
+                 if (!guardado) DameMensajes().Mensaje(MENSAJE_FICHERO_RESULTADO, ruta.toStdString());
+                 return guardado;
+               });
 }
 
 } // namespace tesmo

@@ -1,6 +1,7 @@
 #include "vistas/Paginaentorno.h"
 
 #include "vistas/Grafico.h"
+#include "vistas/Gruposmagnitud.h"
 #include "vistas/Textoqt.h"
 
 #include <QCheckBox>
@@ -30,17 +31,6 @@ QPixmap Muestra(const QColor &color, double densidad) {
   return muestra;
 }
 
-QString NombreDeGrupo(GrupoMagnitud grupo) {
-  switch (grupo) {
-  case GrupoMagnitud::Basicas:
-    return QStringLiteral("gbBasicas");
-  case GrupoMagnitud::Psicrometricas:
-    return QStringLiteral("gbPsicrometricas");
-  default:
-    return QStringLiteral("gbRadiacion");
-  }
-}
-
 } // namespace
 
 PaginaEntorno::PaginaEntorno(QWidget *padre) : QWidget(padre) {
@@ -59,10 +49,9 @@ QWidget *PaginaEntorno::CrearColumna() {
   auto *pila = new QVBoxLayout(grupos);
   pila->setContentsMargins(0, 0, 0, 0);
   pila->setSpacing(2);
-  for (const GrupoMagnitud grupo :
-       {GrupoMagnitud::Basicas, GrupoMagnitud::Psicrometricas, GrupoMagnitud::Radiacion}) {
-    pila->addWidget(CrearGrupo(grupo));
-  }
+  const auto crear = [this](const FichaMagnitud &ficha) { return CrearCasilla(ficha); };
+  for (const GrupoMagnitud grupo : GRUPOS)
+    pila->addWidget(CrearGrupoMagnitudes(grupo, {}, ORDEN_DEL_VISOR, crear));
   pila->addStretch(1);
   auto *desplazable = new QScrollArea;
   desplazable->setFrameShape(QFrame::NoFrame);
@@ -90,20 +79,8 @@ QWidget *PaginaEntorno::CrearColumna() {
   return columna;
 }
 
-QWidget *PaginaEntorno::CrearGrupo(GrupoMagnitud grupo) {
-  auto *caja = new QGroupBox(Texto(ROTULOS_DE_GRUPO.at(static_cast<std::size_t>(grupo))));
-  caja->setObjectName(NombreDeGrupo(grupo));
-  auto *pila = new QVBoxLayout(caja);
-  pila->setContentsMargins(6, 2, 6, 2);
-  pila->setSpacing(0);
-  for (std::size_t i = 0; i < NUMERO_MAGNITUDES_VISOR; ++i) {
-    if (MAGNITUDES[i].grupo == grupo) pila->addWidget(CrearCasilla(static_cast<int>(i)));
-  }
-  return caja;
-}
-
-QCheckBox *PaginaEntorno::CrearCasilla(int i) {
-  const FichaMagnitud &ficha = MAGNITUDES[static_cast<std::size_t>(i)];
+QCheckBox *PaginaEntorno::CrearCasilla(const FichaMagnitud &ficha) {
+  const auto i = static_cast<int>(ficha.magnitud);
   auto *casilla = new QCheckBox(Texto(ficha.rotulo));
   casilla->setObjectName(QStringLiteral("cb") + Texto(ficha.codigo));
   casilla->setContextMenuPolicy(Qt::CustomContextMenu);

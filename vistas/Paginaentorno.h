@@ -38,8 +38,7 @@ signals:
 
 private:
   QWidget *CrearColumna();
-  QWidget *CrearGrupo(GrupoMagnitud grupo);
-  QCheckBox *CrearCasilla(int i);
+  QCheckBox *CrearCasilla(const FichaMagnitud &ficha);
   QPushButton *CrearBoton(const QString &nombre, const QString &texto, const QString &ayuda);
   void EnsenarMenu(int i, const QPoint &donde);
 

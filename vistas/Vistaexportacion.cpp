@@ -1,0 +1,81 @@
+#include "vistas/Vistaexportacion.h"
+
+#include "app/Carga.h"
+#include "app/Programa.h"
+#include "app/Seleccion.h"
+#include "meteo/Leermet.h"
+#include "vistas/Cursorocupado.h"
+#include "vistas/Dialogoguardar.h"
+#include "vistas/Paginaexportacion.h"
+#include "vistas/Panelseleccion.h"
+#include "vistas/Textoqt.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+#include <utility>
+
+namespace tesmo {
+
+VistaExportacion::VistaExportacion(PaginaExportacion &pagina, PanelSeleccion &panel, Programa &programa,
+                                   Seleccion &seleccion, std::function<void(const QString &)> decir)
+    : pagina_(pagina), panel_(panel), programa_(programa), seleccion_(seleccion), decir_(std::move(decir)) {}
+
+void VistaExportacion::casillaClick(const QString &rotulo, bool puesta) {
+  if (puesta) {
+    pagina_.Anadir(rotulo);
+  } else {
+    pagina_.Quitar(rotulo);
+  }
+}
+
+void VistaExportacion::btnSubirClick() { pagina_.Subir(); }
+
+void VistaExportacion::btnBajarClick() { pagina_.Bajar(); }
+
+/// El de la localidad, sin lo que un nombre de fichero no admite.
+QString VistaExportacion::NombrePropuesto() const {
+  if (!seleccion_.HayLocalidad()) return {};
+  static const QRegularExpression prohibidos(QStringLiteral(R"([/\\:*?"<>|])"));
+  return Texto(seleccion_.DameLocalidad()).replace(prohibidos, QStringLiteral("_")) + QStringLiteral(".met");
+}
+
+void VistaExportacion::btnEscribirClick() {
+  PedirGuardar(pagina_, avisos_,
+               {QStringLiteral("sdGuardarRes"),
+                QObject::tr("Escribir archivo horario"),
+                QStringLiteral("archivos horarios"),
+                NombrePropuesto(),
+                {QStringLiteral("Resultados meteorológicos(*.MET)")}},
+               [this](const QString &ruta) { return Escribir(ruta); });
+}
+
+bool VistaExportacion::Escribir(const QString &ruta) {
+  const CursorOcupado ocupado;
+  seleccion_.PonPeriodo(panel_.LeerPeriodo());
+  if (CargarLocalidad(programa_, seleccion_) != ResultadoCarga::Cargada) return false;
+  if (PrepararDatos(programa_, seleccion_) != ResultadoCarga::Cargada) return false;
+  LeerMet &datos = *programa_.DameLeerMet();
+  datos.PonTexto("Separador", pagina_.Separador());
+  datos.PonCabecera("Cabecera", pagina_.Cabecera());
+  const std::vector<std::string> rotulos = pagina_.Rotulos();
+  if (!datos.EscribirFichero(ruta.toStdString(), rotulos)) return false;
+  DecirEscrito(ruta, rotulos.size());
+  return true;
+}
+
+void VistaExportacion::DecirEscrito(const QString &ruta, std::size_t variables) const {
+  const LeerMet &datos = *programa_.DameLeerMet();
+  const auto horas = static_cast<std::size_t>(datos.HorasDelPeriodo());
+  QString texto = QObject::tr("%1: escritas %2 variables de %3 horas, %4 líneas, en %5")
+                      .arg(Texto(datos.Localidad()))
+                      .arg(variables)
+                      .arg(horas)
+                      .arg(LineasDeExportacion(datos.Cabecera(), horas))
+                      .arg(QDir::toNativeSeparators(ruta));
+  if (!datos.Resumen().Completa())
+    texto += QObject::tr(" (de la localidad sólo se pudieron leer %1 horas)").arg(datos.Resumen().registros);
+  decir_(texto);
+}
+
+} // namespace tesmo
