@@ -30,6 +30,8 @@ public:
   std::string_view RestoDeLinea(std::size_t maximo = std::string_view::npos);
   /// Línea del texto, desde 1, en que está el lector.
   [[nodiscard]] int Linea() const;
+  /// Bytes ya recorridos.
+  [[nodiscard]] std::size_t Posicion() const { return flujo_.Posicion(); }
   [[nodiscard]] bool Final() const { return flujo_.AlFinal(); }
 
 private:

@@ -11,7 +11,6 @@ namespace tesmo::extremos {
 
 namespace {
 
-constexpr int REGISTROS_MIRADOS = 177;
 constexpr int LINEAS_DE_UN_REGISTRO = 6;
 constexpr std::size_t COLA_DE_CABECERA = 200;
 constexpr std::string_view MARCA_UTF8 = "\xEF\xBB\xBF";
@@ -99,6 +98,7 @@ private:
   int linea_ = 0; ///< la de la cabecera
 };
 
+/// Salta lo que sigue a la clave de un registro.
 void SaltarRegistro(LectorNumeros &lector) {
   constexpr int NUMEROS_DE_CABECERA = 4;
   (void)lector.Palabra();
@@ -110,12 +110,28 @@ void SaltarRegistro(LectorNumeros &lector) {
 
 } // namespace
 
+std::vector<SitioRegistroGdr> SituarRegistrosGdr(std::string_view contenido) {
+  const std::size_t marca = contenido.starts_with(MARCA_UTF8) ? MARCA_UTF8.size() : 0;
+  const bool utf8 = EsUtf8(contenido.substr(marca));
+  std::vector<SitioRegistroGdr> sitios;
+  LectorNumeros lector(contenido.substr(marca));
+  for (std::string_view palabra = lector.Palabra(); !palabra.empty(); palabra = lector.Palabra()) {
+    SitioRegistroGdr sitio;
+    sitio.clave = utf8 ? std::string(palabra) : DesdeWindows1252(palabra);
+    sitio.inicio = marca + lector.Posicion() - palabra.size();
+    SaltarRegistro(lector);
+    sitio.fin = marca + lector.Posicion();
+    sitios.push_back(std::move(sitio));
+  }
+  return sitios;
+}
+
 LecturaGdr LeerRegistroGdr(std::string_view contenido, std::string_view clave, std::string_view fichero,
                            RegistroGdr &registro) {
   if (contenido.starts_with(MARCA_UTF8)) contenido.remove_prefix(MARCA_UTF8.size());
   const bool utf8 = EsUtf8(contenido);
   LectorNumeros lector(contenido);
-  for (int i = 0; i < REGISTROS_MIRADOS; ++i) {
+  for (int i = 0; i < REGISTROS_MIRADOS_GDR; ++i) {
     const std::string_view palabra = lector.Palabra();
     if (palabra.empty()) break;
     RegistroGdr leido;

@@ -2,9 +2,11 @@
 
 #include "extremos/Tipos.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tesmo::extremos {
 
@@ -30,6 +32,20 @@ enum class LecturaGdr {
   SinClave,   ///< ningún registro de los que se miran tiene esa clave
   Estropeado, ///< el registro está corto, o algo que no es un número o no tiene sentido ocupa su sitio
 };
+
+/// Registros de "GDR.TXT" que se miran: los que siguen no existen para los días extremos.
+inline constexpr int REGISTROS_MIRADOS_GDR = 177;
+
+/// Un registro y los bytes de sus líneas en el fichero.
+struct SitioRegistroGdr {
+  std::string clave;
+  std::size_t inicio = 0;
+  std::size_t fin = 0; ///< con el fin de su última línea
+};
+
+/// Dónde está cada registro de @p contenido, también los que pasan de los que se miran, con las reglas con
+/// que LeerRegistroGdr salta los ajenos.
+[[nodiscard]] std::vector<SitioRegistroGdr> SituarRegistrosGdr(std::string_view contenido);
 
 /// Busca en @p contenido (el fichero entero) el registro de clave exactamente @p clave (UTF-8), entre los 177
 /// primeros, y lo pone en @p registro. Para saltar un registro ajeno se leen su cabecera, hasta 200 bytes de

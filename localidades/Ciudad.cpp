@@ -71,6 +71,37 @@ const ObjetoCiudad *BaseDeLocalidades::BuscarLocalidad(std::string_view nombre) 
   return nullptr;
 }
 
+void BaseDeLocalidades::PonRegistro(const ObjetoCiudad &registro) {
+  const auto deSuNombre = [&](const auto &otro) { return otro->localidad == registro.localidad; };
+  const auto deSuProvincia = [&](const auto &otro) { return otro->provincia == registro.provincia; };
+  const auto anterior = std::find_if(registros_.begin(), registros_.end(), deSuNombre);
+  ObjetoCiudad *puesto = nullptr;
+  if (anterior != registros_.end() && deSuProvincia(*anterior)) {
+    puesto = anterior->get();
+    *puesto = registro;
+  } else {
+    if (anterior != registros_.end()) registros_.erase(anterior);
+    const auto ultimo = std::find_if(registros_.rbegin(), registros_.rend(), deSuProvincia);
+    const auto sitio = ultimo == registros_.rend() ? registros_.end() : ultimo.base();
+    puesto = registros_.insert(sitio, std::make_unique<ObjetoCiudad>(registro))->get();
+  }
+  cargada_ = true;
+  Avisar(*puesto);
+}
+
+std::shared_ptr<void> BaseDeLocalidades::AlCambiar(std::function<void(const ObjetoCiudad &)> aviso) {
+  auto guardado = std::make_shared<AvisoDeAlta>(std::move(aviso));
+  std::erase_if(avisos_, [](const auto &otro) { return otro.expired(); });
+  avisos_.push_back(guardado);
+  return guardado;
+}
+
+void BaseDeLocalidades::Avisar(const ObjetoCiudad &registro) const {
+  const auto avisos = avisos_; // quien recibe el aviso puede apuntarse o borrarse
+  for (const auto &debil : avisos)
+    if (const auto aviso = debil.lock()) (*aviso)(registro);
+}
+
 std::shared_ptr<BaseDeLocalidades> CompartirBaseDeLocalidades() {
   if (!Compartida()) Compartida() = std::make_shared<BaseDeLocalidades>();
   return Compartida();

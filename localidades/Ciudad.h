@@ -4,6 +4,7 @@
 #include "localidades/Lectorlocalidades.h"
 #include "localidades/Objetociudad.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -32,12 +33,22 @@ public:
   /// El primer registro de ese nombre exacto; nulo si no lo hay.
   [[nodiscard]] const ObjetoCiudad *BuscarLocalidad(std::string_view nombre) const;
   [[nodiscard]] const std::vector<std::unique_ptr<ObjetoCiudad>> &Registros() const { return registros_; }
+  /// Da de alta @p registro sin leer otra vez el fichero: sustituye al de su nombre si es de la
+  /// misma provincia; si no, va detrás del último de su provincia (al final si es nueva), que es donde lo
+  /// deja quien lo escribe en la lista. Los punteros a los demás registros siguen valiendo. Después avisa.
+  void PonRegistro(const ObjetoCiudad &registro);
+  /// @p aviso se llama tras cada PonRegistro, con el registro ya puesto, mientras viva lo que se devuelve.
+  [[nodiscard]] std::shared_ptr<void> AlCambiar(std::function<void(const ObjetoCiudad &)> aviso);
   /// ¿Se pudo leer el fichero?
   [[nodiscard]] bool Cargada() const { return cargada_; }
 
 private:
+  using AvisoDeAlta = std::function<void(const ObjetoCiudad &)>;
+  void Avisar(const ObjetoCiudad &registro) const;
+
   std::string actual_ = "Ninguno";
   std::vector<std::unique_ptr<ObjetoCiudad>> registros_;
+  std::vector<std::weak_ptr<AvisoDeAlta>> avisos_;
   bool cargada_ = false;
 };
 

@@ -1,7 +1,7 @@
 #include "localidades/Lectorlocalidades.h"
 
-#include "core/Codificacion.h"
 #include "core/Varios.h"
+#include "localidades/Lineaslocalidades.h"
 
 #include <algorithm>
 
@@ -9,57 +9,14 @@ namespace tesmo {
 
 namespace {
 
-constexpr std::size_t BYTES_LINEA = 299; ///< sin contar el fin de línea
-constexpr std::size_t BYTES_CAMPO = 49;
 constexpr int REPETICIONES_MAXIMAS = 10000; ///< una cuenta disparatada no llena la memoria
 constexpr std::size_t PRIMER_NUMERO = 6;    ///< posición del primer campo numérico
-constexpr std::string_view MARCA_UTF8 = "\xEF\xBB\xBF";
-
-/// Va dando las líneas del fichero en bytes, sin su fin de línea.
-class Lineas {
-public:
-  Lineas(std::string_view texto, bool utf8) : resto_(texto), utf8_(utf8) {}
-  [[nodiscard]] bool Quedan() const { return !resto_.empty(); }
-  [[nodiscard]] int Numero() const { return numero_; }
-  [[nodiscard]] bool Partida() const { return partida_; }
-
-  std::string_view Siguiente() {
-    if (!partida_) ++numero_;
-    // No se mira más allá de una línea con su CR LF: así el coste no depende de lo que quede por leer.
-    const std::string_view cerca = resto_.substr(0, BYTES_LINEA + 2);
-    const std::size_t fin = std::min(cerca.find('\n'), cerca.size());
-    std::string_view linea = cerca.substr(0, fin);
-    if (linea.ends_with('\r')) linea.remove_suffix(1);
-    partida_ = linea.size() > BYTES_LINEA;
-    if (partida_) linea = utf8_ ? RecortarUtf8(linea, BYTES_LINEA) : linea.substr(0, BYTES_LINEA);
-    resto_.remove_prefix(partida_ ? linea.size() : std::min(fin + 1, resto_.size()));
-    return linea.substr(0, linea.find('\0'));
-  }
-
-private:
-  std::string_view resto_;
-  bool utf8_; ///< una línea larga no se parte entonces en medio de un carácter
-  int numero_ = 0;
-  bool partida_ = false; ///< la última línea dada sigue en la próxima
-};
-
-/// Los trozos de una línea entre comas; tras cada coma se saltan los blancos y las tabulaciones.
-std::vector<std::string_view> Trocear(std::string_view linea) {
-  std::vector<std::string_view> trozos;
-  while (true) {
-    const std::size_t coma = linea.find(',');
-    trozos.push_back(linea.substr(0, coma));
-    if (coma == std::string_view::npos) return trozos;
-    linea.remove_prefix(coma + 1);
-    linea.remove_prefix(std::min(linea.find_first_not_of(" \t"), linea.size()));
-  }
-}
 
 /// Lee los bloques de un fichero y dice lo que encuentra mal en ellos.
 class Lector {
 public:
   Lector(std::string_view contenido, const std::string &fichero, const AvisoLocalidades &aviso)
-      : lineas_(contenido, EsUtf8(contenido)), utf8_(EsUtf8(contenido)), fichero_(fichero), aviso_(aviso) {}
+      : lineas_(contenido), fichero_(fichero), aviso_(aviso) {}
 
   std::vector<std::unique_ptr<ObjetoCiudad>> Leer() {
     while (lineas_.Quedan()) LeerBloque(LeerCuenta());
@@ -78,10 +35,7 @@ private:
 
   int LeerCuenta() {
     TomarLinea();
-    const std::string_view campo = Trocear(linea_).front();
-    const bool blanca = campo.find_first_not_of(" \t") == std::string_view::npos;
-    const std::size_t cifra = std::min(campo.find_first_not_of(" \t"), campo.size());
-    if (blanca || (campo[cifra] >= '0' && campo[cifra] <= '9')) return PrefijoEntero(campo);
+    if (const std::optional<int> cuenta = CuentaDeLocalidades(linea_)) return *cuenta;
     Avisar("campo 1: no es el número de localidades de un bloque");
     return 0;
   }
@@ -98,7 +52,7 @@ private:
   }
 
   void AnadirRegistro() {
-    const std::vector<std::string_view> trozos = Trocear(linea_);
+    const std::vector<std::string_view> trozos = TrocearLineaDeLocalidades(linea_);
     AvisarCuentaDeCampos(trozos.size());
     CamposLocalidad campos;
     for (std::size_t i = 0; i < std::min(trozos.size(), CAMPOS_LOCALIDAD); ++i)
@@ -110,9 +64,8 @@ private:
   }
 
   std::string Campo(std::string_view bytes, std::size_t posicion) const {
-    if (bytes.size() > BYTES_CAMPO) AvisarCampo(posicion, "pasa de 49 bytes; se corta");
-    if (!utf8_) return DesdeWindows1252(bytes.substr(0, BYTES_CAMPO));
-    return std::string(RecortarUtf8(bytes, BYTES_CAMPO));
+    if (bytes.size() > BYTES_CAMPO_LOCALIDADES) AvisarCampo(posicion, "pasa de 49 bytes; se corta");
+    return CampoDeLocalidades(bytes, lineas_.Utf8());
   }
 
   void AvisarCuentaDeCampos(std::size_t cuantos) const {
@@ -125,9 +78,8 @@ private:
     if (!callado_) Avisar("campo " + std::to_string(posicion + 1) + ": " + que);
   }
 
-  Lineas lineas_;
+  LineasLocalidades lineas_;
   std::string_view linea_; ///< no se vacía al acabarse el fichero: la última línea se repite
-  bool utf8_;
   bool callado_ = false;
   const std::string &fichero_;
   const AvisoLocalidades &aviso_;
@@ -160,7 +112,6 @@ ObjetoCiudad CrearObjetoCiudad(const CamposLocalidad &campos, const std::functio
 
 std::vector<std::unique_ptr<ObjetoCiudad>>
 LeerLocalidades(std::string_view contenido, const std::string &fichero, const AvisoLocalidades &aviso) {
-  if (contenido.starts_with(MARCA_UTF8)) contenido.remove_prefix(MARCA_UTF8.size());
   return Lector(contenido, fichero, aviso).Leer();
 }
 
