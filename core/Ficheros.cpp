@@ -84,7 +84,8 @@ bool Volcar(const fs::path &ruta, std::string_view contenido, std::ios::openmode
   return !fichero.fail();
 }
 
-/// Destino real de una cadena de enlaces, exista o no; @p ruta misma si no se puede seguir.
+} // namespace
+
 fs::path SeguirEnlaces(fs::path ruta) {
   constexpr int ENLACES_MAXIMOS = 40; // el límite habitual de los núcleos antes de dar un bucle por tal
   std::error_code error;
@@ -95,6 +96,8 @@ fs::path SeguirEnlaces(fs::path ruta) {
   }
   return ruta;
 }
+
+namespace {
 
 /// Sustituye @p ruta por un fichero nuevo con @p contenido.
 Creacion SustituirEntero(const fs::path &ruta, std::string_view contenido, bool existia) {

@@ -17,6 +17,9 @@ namespace tesmo {
 /// encuentra queda como estaba.
 [[nodiscard]] std::filesystem::path BuscarSinMayusculas(const std::filesystem::path &ruta);
 
+/// Destino real de una cadena de enlaces, exista o no; @p ruta misma si no se puede seguir.
+[[nodiscard]] std::filesystem::path SeguirEnlaces(std::filesystem::path ruta);
+
 /// Todo el contenido de un fichero regular; vacío si falta, no es regular o no se puede abrir.
 [[nodiscard]] std::optional<std::string> LeerFicheroEntero(const std::filesystem::path &ruta);
 

@@ -176,6 +176,23 @@ TEST(Registro, TodosLosDelPrograma) {
 }
 
 // Ficheros con bytes cambiados, quitados y repetidos al azar, siempre los mismos.
+TEST(Registro, SeSabeQueBytesOcupaCadaUnoAunqueNoSeMiren) {
+  const std::string uno = RegistroDeTexto("uno");
+  const std::string dos = RegistroDeTexto("dos", "COSTA 36.84 0 0 10 ALT=21 WCAL=5");
+  const auto sitios = SituarRegistrosGdr("\xEF\xBB\xBF" + uno + "\n" + dos);
+  ASSERT_EQ(sitios.size(), 2U);
+  EXPECT_EQ(sitios[0].clave, "uno");
+  EXPECT_EQ(sitios[0].inicio, 3U);
+  EXPECT_EQ(sitios[0].fin, 3 + uno.size());
+  EXPECT_EQ(sitios[1].clave, "dos");
+  EXPECT_EQ(sitios[1].inicio, 3 + uno.size() + 1);
+  EXPECT_EQ(sitios[1].fin, 3 + uno.size() + 1 + dos.size());
+  std::string muchos;
+  for (int i = 0; i < 200; ++i) muchos += uno;
+  EXPECT_EQ(SituarRegistrosGdr(muchos).size(), 200U);
+  EXPECT_TRUE(SituarRegistrosGdr(" \n").empty());
+}
+
 TEST(Registro, TextosMutadosNoRompenNada) {
   const std::string semilla =
       RegistroDeTexto("otro") + RegistroDeTexto("almeria", "COSTA 36.84 0 0 10 ALT=21 WCAL=5");

@@ -188,5 +188,71 @@ TEST_F(BaseDeDatosDeLocalidades, QuienLaComparteLaConservaTrasLiberarla) {
   EXPECT_NE(&DameBaseDeLocalidades(), mia.get());
 }
 
+ObjetoCiudad Registro(const std::string &nombre, const std::string &provincia, float latitud) {
+  ObjetoCiudad ciudad;
+  ciudad.localidad = nombre;
+  ciudad.provincia = provincia;
+  ciudad.latitud = latitud;
+  return ciudad;
+}
+
+std::vector<std::string> Nombres(const BaseDeLocalidades &base) {
+  std::vector<std::string> nombres;
+  for (const auto &registro : base.Registros()) nombres.push_back(registro->localidad);
+  return nombres;
+}
+
+TEST_F(BaseDeDatosDeLocalidades, UnAltaVaDetrasDeLasDeSuProvinciaSinLeerElFichero) {
+  BaseDeLocalidades &base =
+      Con("2\n" + Linea("Rota", "Cádiz") + Linea("Jerez", "Cádiz") + "1\n" + Linea("Baza", "Granada"));
+  fs::remove(raiz_ / "Meteo/LocalidadesCC");
+  base.PonRegistro(Registro("Tarifa", "Cádiz", 36));
+  base.PonRegistro(Registro("Níjar", "Almería", 37));
+  EXPECT_EQ(Nombres(base), (std::vector<std::string>{"Rota", "Jerez", "Tarifa", "Baza", "Níjar"}));
+  std::vector<std::string> provincias;
+  base.ListaDe("Provincias", provincias);
+  EXPECT_EQ(provincias, (std::vector<std::string>{"Cádiz", "Granada", "Almería"}));
+}
+
+TEST_F(BaseDeDatosDeLocalidades, UnAltaDelMismoNombreSustituyeSinMoverElRegistro) {
+  BaseDeLocalidades &base = Con("2\n" + Linea("Rota", "Cádiz") + Linea("Jerez", "Cádiz"));
+  const ObjetoCiudad *antes = base.BuscarLocalidad("Rota");
+  base.PonRegistro(Registro("Rota", "Cádiz", 12));
+  EXPECT_EQ(base.BuscarLocalidad("Rota"), antes);
+  EXPECT_EQ(antes->latitud, 12.0F);
+  EXPECT_EQ(Nombres(base), (std::vector<std::string>{"Rota", "Jerez"}));
+}
+
+TEST_F(BaseDeDatosDeLocalidades, UnaLocalidadQueCambiaDeProvinciaNoQuedaDosVeces) {
+  BaseDeLocalidades &base = Con("1\n" + Linea("Rota", "Cádiz") + "1\n" + Linea("Baza", "Granada"));
+  base.PonRegistro(Registro("Rota", "Granada", 12));
+  EXPECT_EQ(Nombres(base), (std::vector<std::string>{"Baza", "Rota"}));
+}
+
+TEST_F(BaseDeDatosDeLocalidades, QuienSeApuntaSabeDeCadaAltaMientrasGuardeSuPapel) {
+  BaseDeLocalidades &base = Con("");
+  std::vector<std::string> vistas;
+  const auto apuntar = [&](const ObjetoCiudad &ciudad) {
+    EXPECT_EQ(base.BuscarLocalidad(ciudad.localidad), &ciudad); // ya está puesta
+    vistas.push_back(ciudad.localidad);
+  };
+  const std::shared_ptr<void> una = base.AlCambiar(apuntar);
+  std::shared_ptr<void> otra = base.AlCambiar(apuntar);
+  base.PonRegistro(Registro("Rota", "Cádiz", 1));
+  otra.reset();
+  base.PonRegistro(Registro("Jerez", "Cádiz", 1));
+  EXPECT_EQ(vistas, (std::vector<std::string>{"Rota", "Rota", "Jerez"}));
+}
+
+TEST_F(BaseDeDatosDeLocalidades, QuienSeBorraDuranteUnAvisoYaNoLoRecibe) {
+  BaseDeLocalidades &base = Con("");
+  std::shared_ptr<void> segundo;
+  int veces = 0;
+  const auto primero = base.AlCambiar([&](const ObjetoCiudad &) { segundo.reset(); });
+  segundo = base.AlCambiar([&](const ObjetoCiudad &) { ++veces; });
+  base.PonRegistro(Registro("Rota", "Cádiz", 1));
+  EXPECT_EQ(veces, 0);
+}
+
 } // namespace
 } // namespace tesmo
