@@ -1,5 +1,7 @@
 #include "core/Flujoreales.h"
 
+#include "core/Ordenmagnitud.h"
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -143,35 +145,12 @@ CampoReal Reconocer(const char *p, const char *final) {
   return {fin, fin != cuerpo && (hexadecimal || !soloPunto), hexadecimal};
 }
 
-/// El exponente escrito entre @p p, tras su letra, y @p fin; 0 si no tiene cifras.
-std::int64_t LeerExponente(const char *p, const char *fin) {
-  constexpr std::int64_t TOPE = 100'000'000'000'000'000; // más que las cifras que caben en la memoria
-  const bool negativo = p != fin && *p == '-';
-  if (p != fin && (*p == '+' || *p == '-')) ++p;
-  std::int64_t exponente = 0;
-  for (; p != fin; ++p) exponente = std::min(TOPE, exponente * 10 + (*p - '0'));
-  return negativo ? -exponente : exponente;
-}
-
-/// Desborda o se queda corto: lo decide el orden de magnitud de la primera cifra que no es cero.
-bool EsEnorme(const char *p, const char *fin) {
-  while (*p == '0') ++p;
-  std::int64_t orden = 0; // exponente decimal de la primera cifra significativa, más uno
-  for (; EsCifra(*p); ++p) ++orden;
-  if (*p == '.' && orden == 0) {
-    while (*++p == '0') --orden;
-  }
-  while (p != fin && Minuscula(*p) != 'e') ++p;
-  if (p == fin) return orden > 0;
-  ++p;
-  return orden + LeerExponente(p, fin) > 0;
-}
-
 float ConvertirDecimal(const char *inicio, const char *fin) {
   float valor = 0.0F;
   const auto [resto, error] = std::from_chars(inicio, fin, valor);
   if (error != std::errc::result_out_of_range) return valor;
-  return EsEnorme(inicio, fin) ? std::numeric_limits<float>::infinity() : 0.0F;
+  const bool enorme = EsEnorme({inicio, static_cast<std::size_t>(fin - inicio)}, BaseReal::Decimal);
+  return enorme ? std::numeric_limits<float>::infinity() : 0.0F;
 }
 
 /// Mantisa de hasta 64 bits por 2^exponente, con un último bit pegajoso que recuerda lo perdido.
@@ -218,7 +197,7 @@ float ConvertirHexadecimal(const char *p, const char *fin) {
   }
   if (p == fin) return RedondearBinario(mantisa);
   ++p;
-  mantisa.exponente += LeerExponente(p, fin);
+  mantisa.exponente += LeerExponente({p, static_cast<std::size_t>(fin - p)});
   return RedondearBinario(mantisa);
 }
 

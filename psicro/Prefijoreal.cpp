@@ -1,5 +1,7 @@
 #include "psicro/Prefijoreal.h"
 
+#include "core/Ordenmagnitud.h"
+
 #include <charconv>
 #include <limits>
 #include <optional>
@@ -10,25 +12,15 @@ namespace {
 
 bool EsBlanco(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-/// Lo que no cabe: 0 si el exponente es negativo o si la parte entera es nula, infinito si no.
-double FueraDeAlcance(std::string_view numero, std::string_view marcasDeExponente) {
-  const std::size_t exponente = numero.find_first_of(marcasDeExponente);
-  if (exponente != std::string_view::npos && exponente + 1 < numero.size()) {
-    return numero[exponente + 1] == '-' ? 0.0 : std::numeric_limits<double>::infinity();
-  }
-  const std::string_view entera = numero.substr(0, numero.find('.'));
-  const bool nula = entera.find_first_not_of('0') == std::string_view::npos;
-  return nula ? 0.0 : std::numeric_limits<double>::infinity();
-}
-
 /// Número sin signo al comienzo de @p texto; vacío si no lo hay.
-std::optional<double> PrefijoSinSigno(std::string_view texto, std::chars_format formato,
-                                      std::string_view marcasDeExponente) {
+std::optional<double> PrefijoSinSigno(std::string_view texto, BaseReal base) {
+  const auto formato = base == BaseReal::Hexadecimal ? std::chars_format::hex : std::chars_format::general;
   double valor = 0.0;
   const auto [fin, error] = std::from_chars(texto.data(), texto.data() + texto.size(), valor, formato);
   if (error == std::errc::invalid_argument) return std::nullopt;
   if (error == std::errc::result_out_of_range) {
-    return FueraDeAlcance(texto.substr(0, static_cast<std::size_t>(fin - texto.data())), marcasDeExponente);
+    const std::string_view numero = texto.substr(0, static_cast<std::size_t>(fin - texto.data()));
+    return EsEnorme(numero, base) ? std::numeric_limits<double>::infinity() : 0.0;
   }
   return valor;
 }
@@ -37,10 +29,10 @@ std::optional<double> PrefijoSinSigno(std::string_view texto) {
   // from_chars admitiría aquí un segundo signo.
   if (texto.starts_with('-')) return std::nullopt;
   const bool hexadecimal = texto.starts_with("0x") || texto.starts_with("0X");
-  if (!hexadecimal) return PrefijoSinSigno(texto, std::chars_format::general, "eE");
+  if (!hexadecimal) return PrefijoSinSigno(texto, BaseReal::Decimal);
   texto.remove_prefix(2);
   if (texto.starts_with('-')) return 0.0;
-  return PrefijoSinSigno(texto, std::chars_format::hex, "pP").value_or(0.0);
+  return PrefijoSinSigno(texto, BaseReal::Hexadecimal).value_or(0.0);
 }
 
 } // namespace

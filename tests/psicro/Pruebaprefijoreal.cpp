@@ -47,6 +47,24 @@ TEST(PrefijoReal, LeeComoLaBibliotecaDeC) {
   ComoLaBiblioteca("0." + std::string(400, '0') + "1");
 }
 
+TEST(PrefijoReal, LoQueNoCabeLoDecideElOrdenDeSuPrimeraCifra) {
+  const std::string nueves(400, '9');
+  const std::string ceros(400, '0');
+  ComoLaBiblioteca("0." + ceros + "1e5");   // cero, aunque el exponente sea positivo
+  ComoLaBiblioteca(nueves + "e-5");         // infinito, aunque sea negativo
+  ComoLaBiblioteca(nueves + "e-395");       // cabe
+  ComoLaBiblioteca("0." + ceros + "1e401"); // cabe
+  ComoLaBiblioteca("0." + ceros + "1e90");
+  ComoLaBiblioteca("000" + nueves + ".5E+0x");
+  ComoLaBiblioteca("0x1p5000");
+  ComoLaBiblioteca("0x1P-5000");
+  ComoLaBiblioteca("0x" + nueves + "p-100");
+  ComoLaBiblioteca("0x0." + ceros + "1p100");
+  ComoLaBiblioteca("0x0." + ceros + "1p+1604"); // cabe
+  ComoLaBiblioteca("1e" + nueves);
+  ComoLaBiblioteca("-1e-" + nueves);
+}
+
 TEST(PrefijoReal, LeeComoLaBibliotecaDeCTextosAlAzar) {
   std::mt19937 azar(99);
   const std::string letras = "0123456789....eE+-- x";
