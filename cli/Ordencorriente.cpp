@@ -4,6 +4,7 @@
 #include "cli/Guioncorrientes.h"
 #include "cli/Opcionesseleccion.h"
 #include "cli/Teclado.h"
+#include "core/Codificacion.h"
 #include "core/Ficheros.h"
 
 #include <fstream>
@@ -44,8 +45,9 @@ class Lector {
 public:
   Lector(GuionCorrientes &guion, Contexto &contexto) : guion_(guion), contexto_(contexto) {}
 
+  /// Línea a línea, para que una tubería responda a cada una; la marca de orden de bytes no es del nombre.
   void Seguido(std::istream &entrada) {
-    for (std::string linea; std::getline(entrada, linea);) Linea(PartirLinea(linea), contexto_.error);
+    for (std::string linea; std::getline(entrada, linea);) Linea(PartirLinea(AUtf8(linea)), contexto_.error);
   }
   void Tecleado() {
     const Completar completar = [](const std::string &escrito) {

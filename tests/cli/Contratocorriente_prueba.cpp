@@ -51,6 +51,15 @@ TEST_F(OrdenCorriente, DeLaEntradaConGuionOSinNada) {
   EXPECT_EQ(vacia.salida, "");
 }
 
+TEST_F(OrdenCorriente, ElGuionPuedeLlevarMarcaUtf8OEstarEnWindows1252) {
+  const std::string conMarca = "\xEF\xBB\xBF"
+                               "aire pont_w 12 0\naire ponNombre año\naño dame t\n";
+  const std::string enWindows = "aire pont_w 12 0\naire ponNombre a\xF1o\na\xF1o dame t\naño dame t\n";
+  EXPECT_EQ(Guion(conMarca).salida, "12.000000\n");
+  EXPECT_EQ(Orden({"corriente"}, {}, conMarca).salida, "12.000000\n");
+  EXPECT_EQ(Guion(enWindows).salida, "12.000000\n12.000000\n");
+}
+
 TEST_F(OrdenCorriente, LaAyudaNoEnsuciaLaSalida) {
   const Ejecucion e = Guion("ayuda\n");
   EXPECT_EQ(e.salida, "");
