@@ -14,6 +14,9 @@ inline constexpr double EPSILON_ROCIO = 0.6219779305666405;
 inline constexpr double MASA_AIRE_ENTRE_AGUA = 1.6078;
 /// Constante del aire seco [J/(kg·K)].
 inline constexpr double RA = 287.055;
+/// La misma constante tal como la usan sólo las líneas de volumen específico de la carta. La diferencia se
+/// conserva.
+inline constexpr double RA_CARTA = 287.0;
 /// Calor específico del aire seco [J/(kg·K)].
 inline constexpr float CPA = 1006.0F;
 /// Calor específico del vapor de agua [J/(kg·K)].

@@ -1,4 +1,5 @@
 #include "psicro/Buscaraiz.h"
+#include "psicro/Constantes.h"
 #include "psicro/Corrienteaire.h"
 #include "psicro/Familiascarta.h"
 #include "psicro/Recorrido.h"
@@ -8,8 +9,6 @@ namespace tesmo {
 
 namespace {
 
-/// Constante del aire seco en estas líneas [J/(kg·K)]: no es la de la corriente de aire, y se conserva.
-constexpr double RA_CARTA = 287.0;
 /// Lo que las líneas pasan de su máximo [m³/kg].
 constexpr double MAS_ALLA_DE_VEMAX = 0.1;
 
@@ -17,7 +16,7 @@ float CorteConLaSaturacion(float v, float presion) {
   return BuscarRaiz(0.0F, TOLERANCIA_CARTA, ITERACIONES_CARTA, "No converge intersección VE con HR=100%",
                     [v, presion](float t) {
                       const double aireSeco = static_cast<double>(presion) - presionSaturacion(t);
-                      return static_cast<float>(v - (t + aire::T0) * RA_CARTA / aireSeco);
+                      return static_cast<float>(v - (t + aire::T0) * aire::RA_CARTA / aireSeco);
                     });
 }
 
@@ -29,7 +28,7 @@ void DibujarVolumenEspecifico(const Psicro &carta, Pluma &pluma) {
   CorrienteAire aire;
   Recorrido recorrido;
   recorrido.Acumulando(rango.minimo, rango.maximo + MAS_ALLA_DE_VEMAX, rango.paso, [&](float v) {
-    const double t0 = static_cast<double>(v) * presion / RA_CARTA - aire::T0;
+    const double t0 = static_cast<double>(v) * presion / aire::RA_CARTA - aire::T0;
     const float t = CorteConLaSaturacion(v, presion);
     aire.pont_w(t, static_cast<float>(humedadSaturacion(t, presion)), presion);
     carta.moverA(pluma, aire.temperatura(), aire.humedadAbsoluta());

@@ -5,8 +5,10 @@
 namespace tesmo {
 
 /// Recorridos de los valores de una familia de líneas o de los puntos de una línea. Con cualquier parámetro
-/// terminan: un paso que no avanza deja sólo el primer valor, y una familia no da más de MAXIMO pasos entre
-/// líneas y puntos, que ya es mucho más de lo que una pantalla distingue.
+/// terminan: un paso que no avanza deja sólo el primer valor, y una familia no da más de MAXIMO pasos. El
+/// tope es uno para líneas y puntos, y no uno por recorrido, porque los recorridos van uno dentro de otro: un
+/// millón de líneas de un millón de puntos no acabarían nunca. Es mil veces lo que gasta la carta de fábrica
+/// y mucho más de lo que una pantalla distingue.
 class Recorrido {
 public:
   static constexpr int MAXIMO = 1'000'000;

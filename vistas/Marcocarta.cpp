@@ -31,14 +31,22 @@ MarcoCarta::MarcoCarta(QWidget *padre) : QWidget(padre) {
 
 void MarcoCarta::PonContenido(ContenidoCarta *contenido) {
   contenido_ = contenido;
-  dibujo_ = QPixmap();
-  update();
+  Redibujar();
 }
 
 QSize MarcoCarta::TamanoDeCarta() const { return imgPsicro_->size(); }
 
 void MarcoCarta::Redibujar() {
-  Dibujar();
+  dibujo_ = QPixmap();
+  update();
+}
+
+void MarcoCarta::PintarEncima(const std::function<void(QPainter &)> &accion) {
+  DibujarSiHaceFalta();
+  QPainter pintor(&dibujo_);
+  pintor.translate(imgPsicro_->pos());
+  pintor.setClipRect(imgPsicro_->rect());
+  accion(pintor);
   update();
 }
 
@@ -57,7 +65,10 @@ void MarcoCarta::Pintar(QPaintDevice &destino) const {
   }
 }
 
-void MarcoCarta::Dibujar() {
+void MarcoCarta::DibujarSiHaceFalta() {
+  if (!dibujo_.isNull() && dibujo_.deviceIndependentSize().toSize() == size() &&
+      dibujo_.devicePixelRatio() == devicePixelRatioF())
+    return;
   dibujo_ = QPixmap(size() * devicePixelRatioF());
   dibujo_.setDevicePixelRatio(devicePixelRatioF());
   Pintar(dibujo_);
@@ -65,9 +76,7 @@ void MarcoCarta::Dibujar() {
 }
 
 void MarcoCarta::paintEvent(QPaintEvent *suceso) {
-  if (dibujo_.isNull() || dibujo_.deviceIndependentSize().toSize() != size() ||
-      dibujo_.devicePixelRatio() != devicePixelRatioF())
-    Dibujar();
+  DibujarSiHaceFalta();
   QPainter pintor(this);
   pintor.setClipRegion(suceso->region());
   pintor.drawPixmap(0, 0, dibujo_);

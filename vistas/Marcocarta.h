@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 namespace tesmo {
@@ -19,8 +20,11 @@ public:
 
   /// @p contenido vive mientras se dibuje; nulo: fondo blanco.
   void PonContenido(ContenidoCarta *contenido);
-  /// Vuelve a dibujar: cambiaron las líneas, las marcas o los puntos.
+  /// Cambiaron las líneas, las marcas o los puntos: se dibuja otra vez, una sola, cuando haya que enseñarlo.
   void Redibujar();
+  /// Pinta con @p accion sobre el dibujo en memoria, con el origen en el de la carta. Se ve hasta que se
+  /// vuelva a dibujar.
+  void PintarEncima(const std::function<void(QPainter &)> &accion);
   /// Cuántas veces se ha dibujado.
   [[nodiscard]] int VecesDibujada() const { return vecesDibujada_; }
   /// Tamaño de la carta sin sus escalas [píxeles].
@@ -45,7 +49,7 @@ protected:
   bool eventFilter(QObject *objeto, QEvent *suceso) override;
 
 private:
-  void Dibujar();
+  void DibujarSiHaceFalta();
   void PintarReticula();
   void Pintar(QPaintDevice &destino) const;
 

@@ -2,45 +2,24 @@
 
 #include "vistas/Casillanumero.h"
 #include "vistas/Marcocarta.h"
+#include "vistas/Tablapuntos.h"
+#include "vistas/Valoresaire.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTableWidget>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace tesmo {
 
 namespace {
-
-struct FichaValor {
-  const char *control;
-  const char *rotulo;
-  const char *unidad;
-};
-constexpr std::array<FichaValor, PaginaPsicrometrico::NUMERO_VALORES> VALORES{{
-    {"edT", "T", "ºC"},
-    {"edW", "W", "kg/ kg"},
-    {"edH", "H", "J/kg"},
-    {"edHR", "HR", ""},
-    {"edVE", "VE", "m³/kg"},
-    {"edTR", "TR", "ºC"},
-    {"edTH", "TH", "ºC"},
-    {"edPresion", "Presión", "Pa"},
-}};
 
 struct FichaCasilla {
   const char *control;
@@ -54,11 +33,10 @@ constexpr std::array<FichaCasilla, PaginaPsicrometrico::NUMERO_FAMILIAS_VISTAS> 
     {"cbVerVE", QT_TRANSLATE_NOOP("PaginaPsicrometrico", "Volumen específico")},
 }};
 
-constexpr int ANCHO_VALOR = 78;      ///< [px]
-constexpr int ALTO_TABLA = 118;      ///< [px]
-constexpr int MAXIMO_HORA = 24;      ///< del día
-constexpr int ALTITUD_MINIMA = -500; ///< [m]
-constexpr int ALTITUD_MAXIMA = 9000; ///< [m]
+constexpr int ANCHO_VALOR = 78;           ///< [px]
+constexpr int MAXIMO_HORA = 24;           ///< del día
+constexpr double ALTITUD_MINIMA = -500.0; ///< [m]
+constexpr double ALTITUD_MAXIMA = 9000.0; ///< [m]
 
 QString Nombre(const char *control) { return QString::fromLatin1(control); }
 
@@ -71,7 +49,8 @@ PaginaPsicrometrico::PaginaPsicrometrico(QWidget *padre) : QWidget(padre) {
   auto *izquierda = new QVBoxLayout;
   marco_ = new MarcoCarta;
   izquierda->addWidget(marco_, 1);
-  izquierda->addWidget(CrearTabla());
+  tabla_ = new TablaPuntos;
+  izquierda->addWidget(tabla_);
   disposicion->addLayout(izquierda, 1);
   disposicion->addWidget(CrearColumna());
 }
@@ -84,7 +63,6 @@ QWidget *PaginaPsicrometrico::CrearColumna() {
   pila->addWidget(CrearValores());
   pila->addWidget(CrearNube());
   pila->addWidget(CrearFamilias());
-  pila->addWidget(CrearAltitud());
   QPushButton *guardar =
       CrearBoton("btnGuardarCarta", tr("&Guardar imagen…"), tr("Guarda la carta en PNG, SVG o PDF"));
   connect(guardar, &QPushButton::clicked, this, &PaginaPsicrometrico::guardarPedido);
@@ -107,12 +85,13 @@ QGroupBox *PaginaPsicrometrico::CrearValores() {
   rejilla->setContentsMargins(6, 2, 6, 4);
   rejilla->setVerticalSpacing(2);
   for (int i = 0; i < NUMERO_VALORES; ++i) CrearValor(*rejilla, i);
+  CrearAltitud(*rejilla);
   return caja;
 }
 
 void PaginaPsicrometrico::CrearValor(QGridLayout &rejilla, int i) {
   const auto sitio = static_cast<std::size_t>(i);
-  const FichaValor &ficha = VALORES[sitio];
+  const ValorAire &ficha = VALORES_AIRE[sitio];
   auto *valor = new QLineEdit;
   valor->setObjectName(Nombre(ficha.control));
   valor->setReadOnly(true);
@@ -173,7 +152,7 @@ QGroupBox *PaginaPsicrometrico::CrearNube() {
   pila->addLayout(punto);
   auto *botones = new QHBoxLayout;
   QPushButton *nubes = CrearBoton("btnNubes", tr("&Representar"), tr("Marca las horas del período"));
-  QPushButton *limpiar = CrearBoton("btnLimpiar", tr("&Limpiar"), tr("Quita las marcas"));
+  QPushButton *limpiar = CrearBoton("btnLimpiar", tr("Li&mpiar"), tr("Quita las marcas"));
   connect(nubes, &QPushButton::clicked, this, &PaginaPsicrometrico::representarPedido);
   connect(limpiar, &QPushButton::clicked, this, &PaginaPsicrometrico::limpiarPedido);
   botones->addWidget(nubes);
@@ -198,61 +177,27 @@ QGroupBox *PaginaPsicrometrico::CrearFamilias() {
   return caja;
 }
 
-QGroupBox *PaginaPsicrometrico::CrearAltitud() {
-  auto *caja = new QGroupBox(tr("Altitud"));
-  auto *fila = new QHBoxLayout(caja);
-  fila->setContentsMargins(6, 2, 6, 4);
-  csAltitud_ = new CasillaEntera;
+/// Bajo la presión, que sale de ella.
+void PaginaPsicrometrico::CrearAltitud(QGridLayout &rejilla) {
+  csAltitud_ = new CasillaReal;
   csAltitud_->setObjectName(QStringLiteral("csAltitud"));
   csAltitud_->setRange(ALTITUD_MINIMA, ALTITUD_MAXIMA);
-  csAltitud_->setSuffix(tr(" m"));
+  csAltitud_->setDecimals(1);
+  csAltitud_->setAlignment(Qt::AlignRight);
+  csAltitud_->setFixedWidth(ANCHO_VALOR);
   csAltitud_->setKeyboardTracking(false); // cuenta cuando se termina de teclear
   csAltitud_->setToolTip(tr("Fija la presión de esta ventana hasta que cambie la localidad"));
-  connect(csAltitud_, &QSpinBox::valueChanged, this, &PaginaPsicrometrico::altitudCambiada);
+  connect(csAltitud_, &QDoubleSpinBox::valueChanged, this, &PaginaPsicrometrico::altitudCambiada);
   btnAltitudFichero_ =
-      CrearBoton("btnAltitudFichero", tr("Del fichero"), tr("Vuelve a la del fichero climático"));
+      CrearBoton("btnAltitudFichero", tr("Altitud del fichero"), tr("Vuelve a la del fichero climático"));
   connect(btnAltitudFichero_, &QPushButton::clicked, this, &PaginaPsicrometrico::altitudDelFicheroPedida);
-  fila->addWidget(csAltitud_, 1);
-  fila->addWidget(btnAltitudFichero_);
-  return caja;
-}
-
-QWidget *PaginaPsicrometrico::CrearTabla() {
-  panelPuntos_ = new QWidget;
-  tablaPuntos_ = new QTableWidget(0, NUMERO_VALORES + 1);
-  tablaPuntos_->setObjectName(QStringLiteral("tablaPuntos"));
-  QStringList titulos{tr("Punto")};
-  for (const FichaValor &ficha : VALORES) {
-    const QString unidad = QString::fromUtf8(ficha.unidad);
-    titulos << QString::fromUtf8(ficha.rotulo) + (unidad.isEmpty() ? QString() : " (" + unidad + ")");
-  }
-  tablaPuntos_->setHorizontalHeaderLabels(titulos);
-  tablaPuntos_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-  tablaPuntos_->verticalHeader()->hide();
-  tablaPuntos_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  tablaPuntos_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  connect(tablaPuntos_, &QTableWidget::itemSelectionChanged, this,
-          &PaginaPsicrometrico::puntosElegidosCambiados);
-  lbProceso_ = new QLabel;
-  lbProceso_->setObjectName(QStringLiteral("lbProceso"));
-  lbProceso_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  QPushButton *copiar = CrearBoton("btnCopiarPuntos", tr("&Copiar tabla"), tr("Copia los puntos como texto"));
-  QPushButton *borrar =
-      CrearBoton("btnBorrarPuntos", tr("&Borrar puntos"), tr("Borra los elegidos o, sin elegir, todos"));
-  connect(copiar, &QPushButton::clicked, this,
-          [this] { QApplication::clipboard()->setText(TextoDePuntos()); });
-  connect(borrar, &QPushButton::clicked, this, &PaginaPsicrometrico::borrarPuntosPedido);
-  auto *fila = new QHBoxLayout;
-  fila->addWidget(lbProceso_, 1);
-  fila->addWidget(copiar);
-  fila->addWidget(borrar);
-  auto *pila = new QVBoxLayout(panelPuntos_);
-  pila->setContentsMargins(0, 0, 0, 0);
-  pila->addWidget(tablaPuntos_);
-  pila->addLayout(fila);
-  panelPuntos_->setFixedHeight(ALTO_TABLA);
-  panelPuntos_->hide();
-  return panelPuntos_;
+  const int fila = rejilla.rowCount();
+  auto *rotulo = new QLabel(tr("Altit&ud"));
+  rotulo->setBuddy(csAltitud_);
+  rejilla.addWidget(rotulo, fila, 0);
+  rejilla.addWidget(csAltitud_, fila, 1);
+  rejilla.addWidget(new QLabel(tr("m")), fila, 2);
+  rejilla.addWidget(btnAltitudFichero_, fila + 1, 0, 1, 3);
 }
 
 QPushButton *PaginaPsicrometrico::CrearBoton(const char *nombre, const QString &texto, const QString &ayuda) {
@@ -272,7 +217,7 @@ void PaginaPsicrometrico::PonColorPunto(const QColor &color) {
   edPunto_->setPalette(paleta);
 }
 
-void PaginaPsicrometrico::PonAltitud(int altitud, bool delUsuario) {
+void PaginaPsicrometrico::PonAltitud(double altitud, bool delUsuario) {
   const QSignalBlocker callada(csAltitud_);
   csAltitud_->setValue(altitud);
   btnAltitudFichero_->setEnabled(delUsuario);
@@ -281,36 +226,6 @@ void PaginaPsicrometrico::PonAltitud(int altitud, bool delUsuario) {
 int PaginaPsicrometrico::HoraInicial() const { return csPHorIni_->value(); }
 
 int PaginaPsicrometrico::HoraFinal() const { return csPHorFin_->value(); }
-
-void PaginaPsicrometrico::PonPuntos(const QList<QStringList> &filas, const QString &proceso) {
-  const QSignalBlocker callada(tablaPuntos_);
-  tablaPuntos_->setRowCount(static_cast<int>(filas.size()));
-  for (int i = 0; i < filas.size(); ++i)
-    for (int j = 0; j < filas[i].size(); ++j) tablaPuntos_->setItem(i, j, new QTableWidgetItem(filas[i][j]));
-  lbProceso_->setText(proceso);
-  panelPuntos_->setVisible(!filas.isEmpty());
-}
-
-QList<int> PaginaPsicrometrico::PuntosElegidos() const {
-  QList<int> filas;
-  for (const QModelIndex &indice : tablaPuntos_->selectionModel()->selectedRows()) filas << indice.row();
-  std::sort(filas.begin(), filas.end());
-  return filas;
-}
-
-QString PaginaPsicrometrico::TextoDePuntos() const {
-  QStringList lineas;
-  QStringList campos;
-  for (int j = 0; j < tablaPuntos_->columnCount(); ++j)
-    campos << tablaPuntos_->horizontalHeaderItem(j)->text();
-  lineas << campos.join('\t');
-  for (int i = 0; i < tablaPuntos_->rowCount(); ++i) {
-    campos.clear();
-    for (int j = 0; j < tablaPuntos_->columnCount(); ++j) campos << tablaPuntos_->item(i, j)->text();
-    lineas << campos.join('\t');
-  }
-  return lineas.join('\n') + '\n';
-}
 
 bool PaginaPsicrometrico::eventFilter(QObject *objeto, QEvent *suceso) {
   if (objeto == lbPunto_ && suceso->type() == QEvent::MouseButtonRelease) emit colorPuntoPedido();

@@ -102,8 +102,9 @@ void PintarCarta(QPainter &pintor, const QSize &total, ContenidoCarta &contenido
   pintor.setClipRect(area);
   LienzoPintor lienzo(pintor);
   contenido.carta.dibujar(lienzo, area.width(), area.height());
-  PintarMarcas(lienzo, contenido);
   PintarNombres(pintor, contenido.carta);
+  LienzoPintor sobreLosNombres(pintor);
+  PintarMarcas(sobreLosNombres, contenido);
   PintarLeyenda(pintor, contenido);
   PintarPuntos(pintor, contenido);
   pintor.setClipping(false);

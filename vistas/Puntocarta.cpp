@@ -32,19 +32,20 @@ QString NombreDePunto(int i) {
   return i < LETRAS ? letra : letra + QString::number(i / LETRAS + 1);
 }
 
-QStringList TextosDeEstado(const CorrienteAire &aire) {
-  return {Valor(aire.temperatura(), "#0.##"),
-          Valor(aire.humedadAbsoluta(), "#0.####"),
+QStringList TextosDeEstado(float t, float w, float p, const CorrienteAire &aire) {
+  return {Valor(t, "#0.##"),
+          Valor(w, "#0.####"),
           Valor(aire.entalpia(), "#0.##"),
           Valor(aire.humedadRelativa(), "#0.##"),
           Valor(aire.volumenEspecifico(), "#0.####"),
           Valor(aire.temperaturaRocio(), "#0.##"),
           Valor(aire.temperaturaHumeda(), "#0.##"),
-          Valor(aire.presion(), "#0")};
+          Valor(p, "#0")};
 }
 
 QStringList TextosDeEstado(const PuntoCarta &punto, float presion) {
-  return TextosDeEstado(CorrienteDe(punto, presion));
+  const CorrienteAire aire = CorrienteDe(punto, presion);
+  return TextosDeEstado(aire.temperatura(), aire.humedadAbsoluta(), aire.presion(), aire);
 }
 
 ProcesoCarta ProcesoEntre(const PuntoCarta &desde, const PuntoCarta &hasta, float presion) {

@@ -17,10 +17,10 @@ struct PuntoCarta {
 /// Nombre del punto @p i desde 0: A a Z, luego A2 a Z2…
 [[nodiscard]] QString NombreDePunto(int i);
 
-/// Valores de un estado con los patrones del panel: T, W, H, HR, VE, TR, TH y P, en el orden de
-/// ROTULOS_DE_ESTADO.
-[[nodiscard]] QStringList TextosDeEstado(const CorrienteAire &aire);
-/// Los mismos, del estado del punto @p punto a la presión @p presion [Pa].
+/// Valores de un estado con los patrones del panel, en el orden de VALORES_AIRE. @p t [°C], @p w [kg/kg] y
+/// @p p [Pa] son los leídos, que @p aire puede haber acotado.
+[[nodiscard]] QStringList TextosDeEstado(float t, float w, float p, const CorrienteAire &aire);
+/// Los del punto @p punto a la presión @p presion [Pa].
 [[nodiscard]] QStringList TextosDeEstado(const PuntoCarta &punto, float presion);
 
 /// Calor por kg/s de aire seco de un estado a otro, con las operaciones de la corriente de aire.

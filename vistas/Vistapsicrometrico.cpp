@@ -12,12 +12,12 @@
 #include "vistas/Marcocarta.h"
 #include "vistas/Paginapsicrometrico.h"
 #include "vistas/Panelseleccion.h"
+#include "vistas/Superficiepintor.h"
+#include "vistas/Tablapuntos.h"
 #include "vistas/Textoqt.h"
 
 #include <QColorDialog>
 #include <QMenu>
-
-#include <cmath>
 
 namespace tesmo {
 
@@ -26,17 +26,23 @@ namespace {
 constexpr std::array<Familia, NUMERO_FAMILIAS> ORDEN_CASILLAS{Familia::T, Familia::W, Familia::H, Familia::HR,
                                                               Familia::VE};
 constexpr int PARAMETRO_PRESION = 15;
+constexpr float SATURADO = 100.0F; // [%]
 
-/// El estado de un píxel de la carta; vacío por encima de la saturación.
-std::optional<CorrienteAire> EstadoEn(const Psicro &carta, int x, int y) {
-  const float t = carta.t(x);
-  const float w = carta.w(y);
-  const float p = carta.dameParametro(PARAMETRO_PRESION);
+/// Lo que hay en un píxel de la carta, y el estado del aire más próximo que el modelo admite.
+struct LecturaCarta {
+  float t; ///< [°C]
+  float w; ///< [kg/kg], negativa por debajo de la carta
+  float p; ///< [Pa]
   CorrienteAire aire;
-  aire.pont_hr(t, 100.0F, p);
-  if (!(w <= aire.humedadAbsoluta())) return std::nullopt;
-  aire.pont_w(t, w, p);
-  return aire;
+};
+
+/// Vacía por encima de la saturación.
+std::optional<LecturaCarta> LeerEn(const Psicro &carta, int x, int y) {
+  LecturaCarta lectura{carta.t(x), carta.w(y), carta.dameParametro(PARAMETRO_PRESION), CorrienteAire()};
+  lectura.aire.pont_hr(lectura.t, SATURADO, lectura.p);
+  if (!(lectura.w <= lectura.aire.humedadAbsoluta())) return std::nullopt;
+  lectura.aire.pont_w(lectura.t, lectura.w, lectura.p);
+  return lectura;
 }
 
 std::vector<float> Serie(const LeerMet &datos, Magnitud magnitud) {
@@ -71,9 +77,7 @@ void Vistapsicrometrico::Conectar() {
   conectar(&Pagina::limpiarPedido, [this] { redibujar(); });
   conectar(&Pagina::colorPuntoPedido, [this] { PedirColor(); });
   conectar(&Pagina::guardarPedido, [this] { PedirGuardar(); });
-  conectar(&Pagina::borrarPuntosPedido, [this] { BorrarPuntos(); });
-  conectar(&Pagina::puntosElegidosCambiados, [this] { ActualizarPuntos(); });
-  conectar(&Pagina::altitudCambiada, [this](int altitud) { PonAltitud(static_cast<float>(altitud)); });
+  conectar(&Pagina::altitudCambiada, [this](double altitud) { PonAltitud(static_cast<float>(altitud)); });
   conectar(&Pagina::altitudDelFicheroPedida, [this] { PonAltitud(std::nullopt); });
   conectar(&Pagina::coloreoCambiado, [this](ColoreoNube coloreo) {
     contenido_.coloreo = coloreo;
@@ -83,6 +87,9 @@ void Vistapsicrometrico::Conectar() {
     contenido_.carta.ponVisible(ORDEN_CASILLAS.at(static_cast<std::size_t>(i)), visible);
     pagina_.DameMarco().Redibujar();
   });
+  const TablaPuntos *tabla = &pagina_.DameTabla();
+  QObject::connect(tabla, &TablaPuntos::borrarPedido, &avisos_, [this] { BorrarPuntos(); });
+  QObject::connect(tabla, &TablaPuntos::elegidosCambiados, &avisos_, [this] { ActualizarPuntos(); });
   const MarcoCarta *marco = &pagina_.DameMarco();
   QObject::connect(marco, &MarcoCarta::punteroMovido, &avisos_,
                    [this](int x, int y) { lecturaPuntero(x, y); });
@@ -94,7 +101,7 @@ void Vistapsicrometrico::Conectar() {
 void Vistapsicrometrico::PonPresion() {
   const float altitud = AltitudEnUso(programa_, seleccion_);
   contenido_.carta.ponAltitud(altitud);
-  pagina_.PonAltitud(static_cast<int>(std::lround(altitud)), seleccion_.DameAltitudUsuario().has_value());
+  pagina_.PonAltitud(altitud, seleccion_.DameAltitudUsuario().has_value());
 }
 
 void Vistapsicrometrico::redibujar() {
@@ -106,18 +113,31 @@ void Vistapsicrometrico::redibujar() {
 }
 
 void Vistapsicrometrico::lecturaPuntero(int x, int y) {
-  const std::optional<CorrienteAire> aire = EstadoEn(contenido_.carta, x, y);
-  if (!aire) return;
+  const std::optional<LecturaCarta> lectura = LeerEn(contenido_.carta, x, y);
+  if (!lectura) return;
   pagina_.DameMarco().PonReticula(QPoint(x, y));
-  pagina_.PonValores(TextosDeEstado(*aire));
+  pagina_.PonValores(TextosDeEstado(lectura->t, lectura->w, lectura->p, lectura->aire));
 }
 
-void Vistapsicrometrico::botonPulsado(int x, int y) {
-  if (!banda_) esquinas_.fill(QPoint(x, y));
-  const std::optional<CorrienteAire> aire = EstadoEn(contenido_.carta, x, y);
-  if (!aire) return;
+void Vistapsicrometrico::botonPulsado(int x, int y, ModoPluma modo) {
+  if (!banda_.activa) {
+    banda_.esquinas.fill({x, y});
+    FijarPunto(x, y);
+    return;
+  }
+  MarcoCarta &marco = pagina_.DameMarco();
+  marco.PintarEncima([&](QPainter &pintor) {
+    SuperficiePintor superficie(pintor);
+    SoltarBanda(banda_, modo, superficie, contenido_.carta);
+  });
+  marco.Redibujar(); // otra vez con el tamaño de la imagen, y con sus marcas
+}
+
+void Vistapsicrometrico::FijarPunto(int x, int y) {
+  const std::optional<LecturaCarta> lectura = LeerEn(contenido_.carta, x, y);
+  if (!lectura) return;
   contenido_.puntos.push_back(
-      {NombreDePunto(puntosFijados_++), aire->temperatura(), aire->humedadAbsoluta()});
+      {NombreDePunto(puntosFijados_++), lectura->aire.temperatura(), lectura->aire.humedadAbsoluta()});
   ActualizarPuntos();
 }
 
@@ -167,7 +187,7 @@ void Vistapsicrometrico::ActualizarPuntos() {
   const float presion = contenido_.carta.damePresion();
   QList<QStringList> filas;
   for (const PuntoCarta &punto : puntos) filas << QStringList(punto.nombre) + TextosDeEstado(punto, presion);
-  const QList<int> elegidos = pagina_.PuntosElegidos();
+  const QList<int> elegidos = pagina_.DameTabla().Elegidos();
   contenido_.proceso.reset();
   if (elegidos.size() == 2 && static_cast<std::size_t>(elegidos[1]) < puntos.size()) {
     contenido_.proceso.emplace(elegidos[0], elegidos[1]);
@@ -177,12 +197,12 @@ void Vistapsicrometrico::ActualizarPuntos() {
   QString proceso;
   if (contenido_.proceso)
     proceso = TextoDeProceso(puntos[contenido_.proceso->first], puntos[contenido_.proceso->second], presion);
-  pagina_.PonPuntos(filas, proceso);
+  pagina_.DameTabla().Poner(filas, proceso);
   pagina_.DameMarco().Redibujar();
 }
 
 void Vistapsicrometrico::BorrarPuntos() {
-  const QList<int> elegidos = pagina_.PuntosElegidos();
+  const QList<int> elegidos = pagina_.DameTabla().Elegidos();
   if (elegidos.isEmpty()) contenido_.puntos.clear();
   for (auto i = elegidos.crbegin(); i != elegidos.crend(); ++i)
     contenido_.puntos.erase(contenido_.puntos.begin() + *i);

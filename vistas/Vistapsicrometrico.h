@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vistas/Bandaelastica.h"
 #include "vistas/Pintorcarta.h"
 
 #include <QColor>
@@ -8,7 +9,6 @@
 #include <QPointer>
 #include <QString>
 
-#include <array>
 #include <functional>
 
 namespace tesmo {
@@ -33,10 +33,12 @@ public:
 
   /// Pone la presión por la altitud, quita las marcas y dibuja la carta desde el principio.
   void redibujar();
-  /// Enseña el estado del píxel (@p x, @p y) de la carta; por encima de la saturación no cambia nada.
+  /// Enseña lo que hay en el píxel (@p x, @p y) de la carta, aunque caiga fuera de la imagen; por encima de
+  /// la saturación no cambia nada.
   void lecturaPuntero(int x, int y);
-  /// Botón del ratón en un píxel de la carta: fija ahí un punto, si hay estado.
-  void botonPulsado(int x, int y);
+  /// Botón del ratón en un píxel de la carta: suelta la banda elástica con el modo de pluma @p modo o, sin
+  /// banda, lleva a él sus esquinas y fija ahí un punto, si hay estado.
+  void botonPulsado(int x, int y, ModoPluma modo = ModoPluma::Inversion);
   /// Carga si hace falta y marca las horas del período que caen en el horario. Sin localidad o sin fichero se
   /// enseña el mensaje y no cambia nada.
   void representar();
@@ -45,12 +47,15 @@ public:
 
   void PonColorMarca(const QColor &color);
   [[nodiscard]] const ContenidoCarta &Contenido() const { return contenido_; }
+  /// La banda elástica: ningún control la activa.
+  [[nodiscard]] BandaElastica &Banda() { return banda_; }
   [[nodiscard]] bool GuardarImagen(const QString &ruta) const;
 
 private:
   void Conectar();
   void PonPresion();
   void PonAltitud(std::optional<float> altitud);
+  void FijarPunto(int x, int y);
   void MarcarPeriodo();
   void ActualizarPuntos();
   void BorrarPuntos();
@@ -66,10 +71,9 @@ private:
   ContenidoCarta contenido_;
   ColorBgr color_;
   QPointer<MarcoCarta> marco_;
-  int puntosFijados_ = 0;          ///< desde que se abrió la ventana: da nombre al siguiente
-  bool banda_ = false;             ///< la banda elástica: ningún control la pone
-  std::array<QPoint, 2> esquinas_; ///< las de la banda, mientras se pulsa el botón
-  QObject avisos_;                 ///< corta con su muerte las señales que llegan aquí
+  int puntosFijados_ = 0; ///< desde que se abrió la ventana: da nombre al siguiente
+  BandaElastica banda_;
+  QObject avisos_; ///< corta con su muerte las señales que llegan aquí
 };
 
 } // namespace tesmo

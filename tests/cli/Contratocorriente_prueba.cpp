@@ -56,7 +56,7 @@ TEST_F(OrdenCorriente, ElGuionPuedeLlevarMarcaUtf8OEstarEnWindows1252) {
                                "aire pont_w 12 0\naire ponNombre año\naño dame t\n";
   const std::string enWindows = "aire pont_w 12 0\naire ponNombre a\xF1o\na\xF1o dame t\naño dame t\n";
   EXPECT_EQ(Guion(conMarca).salida, "12.000000\n");
-  EXPECT_EQ(Orden({"corriente"}, {}, conMarca).salida, "12.000000\n");
+  EXPECT_EQ(Orden({"corriente"}, {}, raiz_.Escribir("entrada.txt", conMarca)).salida, "12.000000\n");
   EXPECT_EQ(Guion(enWindows).salida, "12.000000\n12.000000\n");
 }
 

@@ -11,8 +11,8 @@ namespace tesmo::prueba {
 namespace {
 
 /// Un año con sol de 8 a 17 h, aire a medio saturar y viento constante.
-std::string TextoMet(float base, int registros) {
-  std::string texto = "Datos de prueba\n36.84 -2.39 21.0 15.0\n";
+std::string TextoMet(float base, int registros, float altitud = DatosPrueba::ALTITUD_COSTA) {
+  std::string texto = "Datos de prueba\n36.84 -2.39 " + std::to_string(altitud) + " 15.0\n";
   char linea[200];
   for (int i = 0; i < registros; ++i) {
     const int hora = i % HORAS_DEL_DIA + 1;
@@ -59,7 +59,7 @@ DatosPrueba::DatosPrueba() {
   directorio_.Escribir("Meteo/LocalidadesCC", LOCALIDADES);
   directorio_.Escribir("Meteo/almeria.met", TextoMet(BASE_ALMERIA, HORAS_DEL_ANIO));
   directorio_.Escribir("Meteo/nijar.met", TextoMet(BASE_ALMERIA + 1.0F, HORAS_DEL_ANIO));
-  directorio_.Escribir("Meteo/granada.met", TextoMet(BASE_GRANADA, HORAS_DEL_ANIO));
+  directorio_.Escribir("Meteo/granada.met", TextoMet(BASE_GRANADA, HORAS_DEL_ANIO, ALTITUD_GRANADA));
   directorio_.Escribir("Meteo/tarifa.met", TextoMet(BASE_ALMERIA, REGISTROS_CORTADO));
   directorio_.Escribir("Meteo/GDR.TXT",
                        RegistroGdr("Almeria COSTA 36.84 -2.39 15 10 ALT=21") +

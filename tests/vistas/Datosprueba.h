@@ -27,6 +27,9 @@ public:
   [[nodiscard]] static float DireccionViento(int hora);
   static constexpr float BASE_ALMERIA = 10.0F;
   static constexpr float BASE_GRANADA = -5.0F;
+  /// Altitudes [m] que llevan los ficheros.
+  static constexpr float ALTITUD_COSTA = 21.0F;
+  static constexpr float ALTITUD_GRANADA = 680.0F;
 
 private:
   DirectorioTemporal directorio_;

@@ -1,0 +1,191 @@
+// La nube de horas de la página "Psicrométrico  " y la altitud que fija su presión.
+
+#include "tests/vistas/Manejocarta.h"
+
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QSet>
+#include <QSpinBox>
+
+using namespace tesmo;
+using namespace tesmo::prueba;
+
+class PruebaPsicrometriconube : public QObject, private ManejoCarta {
+  Q_OBJECT
+
+private slots:
+  void init() { Abrir(); }
+  void cleanup() { Cerrar(); }
+
+  void deDoceADoceUnaMarcaPorDia() {
+    ventana_->Localidad("Almería");
+    ventana_->PonAnioEntero();
+    Control<QSpinBox>("csPHorIni").setValue(12);
+    Control<QSpinBox>("csPHorFin").setValue(12);
+    ventana_->Pulsar("btnNubes");
+    const auto &marcas = Vista().Contenido().marcas;
+    QCOMPARE(marcas.size(), std::size_t(365));
+    for (const MarcaNube &marca : marcas) QCOMPARE(marca.hora, 12);
+    QCOMPARE(marcas[31].mes, 2);
+    QCOMPARE(marcas[1].t, DatosPrueba::TemperaturaSeca(24 + 11, DatosPrueba::BASE_ALMERIA));
+  }
+
+  void elPeriodoEmpiezaDondeDiceSuPrimeraHora() {
+    ventana_->Localidad("Almería");
+    ventana_->Poner("csHorIni", 20);
+    ventana_->Pulsar("btnNubes");
+    QCOMPARE(Vista().Contenido().marcas.size(), std::size_t(5));
+    QCOMPARE(Vista().Contenido().marcas.front().hora, 20);
+  }
+
+  void limpiarQuitaTodasLasMarcas() {
+    const QImage limpia = Marco().Imagen(1.0);
+    ventana_->Localidad("Almería");
+    const QImage cargada = Marco().Imagen(1.0);
+    ventana_->Pulsar("btnNubes");
+    QVERIFY(Marco().Imagen(1.0) != cargada);
+    ventana_->Pulsar("btnLimpiar");
+    QVERIFY(Vista().Contenido().marcas.empty());
+    QCOMPARE(Marco().Imagen(1.0), cargada);
+    QVERIFY(!limpia.isNull());
+  }
+
+  void lasMarcasSeAcumulanYCambiarDeLocalidadLasQuita() {
+    ventana_->Localidad("Almería");
+    ventana_->Pulsar("btnNubes");
+    ventana_->Pulsar("btnNubes");
+    QCOMPARE(Vista().Contenido().marcas.size(), std::size_t(48));
+    ventana_->Localidad("Níjar");
+    QVERIFY(Vista().Contenido().marcas.empty());
+  }
+
+  void sinLocalidadMensaje59YNadaCambia() {
+    ventana_->Pulsar("btnNubes");
+    QCOMPARE(marco_->mensajes.apuntes.size(), std::size_t(1));
+    QCOMPARE(marco_->mensajes.apuntes[0].texto, TextoDelMensaje59("Localidad"));
+    QVERIFY(Vista().Contenido().marcas.empty());
+    QVERIFY(QApplication::overrideCursor() == nullptr);
+  }
+
+  void elColorDelPuntoSeEligeEnSuRotulo() {
+    QTest::mouseClick(&Control<QLabel>("lbPunto"), Qt::LeftButton);
+    auto *dialogo = Control<QWidget>("tsPsicrometrico").findChild<QColorDialog *>("cdPunto");
+    QVERIFY(dialogo != nullptr);
+    dialogo->setCurrentColor(Qt::green);
+    dialogo->accept();
+    QCOMPARE(ColorPunto(), QColor(Qt::green));
+    ventana_->Localidad("Almería");
+    ventana_->Pulsar("btnNubes");
+    QCOMPARE(Vista().Contenido().marcas.front().color, 0x00FF00U);
+  }
+
+  void laNubeSeColoreaPorHoraMesOEstacion() {
+    const MarcaNube marca{20.0F, 0.01F, 7, 13, 0x123456};
+    QCOMPARE(ColorDeMarca(marca, ColoreoNube::Uno), 0x123456U);
+    for (const auto &[coloreo, entradas] :
+         {std::pair{ColoreoNube::Hora, 24}, {ColoreoNube::Mes, 12}, {ColoreoNube::Estacion, 4}}) {
+      const auto leyenda = LeyendaDeNube(coloreo);
+      QCOMPARE(leyenda.size(), std::size_t(entradas));
+      QSet<uint> colores;
+      for (const EntradaLeyenda &entrada : leyenda) colores.insert(entrada.color);
+      QCOMPARE(colores.size(), entradas);
+      Control<QComboBox>("cbColorear").setCurrentIndex(static_cast<int>(coloreo));
+      QCOMPARE(Vista().Contenido().coloreo, coloreo);
+    }
+    QCOMPARE(ColorDeMarca(marca, ColoreoNube::Hora), LeyendaDeNube(ColoreoNube::Hora)[12].color);
+    QCOMPARE(ColorDeMarca(marca, ColoreoNube::Mes), LeyendaDeNube(ColoreoNube::Mes)[6].color);
+    QCOMPARE(ColorDeMarca(marca, ColoreoNube::Estacion), LeyendaDeNube(ColoreoNube::Estacion)[2].color);
+    QCOMPARE(ColorDeMarca({0, 0, 12, 1, 0}, ColoreoNube::Estacion),
+             ColorDeMarca({0, 0, 2, 1, 0}, ColoreoNube::Estacion));
+    QVERIFY(LeyendaDeNube(ColoreoNube::Uno).empty());
+  }
+
+  void conElFicheroQueFaltaMensaje59YNadaCambia() {
+    ventana_->Provincia("Granada");
+    ventana_->Localidad("Motril");
+    marco_->mensajes.apuntes.clear(); // el de elegirla
+    ventana_->Pulsar("btnNubes");
+    QCOMPARE(marco_->mensajes.apuntes.size(), std::size_t(1));
+    QCOMPARE(marco_->mensajes.apuntes[0].texto, TextoDelMensaje59("Motril"));
+    QCOMPARE(marco_->mensajes.apuntes[0].titulo, std::string("Información"));
+    QCOMPARE(marco_->mensajes.apuntes[0].icono, Icono::Informacion);
+    QVERIFY(Vista().Contenido().marcas.empty());
+    QVERIFY(QApplication::overrideCursor() == nullptr);
+  }
+
+  void representarElAnioDibujaUnaSolaVez() {
+    ventana_->Localidad("Almería");
+    ventana_->PonAnioEntero();
+    QApplication::processEvents();
+    const int veces = Marco().VecesDibujada();
+    ventana_->Pulsar("btnNubes");
+    QApplication::processEvents();
+    QCOMPARE(Vista().Contenido().marcas.size(), std::size_t(8760));
+    QCOMPARE(Marco().VecesDibujada(), veces + 1);
+  }
+
+  void cadaLocalidadTieneLaPresionDeSuAltitud() {
+    ventana_->Localidad("Almería");
+    QCOMPARE(Carta().damePresion(), PresionA(DatosPrueba::ALTITUD_COSTA));
+    QCOMPARE(Control<QDoubleSpinBox>("csAltitud").value(), double{DatosPrueba::ALTITUD_COSTA});
+    ventana_->Provincia("Granada");
+    ventana_->Localidad("Granada");
+    QCOMPARE(Carta().damePresion(), PresionA(DatosPrueba::ALTITUD_GRANADA));
+    QCOMPARE(Control<QDoubleSpinBox>("csAltitud").value(), double{DatosPrueba::ALTITUD_GRANADA});
+    QVERIFY(PresionA(DatosPrueba::ALTITUD_GRANADA) < PresionA(DatosPrueba::ALTITUD_COSTA) - 7000.0F);
+  }
+
+  void laAltitudDelUsuarioMandaHastaQueCambiaLaLocalidad() {
+    ventana_->Provincia("Granada");
+    ventana_->Localidad("Granada");
+    TeclearAltitud("2000");
+    QCOMPARE(Carta().damePresion(), PresionA(2000.0F));
+    ventana_->Pulsar("btnNubes"); // cargar o derivar no la olvida
+    QCOMPARE(Carta().damePresion(), PresionA(2000.0F));
+    QCOMPARE(ventana_->Controlador().DameSeleccion().DameAltitudUsuario(), std::optional(2000.0F));
+    ventana_->Pulsar("btnAltitudFichero");
+    QCOMPARE(Carta().damePresion(), PresionA(DatosPrueba::ALTITUD_GRANADA));
+    TeclearAltitud("2000");
+    ventana_->Provincia("Almería");
+    ventana_->Localidad("Níjar");
+    QVERIFY(!ventana_->Controlador().DameSeleccion().DameAltitudUsuario());
+    QCOMPARE(Carta().damePresion(), PresionA(DatosPrueba::ALTITUD_COSTA));
+  }
+
+  void laAltitudAdmiteDecimalesConPuntoYConComa() {
+    for (const char separador : {',', '.'}) {
+      const ConSeparador region(separador);
+      for (const char *texto : {"1234.5", "1234,5"}) {
+        TeclearAltitud("0");
+        TeclearAltitud(texto);
+        QCOMPARE(Control<QDoubleSpinBox>("csAltitud").value(), 1234.5);
+        QCOMPARE(Carta().damePresion(), PresionA(1234.5F));
+      }
+    }
+  }
+
+private:
+  void TeclearAltitud(const char *texto) const {
+    auto &casilla = Control<QDoubleSpinBox>("csAltitud");
+    casilla.setFocus();
+    casilla.selectAll();
+    QTest::keyClicks(&casilla, QString::fromLatin1(texto));
+    QTest::keyClick(&casilla, Qt::Key_Return);
+  }
+  [[nodiscard]] QColor ColorPunto() const {
+    return Control<QLineEdit>("edPunto").palette().color(QPalette::Base);
+  }
+  static std::string TextoDelMensaje59(const std::string &localidad) {
+    return "El fichero meteorológico asociado a la ciudad " + localidad + " no se ha podido abrir.\n ";
+  }
+  static float PresionA(float altitud) {
+    Psicro carta;
+    carta.ponAltitud(altitud);
+    return carta.damePresion();
+  }
+};
+
+TESMO_PRUEBA_QT(PruebaPsicrometriconube)
+#include "Psicrometriconube_prueba.moc"

@@ -1,0 +1,109 @@
+#include "vistas/Tablapuntos.h"
+
+#include "vistas/Valoresaire.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tesmo {
+
+namespace {
+
+constexpr int ALTO = 118; ///< [px]
+constexpr char16_t SEPARADOR = u'\t';
+
+} // namespace
+
+TablaPuntos::TablaPuntos(QWidget *padre) : QWidget(padre) {
+  CrearTabla();
+  lbProceso_ = new QLabel;
+  lbProceso_->setObjectName(QStringLiteral("lbProceso"));
+  lbProceso_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  copiar_ = CrearBoton("btnCopiarPuntos", tr("&Copiar tabla"),
+                       tr("Copia los puntos elegidos o, sin elegir, todos"));
+  borrar_ =
+      CrearBoton("btnBorrarPuntos", tr("&Borrar puntos"), tr("Borra los elegidos o, sin elegir, todos"));
+  connect(copiar_, &QPushButton::clicked, this,
+          [this] { QGuiApplication::clipboard()->setText(ComoTexto()); });
+  connect(borrar_, &QPushButton::clicked, this, &TablaPuntos::borrarPedido);
+  auto *fila = new QHBoxLayout;
+  fila->addWidget(lbProceso_, 1);
+  fila->addWidget(copiar_);
+  fila->addWidget(borrar_);
+  auto *pila = new QVBoxLayout(this);
+  pila->setContentsMargins(0, 0, 0, 0);
+  pila->addWidget(tabla_);
+  pila->addLayout(fila);
+  setFixedHeight(ALTO);
+  Poner({}, {});
+}
+
+void TablaPuntos::CrearTabla() {
+  tabla_ = new QTableWidget(0, static_cast<int>(VALORES_AIRE.size()) + 1);
+  tabla_->setObjectName(QStringLiteral("tablaPuntos"));
+  QStringList titulos{tr("Punto")};
+  for (const ValorAire &valor : VALORES_AIRE) {
+    const QString unidad = QString::fromUtf8(valor.unidad);
+    titulos << QString::fromUtf8(valor.rotulo) + (unidad.isEmpty() ? QString() : " (" + unidad + ")");
+  }
+  tabla_->setHorizontalHeaderLabels(titulos);
+  tabla_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  tabla_->verticalHeader()->hide();
+  tabla_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  tabla_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  connect(tabla_, &QTableWidget::itemSelectionChanged, this, &TablaPuntos::elegidosCambiados);
+}
+
+QPushButton *TablaPuntos::CrearBoton(const char *nombre, const QString &texto, const QString &ayuda) {
+  auto *boton = new QPushButton(texto);
+  boton->setObjectName(QString::fromLatin1(nombre));
+  boton->setToolTip(ayuda);
+  return boton;
+}
+
+void TablaPuntos::Poner(const QList<QStringList> &filas, const QString &proceso) {
+  const QSignalBlocker callada(tabla_);
+  tabla_->setRowCount(static_cast<int>(filas.size()));
+  for (int i = 0; i < filas.size(); ++i)
+    for (int j = 0; j < filas[i].size(); ++j) tabla_->setItem(i, j, new QTableWidgetItem(filas[i][j]));
+  lbProceso_->setText(proceso.isEmpty()
+                          ? tr("Pulse en la carta para fijar un punto; dos puntos enseñan su proceso.")
+                          : proceso);
+  copiar_->setEnabled(!filas.isEmpty());
+  borrar_->setEnabled(!filas.isEmpty());
+}
+
+QList<int> TablaPuntos::Elegidos() const {
+  QList<int> filas;
+  for (const QModelIndex &indice : tabla_->selectionModel()->selectedRows()) filas << indice.row();
+  std::sort(filas.begin(), filas.end());
+  return filas;
+}
+
+QString TablaPuntos::LineaDe(int fila) const {
+  QStringList campos;
+  for (int j = 0; j < tabla_->columnCount(); ++j) campos << tabla_->item(fila, j)->text();
+  return campos.join(SEPARADOR);
+}
+
+QString TablaPuntos::ComoTexto() const {
+  QStringList titulos;
+  for (int j = 0; j < tabla_->columnCount(); ++j) titulos << tabla_->horizontalHeaderItem(j)->text();
+  QList<int> filas = Elegidos();
+  if (filas.isEmpty())
+    for (int i = 0; i < tabla_->rowCount(); ++i) filas << i;
+  QStringList lineas{titulos.join(SEPARADOR)};
+  for (const int fila : filas) lineas << LineaDe(fila);
+  return lineas.join(u'\n') + u'\n';
+}
+
+} // namespace tesmo
