@@ -152,7 +152,7 @@ QGroupBox *PaginaPsicrometrico::CrearNube() {
   pila->addLayout(punto);
   auto *botones = new QHBoxLayout;
   QPushButton *nubes = CrearBoton("btnNubes", tr("&Representar"), tr("Marca las horas del período"));
-  QPushButton *limpiar = CrearBoton("btnLimpiar", tr("Li&mpiar"), tr("Quita las marcas"));
+  QPushButton *limpiar = CrearBoton("btnLimpiar", tr("Limp&iar"), tr("Quita las marcas"));
   connect(nubes, &QPushButton::clicked, this, &PaginaPsicrometrico::representarPedido);
   connect(limpiar, &QPushButton::clicked, this, &PaginaPsicrometrico::limpiarPedido);
   botones->addWidget(nubes);
