@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cmath>
-#include <functional>
 #include <set>
 #include <string>
 #include <utility>
@@ -19,7 +18,8 @@ namespace {
 constexpr std::size_t HORAS = static_cast<std::size_t>(HORAS_DEL_ANIO);
 
 /// Los tramos del año cerrado en que se cumple @p falta.
-std::vector<TramoSinDato> Tramos(const std::function<bool(std::size_t)> &falta) {
+template <typename Falta>
+std::vector<TramoSinDato> Tramos(Falta falta) {
   std::size_t inicio = 0;
   while (inicio < HORAS && falta(inicio)) ++inicio;
   if (inicio == HORAS) return {{0, HORAS}};

@@ -65,11 +65,17 @@ bool PareceDeDatos(std::string_view linea, CamposLinea &campos) {
   return campos.size() >= CAMPOS_MINIMOS && LeerEntero(campos[0]) && LeerFecha(campos, fila);
 }
 
-/// Un nombre con comas sin comillas corre los números: se busca dónde empiezan los cuatro últimos.
+/// Un nombre con comas sin comillas corre los números: se busca dónde empiezan los cuatro últimos. El número
+/// de estación, que va delante, no cabe en una latitud.
 std::size_t DondeEstaLaLatitud(const CamposLinea &campos) {
+  constexpr std::array<double, 4> MAYORES{90.0, 180.0, HUSO_MAXIMO, 9000.0};
   const auto cuatroNumeros = [&](std::size_t i) {
-    return i + 4 <= campos.size() && LeerNumero(campos[i]) && LeerNumero(campos[i + 1]) &&
-           LeerNumero(campos[i + 2]) && LeerNumero(campos[i + 3]);
+    bool caben = i + MAYORES.size() <= campos.size();
+    for (std::size_t k = 0; caben && k < MAYORES.size(); ++k) {
+      const std::optional<double> numero = LeerNumero(campos[i + k]);
+      caben = numero && std::fabs(*numero) <= MAYORES[k];
+    }
+    return caben;
   };
   for (std::size_t i = LATITUD; i < campos.size(); ++i) {
     if (cuatroNumeros(i)) return i;

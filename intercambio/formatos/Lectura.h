@@ -70,7 +70,7 @@ struct OpcionesLectura {
   /// dice, tal como lo dice.
   bool paraAuditar = false;
   /// Cómo leer un texto delimitado cualquiera. Si está, no se reconoce el formato: se sigue el mapa.
-  std::shared_ptr<const MapaColumnas> mapa;
+  std::shared_ptr<const MapaColumnas> mapa = nullptr;
 };
 
 struct ResultadoLectura {

@@ -1,3 +1,4 @@
+#include "core/Calendario.h"
 #include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/formatos/Filas.h"
 #include "intercambio/formatos/Lectura.h"
@@ -6,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace tesmo {
 
@@ -68,18 +70,27 @@ bool EsMetDeQuince(std::string_view texto) {
 
 } // namespace
 
-bool EsMetDeTreceColumnas(std::string_view texto) {
+namespace {
+
+/// ¿Llevan trece números todas las líneas de datos, hasta @p registros?
+bool SonDeTrece(std::string_view texto, int registros) {
   Lineas lineas(texto);
   std::string_view linea;
   CamposLinea campos;
   if (!lineas.Siguiente(linea) || !lineas.Siguiente(linea) || !EmpiezaConSitio(linea, campos)) return false;
-  bool hayDatos = false;
-  while (lineas.Siguiente(linea)) {
+  int leidos = 0;
+  while (leidos < registros && lineas.Siguiente(linea)) {
     if (EsLineaVacia(linea)) continue;
     if (!SonNumeros(linea, CAMPOS_MET_TRECE, campos)) return false;
-    hayDatos = true;
+    ++leidos;
   }
-  return hayDatos;
+  return leidos > 0;
+}
+
+} // namespace
+
+bool EsMetDeTreceColumnas(std::string_view texto) {
+  return SonDeTrece(texto, std::numeric_limits<int>::max());
 }
 
 FormatoClima ReconocerFormato(std::string_view texto) {
@@ -94,7 +105,8 @@ FormatoClima ReconocerFormato(std::string_view texto) {
   if (EmpiezaPor(primera, "latitude (decimal degrees)") || EmpiezaPor(primera, "time(utc)"))
     return FormatoClima::PvgisCsv;
   if (Contiene(segunda, "date (mm/dd/yyyy)") && Contiene(segunda, "time (hh:mm)")) return FormatoClima::Tmy3;
-  if (EsMetDeTreceColumnas(texto)) return FormatoClima::MetTrece;
+  // Para importarlo basta el primer día: lo que venga estropeado después se dice con su línea.
+  if (SonDeTrece(texto, HORAS_DEL_DIA)) return FormatoClima::MetTrece;
   if (EsMetDeQuince(texto)) return FormatoClima::MetQuince;
   return FormatoClima::Desconocido;
 }

@@ -1,0 +1,86 @@
+#include "tests/intercambio/formatos/Generadorclima.h"
+
+#include <gtest/gtest.h>
+
+namespace tesmo {
+namespace {
+
+using namespace prueba;
+
+TEST(PvgisCsv, LosValoresElSitioYElReloj) {
+  const ResultadoLectura resultado = LeerTextoClima(Unir(LineasPvgisCsv()));
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_TRUE(resultado.avisos.empty()) << Textos(resultado.avisos);
+  const AnioCanonico &anio = *resultado.anio;
+  EXPECT_EQ(anio.sitio.latitud, 37.18);
+  EXPECT_EQ(anio.sitio.longitud, -3.78);
+  EXPECT_EQ(anio.sitio.altitud, 567.0);
+  EXPECT_EQ(anio.reloj.tiempo, TiempoEtiqueta::Utc);
+  // La hora 00:00 más 0,2 h es la etiqueta 1 menos 48 minutos.
+  EXPECT_DOUBLE_EQ(anio.reloj.desfaseMin, -48.0);
+  EXPECT_EQ(Valor(anio, Campo::TemperaturaSeca, 36), -6.4);
+  EXPECT_EQ(Valor(anio, Campo::HumedadRelativa, 36), 66.0);
+  EXPECT_EQ(Valor(anio, Campo::GlobalHorizontal, 36), 720.0);
+  EXPECT_EQ(Valor(anio, Campo::DirectaNormal, 36), 660.0);
+  EXPECT_EQ(Valor(anio, Campo::DifusaHorizontal, 36), 240.0);
+  EXPECT_EQ(Valor(anio, Campo::InfrarrojaHorizontal, 36), 286.0);
+  EXPECT_EQ(Valor(anio, Campo::VelocidadViento, 36), 3.6);
+  EXPECT_EQ(Valor(anio, Campo::DireccionViento, 36), 252.0);
+  EXPECT_EQ(Valor(anio, Campo::Presion, 36), 95600.0);
+  EXPECT_EQ(anio.anios[36], 2006);
+  EXPECT_EQ(anio.lineas[0], 19);
+}
+
+TEST(PvgisCsv, DaElMismoAnioYElMismoRelojQueSuEpw) {
+  const ResultadoLectura csv = LeerTextoClima(Unir(LineasPvgisCsv()));
+  const ResultadoLectura epw = LeerTextoClima(Unir(LineasPvgisEpw()));
+  ASSERT_TRUE(csv.SinErrores() && epw.SinErrores());
+  EXPECT_DOUBLE_EQ(csv.anio->reloj.desfaseMin, epw.anio->reloj.desfaseMin);
+  for (const Campo campo :
+       {Campo::TemperaturaSeca, Campo::GlobalHorizontal, Campo::DirectaNormal, Campo::Presion})
+    EXPECT_EQ((*csv.anio)[campo].valores, (*epw.anio)[campo].valores) << NombreCampo(campo);
+}
+
+TEST(PvgisCsv, SinDesfaseEscritoSePropone50MinutosAntes) {
+  LineasFichero lineas = LineasPvgisCsv();
+  lineas.erase(lineas.begin() + 3);
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  ASSERT_TRUE(resultado.SinErrores());
+  EXPECT_EQ(resultado.anio->reloj.desfaseMin, -50.0);
+}
+
+TEST(PvgisCsv, LaLeyendaDelFinalNoSonDatos) {
+  const ResultadoLectura resultado = LeerTextoClima(Unir(LineasPvgisCsv(), "\r\n"));
+  ASSERT_TRUE(resultado.SinErrores());
+  EXPECT_EQ(resultado.registros, 8760);
+}
+
+TEST(PvgisCsv, LasColumnasSeBuscanPorSuRotulo) {
+  LineasFichero lineas = LineasPvgisCsv();
+  lineas[17] = "time(UTC),T2m,RH,Gd(h),Gb(n),G(h),IR(h),WS10m,WD10m,SP";
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  ASSERT_TRUE(resultado.SinErrores());
+  EXPECT_EQ(Valor(*resultado.anio, Campo::DifusaHorizontal, 36), 720.0);
+  EXPECT_EQ(Valor(*resultado.anio, Campo::GlobalHorizontal, 36), 240.0);
+}
+
+TEST(PvgisCsv, UnaColumnaQueFaltaSeDice) {
+  LineasFichero lineas = LineasPvgisCsv();
+  lineas[17] = "time(UTC),T2m,RH,G(h),Gb(n),Gd(h),otra,WS10m,WD10m,SP";
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  const NotaLectura nota = NotaDe(resultado.avisos, ClaseNota::Cabecera);
+  EXPECT_EQ(nota.linea, 18);
+  EXPECT_EQ(nota.campo, Campo::InfrarrojaHorizontal);
+}
+
+TEST(PvgisCsv, SinSitioNoHayAnio) {
+  LineasFichero lineas = LineasPvgisCsv();
+  lineas[1] = "Longitude (decimal degrees): ?";
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  EXPECT_FALSE(resultado.anio);
+  EXPECT_NE(NotaDe(resultado.errores, ClaseNota::Cabecera).texto.find("longitud"), std::string::npos);
+}
+
+} // namespace
+} // namespace tesmo
