@@ -4,6 +4,7 @@
 #include "vistas/Casillanumero.h"
 #include "vistas/Textoqt.h"
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -17,11 +18,11 @@ namespace {
 
 constexpr int MESES_DEL_ANIO = 12;
 constexpr int MAXIMO_DIA = 31;
-/// Columnas de la rejilla: dos selectores, latitud, rótulo y tres casillas por extremo, hueco y botón.
+/// Columnas de la rejilla del lugar (dos selectores y latitud) y de la del período (rótulo y tres casillas
+/// por extremo, y botón, con huecos entre medias).
 constexpr int COLUMNA_LATITUD = 2;
-constexpr int COLUMNA_INICIO = 4;
-constexpr int COLUMNA_FIN = 9;
-constexpr int COLUMNA_BOTON = 14;
+constexpr int COLUMNA_FIN = 5;
+constexpr int COLUMNA_BOTON = 10;
 constexpr int HUECO = 12;           ///< entre grupos de controles [px]
 constexpr int LETRAS_SELECTOR = 16; ///< las que se ven del nombre más largo
 constexpr const char *LATITUD_MAS_ANCHA = "-88.88";
@@ -30,27 +31,54 @@ constexpr const char *LATITUD_MAS_ANCHA = "-88.88";
 
 PanelSeleccion::PanelSeleccion(QWidget *padre) : QWidget(padre) {
   setObjectName(QStringLiteral("panelSeleccion"));
-  auto *rejilla = new QGridLayout(this);
-  rejilla->setContentsMargins(6, 2, 6, 4);
-  rejilla->setVerticalSpacing(1);
-  cbProvincias_ = CrearSelector(*rejilla, 0, QStringLiteral("cbProvincias"), tr("&Provincia:"));
-  cbLocalidades_ = CrearSelector(*rejilla, 1, QStringLiteral("cbLocalidades"), tr("&Localidad:"));
-  edLatitud_ = CrearLatitud(*rejilla, COLUMNA_LATITUD);
-  rejilla->setColumnMinimumWidth(COLUMNA_INICIO - 1, HUECO);
-  inicio_ = CrearExtremo(*rejilla, COLUMNA_INICIO, tr("&Desde:"), QStringLiteral("Ini"));
-  rejilla->setColumnMinimumWidth(COLUMNA_FIN - 1, HUECO);
-  fin_ = CrearExtremo(*rejilla, COLUMNA_FIN, tr("&Hasta:"), QStringLiteral("Fin"));
-  rejilla->setColumnMinimumWidth(COLUMNA_BOTON - 1, HUECO);
-  rejilla->setColumnStretch(COLUMNA_BOTON - 1, 1);
+  caja_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
+  caja_->setContentsMargins(6, 2, 6, 4);
+  caja_->setSpacing(HUECO);
+  auto *lugar = CrearRejilla();
+  cbProvincias_ = CrearSelector(*lugar, 0, QStringLiteral("cbProvincias"), tr("&Provincia:"));
+  cbLocalidades_ = CrearSelector(*lugar, 1, QStringLiteral("cbLocalidades"), tr("&Localidad:"));
+  edLatitud_ = CrearLatitud(*lugar, COLUMNA_LATITUD);
+  lugar->setColumnStretch(COLUMNA_LATITUD + 1, 1);
+  auto *periodo = CrearRejilla();
+  inicio_ = CrearExtremo(*periodo, 0, tr("&Desde:"), QStringLiteral("Ini"));
+  periodo->setColumnMinimumWidth(COLUMNA_FIN - 1, HUECO);
+  fin_ = CrearExtremo(*periodo, COLUMNA_FIN, tr("&Hasta:"), QStringLiteral("Fin"));
+  periodo->setColumnMinimumWidth(COLUMNA_BOTON - 1, HUECO);
+  periodo->setColumnStretch(COLUMNA_BOTON - 1, 1);
   btnActualizar_ = new QPushButton(tr("Ac&tualizar"), this);
   btnActualizar_->setObjectName(QStringLiteral("btnActualizar"));
   btnActualizar_->setToolTip(tr("Vuelve a leer la localidad y rehace el gráfico del período"));
-  rejilla->addWidget(btnActualizar_, 1, COLUMNA_BOTON);
+  periodo->addWidget(btnActualizar_, 1, COLUMNA_BOTON);
+  caja_->setStretch(1, 1);
   connect(cbProvincias_, &QComboBox::currentIndexChanged, this, &PanelSeleccion::provinciaCambiada);
   connect(cbLocalidades_, &QComboBox::currentIndexChanged, this, &PanelSeleccion::localidadCambiada);
   connect(btnActualizar_, &QPushButton::clicked, this, &PanelSeleccion::actualizarPedido);
   PonLocalidades({});
   PonPeriodo({});
+}
+
+QGridLayout *PanelSeleccion::CrearRejilla() {
+  auto *rejilla = new QGridLayout;
+  rejilla->setVerticalSpacing(1);
+  caja_->addLayout(rejilla);
+  return rejilla;
+}
+
+/// Lo que cabe en una fila va en una; si no, el período pasa debajo.
+void PanelSeleccion::resizeEvent(QResizeEvent *suceso) {
+  QWidget::resizeEvent(suceso);
+  const QMargins margenes = caja_->contentsMargins();
+  const int unaFila = margenes.left() + caja_->itemAt(0)->sizeHint().width() + HUECO +
+                      caja_->itemAt(1)->sizeHint().width() + margenes.right();
+  caja_->setDirection(width() >= unaFila ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
+/// El de las dos filas: así la ventana puede estrecharse hasta él.
+QSize PanelSeleccion::minimumSizeHint() const {
+  const QMargins margenes = caja_->contentsMargins();
+  const int ancho =
+      std::max(caja_->itemAt(0)->minimumSize().width(), caja_->itemAt(1)->minimumSize().width());
+  return {margenes.left() + ancho + margenes.right(), caja_->minimumSize().height()};
 }
 
 QComboBox *PanelSeleccion::CrearSelector(QGridLayout &rejilla, int columna, const QString &nombre,

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+class QBoxLayout;
 class QComboBox;
 class QGridLayout;
 class QLineEdit;
@@ -17,8 +18,8 @@ class QSpinBox;
 namespace tesmo {
 
 /// Panel bajo las páginas de una ventana de trabajo: provincia, localidad y su latitud, período y
-/// "Actualizar". Sólo controles: no decide nada. Un valor tecleado cuenta cuando se termina (flechas, Intro o
-/// salir de la casilla).
+/// "Actualizar". Sólo controles: no decide nada. Si no cabe en una fila se pone en dos. Un valor tecleado
+/// cuenta cuando se termina (flechas, Intro o salir de la casilla).
 class PanelSeleccion : public QWidget {
   Q_OBJECT
 
@@ -40,11 +41,16 @@ public:
   /// Pone las seis casillas, y el máximo de cada día según su mes, sin emitir señales.
   void PonPeriodo(const Periodo &periodo);
 
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
 signals:
   void provinciaCambiada();
   void localidadCambiada();
   void periodoCambiado();
   void actualizarPedido();
+
+protected:
+  void resizeEvent(QResizeEvent *suceso) override;
 
 private:
   /// Las tres casillas de un extremo del período.
@@ -53,6 +59,7 @@ private:
     QSpinBox *dia = nullptr;
     QSpinBox *hora = nullptr;
   };
+  QGridLayout *CrearRejilla();
   QComboBox *CrearSelector(QGridLayout &rejilla, int columna, const QString &nombre, const QString &titulo);
   QLineEdit *CrearLatitud(QGridLayout &rejilla, int columna);
   Extremo CrearExtremo(QGridLayout &rejilla, int columna, const QString &titulo, const QString &sufijo);
@@ -60,6 +67,7 @@ private:
   static FechaHora Leer(const Extremo &extremo);
   static void Poner(const Extremo &extremo, const FechaHora &fecha);
 
+  QBoxLayout *caja_ = nullptr; ///< lugar y período, en una fila o en dos
   QComboBox *cbProvincias_ = nullptr;
   QComboBox *cbLocalidades_ = nullptr;
   QLineEdit *edLatitud_ = nullptr;

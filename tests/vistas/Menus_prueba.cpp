@@ -6,6 +6,7 @@
 #include "tests/vistas/Manejo.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
@@ -13,6 +14,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -119,6 +121,23 @@ private slots:
         QVERIFY2(!ventana->isMaximized(), orden);
         QVERIFY2(ventana->widget()->width() >= 300 && ventana->height() >= 200, orden);
       }
+    }
+  }
+
+  void enUnaVentanaEstrechaElPanelPasaADosFilasYNadaSeRecorta() {
+    const Ventana ventana = marco_->Numero(0);
+    const auto &localidades = ventana.Buscar<QComboBox>("cbLocalidades");
+    const auto &mes = ventana.Buscar<QSpinBox>("csMesIni");
+    const auto fila = [](const QWidget &control) { return control.geometry().center().y(); };
+    QVERIFY(qAbs(fila(mes) - fila(localidades)) < 8);
+    Orden("mnuNuevo").trigger();
+    Orden("WindowTileVertical1").trigger();
+    QCoreApplication::processEvents();
+    QVERIFY(mes.y() > localidades.geometry().bottom());
+    auto &panel = ventana.Buscar<QWidget>("panelSeleccion");
+    for (const QWidget *control : panel.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+      QVERIFY2(panel.rect().contains(control->geometry()), qPrintable(control->objectName()));
+      QVERIFY2(control->width() >= control->minimumSizeHint().width(), qPrintable(control->objectName()));
     }
   }
 
