@@ -4,6 +4,7 @@
 #include "tests/vistas/Manejocarta.h"
 
 #include <QComboBox>
+#include <QFileDialog>
 #include <QPainter>
 #include <QRegularExpression>
 
@@ -213,6 +214,24 @@ private slots:
     QTRY_VERIFY(Marco().VecesDibujada() > veces);
     QCOMPARE(int(Carta().dameAncho()), Marco().TamanoDeCarta().width());
     QCOMPARE(Vista().Contenido().marcas.size(), std::size_t(24));
+  }
+
+  void elBotonYElMenuPidenDondeGuardarLaCarta() {
+    QWidget &pagina = Control<QWidget>("tsPsicrometrico");
+    const QString ruta = QString::fromStdString((marco_->datos.Directorio() / "carta.png").string());
+    const auto guardar = [&] {
+      auto *dialogo = pagina.findChild<QFileDialog *>(QStringLiteral("sdGuardarCarta"));
+      QVERIFY(dialogo);
+      dialogo->selectFile(ruta);
+      dialogo->accept();
+      QTRY_VERIFY(pagina.findChild<QFileDialog *>() == nullptr);
+      QVERIFY(Contenido(ruta.toStdString()).starts_with("\x89PNG"));
+      QVERIFY(QFile::remove(ruta));
+    };
+    ventana_->Pulsar("btnGuardarCarta");
+    guardar();
+    ElegirEnMenu(Control<QWidget>("imgPsicro"), QPoint(200, 200), "acGuardarCarta");
+    guardar();
   }
 
   void laImagenSeGuardaEnPngSvgYPdf() {

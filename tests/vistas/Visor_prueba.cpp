@@ -222,6 +222,16 @@ private slots:
     QCOMPARE(ventana.Chart().Serie(13).lado, LadoEje::Izquierdo);
   }
 
+  void elMenuReparteLosEjesPorUnidad() {
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Localidad("Almería");
+    ventana.Marcar("cbTS");
+    ventana.Marcar("cbE");
+    ventana.Pulsar("btnSimulacion");
+    ElegirEnMenu(ventana.Casilla("cbTS"), QPoint(5, 5), "acEjesPorUnidad");
+    QVERIFY(ventana.Chart().Serie(0).lado != ventana.Chart().Serie(13).lado);
+  }
+
   void elMenuDeLaLeyendaHaceLoMismo() {
     const Ventana ventana = marco_->Numero(0);
     ventana.Localidad("Almería");
