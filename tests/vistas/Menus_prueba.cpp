@@ -4,6 +4,7 @@
 #include "app/Manual.h"
 #include "core/Rutas.h"
 #include "tests/vistas/Manejo.h"
+#include "vistas/Configuracion.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -208,6 +209,22 @@ private slots:
     const QVariant imagen =
         Manual().loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral("img.png")));
     QVERIFY(imagen.value<QImage>().width() > 0 && imagen.value<QImage>().width() <= 780);
+  }
+
+  void losColoresNuevosLleganATodasLasVentanas() {
+    constexpr std::uint32_t VERDE = 0x0000FF00;
+    Orden("mnuNuevo").trigger();
+    for (std::size_t i = 0; i < 2; ++i) {
+      marco_->Numero(i).Localidad("Almería");
+      marco_->Numero(i).Pulsar("btnSimulacion");
+    }
+    DameTablaDeColores().ponColor(0, VERDE);
+    QTimer::singleShot(0, [] { // si la orden abre un diálogo, se acepta como está
+      if (auto *dialogo = qobject_cast<QDialog *>(QApplication::activeModalWidget())) dialogo->accept();
+    });
+    Orden("mnuColores").trigger();
+    for (std::size_t i = 0; i < 2; ++i) QCOMPARE(marco_->Numero(i).Chart().Serie(0).color, QColor(Qt::green));
+    LiberarTablaDeColores();
   }
 
   void contenidoHaceDelDirectorioDelProgramaElDeTrabajo() {

@@ -4,6 +4,7 @@
 #include "tests/vistas/Manejocarta.h"
 
 #include <QComboBox>
+#include <QDialog>
 #include <QFileDialog>
 #include <QPainter>
 #include <QRegularExpression>
@@ -223,7 +224,7 @@ private slots:
       auto *dialogo = pagina.findChild<QFileDialog *>(QStringLiteral("sdGuardarCarta"));
       QVERIFY(dialogo);
       dialogo->selectFile(ruta);
-      dialogo->accept();
+      static_cast<QDialog *>(dialogo)->accept();
       QTRY_VERIFY(pagina.findChild<QFileDialog *>() == nullptr);
       QVERIFY(Contenido(ruta.toStdString()).starts_with("\x89PNG"));
       QVERIFY(QFile::remove(ruta));
