@@ -7,7 +7,8 @@ namespace tesmo {
 class CorrienteAire;
 
 /// Inscripción de una corriente en el registro de corrientes vivas, en orden de creación. Dura lo que la
-/// corriente que la lleva dentro. El registro es único y no admite varios hilos a la vez.
+/// corriente que la lleva dentro. El registro es único; crear, destruir y buscar corrientes se puede desde
+/// varios hilos, pero una corriente es de un solo hilo.
 class InscripcionCorriente {
 public:
   explicit InscripcionCorriente(CorrienteAire &corriente);
@@ -17,12 +18,12 @@ public:
 
   [[nodiscard]] CorrienteAire &Corriente() const { return corriente_; }
   [[nodiscard]] InscripcionCorriente *Siguiente() const { return siguiente_; }
-  /// La corriente viva más antigua; nulo si no hay ninguna.
+  /// La corriente viva más antigua; nulo si no hay ninguna. Recorrer la lista es de un solo hilo.
   [[nodiscard]] static InscripcionCorriente *Primera();
 
 private:
   CorrienteAire &corriente_;
-  InscripcionCorriente *anterior_;
+  InscripcionCorriente *anterior_ = nullptr;
   InscripcionCorriente *siguiente_ = nullptr;
 };
 

@@ -35,9 +35,9 @@ double IrradianciaExtraterrestre(std::size_t dia) {
   return CONSTANTE_SOLAR * (1.0 + EXCENTRICIDAD * std::cos(2.0 * pi * n / static_cast<double>(DIAS)));
 }
 
-double EcuacionDelTiempo(std::size_t dia) {
+double EcuacionDelTiempo(double dia) {
   constexpr double MINUTOS = 229.18; // de radianes de giro de la Tierra a minutos
-  const double b = 2.0 * pi * static_cast<double>(dia) / static_cast<double>(DIAS);
+  const double b = 2.0 * pi * dia / static_cast<double>(DIAS);
   return MINUTOS / 60.0 *
          (0.000075 + 0.001868 * std::cos(b) - 0.032077 * std::sin(b) - 0.014615 * std::cos(2.0 * b) -
           0.04089 * std::sin(2.0 * b));

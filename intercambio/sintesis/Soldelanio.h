@@ -21,7 +21,8 @@ struct SolDelAnio {
 /// constante solar de 1367 W/m² y 1 + 0,033·cos(2πn/365) por la distancia (Duffie y Beckman, 1991, 1.4).
 [[nodiscard]] double IrradianciaExtraterrestre(std::size_t dia);
 
-/// Tiempo solar menos tiempo civil medio [h] el @p dia del año (0 a 364) (Spencer, 1971).
-[[nodiscard]] double EcuacionDelTiempo(std::size_t dia);
+/// Tiempo solar menos tiempo civil medio [h] a los @p dia días del 1 de enero, con su fracción; continua y de
+/// período un año de 365 días (Spencer, 1971).
+[[nodiscard]] double EcuacionDelTiempo(double dia);
 
 } // namespace tesmo

@@ -93,7 +93,7 @@ double Hermite(const Punto &a, const Punto &b, double instante) {
 } // namespace
 
 double HoraSolarDeUtc(double horaUtc, double longitud, std::size_t dia) {
-  return horaUtc + longitud / GRADOS_POR_HORA + EcuacionDelTiempo(dia);
+  return horaUtc + longitud / GRADOS_POR_HORA + EcuacionDelTiempo(static_cast<double>(dia));
 }
 
 SerieHoras GenerarTemperaturasHorarias(const TemperaturasDiarias &dias, const NormalesLocalidad &localidad,

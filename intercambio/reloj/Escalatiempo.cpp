@@ -1,0 +1,38 @@
+#include "intercambio/reloj/Escalatiempo.h"
+
+#include "intercambio/sintesis/Soldelanio.h"
+
+#include <cmath>
+
+namespace tesmo {
+
+namespace {
+
+constexpr double GRADOS_POR_HORA = 15.0;
+constexpr double MINUTOS_POR_HORA = 60.0;
+constexpr double HORAS_AL_DIA = HORAS_DEL_DIA;
+
+} // namespace
+
+EscalaTiempo::EscalaTiempo(const RelojFichero &reloj, double longitud)
+    : esSolar_(reloj.tiempo == TiempoEtiqueta::SolarVerdadero), desfase_(reloj.desfaseMin / MINUTOS_POR_HORA),
+      huso_(reloj.tiempo == TiempoEtiqueta::OficialEstandar ? reloj.husoHoras : 0.0),
+      desdeCivil_(esSolar_ ? 0.0 : std::remainder(longitud / GRADOS_POR_HORA - huso_, HORAS_AL_DIA)) {}
+
+double EscalaTiempo::DiaUtc(double instante) const { return (instante - huso_) / HORAS_AL_DIA; }
+
+double EscalaTiempo::ASolar(double instante) const {
+  return esSolar_ ? instante : instante + desdeCivil_ + EcuacionDelTiempo(DiaUtc(instante));
+}
+
+double EscalaTiempo::DeSolar(double solar) const {
+  if (esSolar_) return solar;
+  // La ecuación del tiempo cambia medio minuto al día: dos vueltas la dejan exacta.
+  double instante = solar - desdeCivil_;
+  for (int vuelta = 0; vuelta < 2; ++vuelta) {
+    instante = solar - desdeCivil_ - EcuacionDelTiempo(DiaUtc(instante));
+  }
+  return instante;
+}
+
+} // namespace tesmo

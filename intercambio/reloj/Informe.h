@@ -1,0 +1,22 @@
+#pragma once
+
+#include "intercambio/Aniosolar.h"
+#include "intercambio/magnitudes/Aniocompleto.h"
+#include "intercambio/reloj/Radiacionsolar.h"
+
+namespace tesmo {
+
+/// Una conversión, antes y después.
+struct ConversionHecha {
+  const AnioCanonico &anio;
+  const AnioCompleto &completo;
+  const EscalaTiempo &escala;
+  const AnioSolar &solar;
+  const RadiacionEnHoraSolar &radiacion;
+};
+
+/// Pone en @p informe las cuentas, los picos, las energías y el cierre de @p hecha; añade los avisos de lo
+/// que se perdió.
+void Informar(InformeConversion &informe, const ConversionHecha &hecha);
+
+} // namespace tesmo
