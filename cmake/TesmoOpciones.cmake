@@ -28,6 +28,29 @@ else()
   endif()
 endif()
 
+# Con saneadores, lo que no calcula se compila sin optimizar: los saneadores doblan lo que tarda el optimizador y ahí
+# no se gana nada. Vale para los destinos que declare después la carpeta que la llama.
+macro(tesmo_sin_optimizar_con_saneadores)
+  if(TESMO_SANEADORES AND NOT MSVC)
+    add_compile_options(-O0)
+  endif()
+endmacro()
+
+# tesmo_precompilar(destino cabecera…): cabeceras ajenas y pesadas que se leen una vez por destino. Sólo al construir
+# de una vez: con TESMO_PRECOMPILAR apagado cada fichero ha de valerse con las que él mismo incluye.
+function(tesmo_precompilar destino)
+  if(TESMO_PRECOMPILAR)
+    target_precompile_headers(${destino} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
+# tesmo_precompilar_como(destino otro): las mismas cabeceras, ya leídas, de un destino con las mismas opciones.
+function(tesmo_precompilar_como destino otro)
+  if(TESMO_PRECOMPILAR)
+    target_precompile_headers(${destino} REUSE_FROM ${otro})
+  endif()
+endfunction()
+
 # tesmo_motor(nombre FUENTES f1 f2… USA m1 m2…): biblioteca estática tesmo_<nombre>, sin Qt.
 function(tesmo_motor nombre)
   cmake_parse_arguments(M "" "" "FUENTES;USA" ${ARGN})
@@ -43,11 +66,10 @@ function(tesmo_prueba nombre)
   cmake_parse_arguments(P "" "" "FUENTES;USA" ${ARGN})
   add_executable(prueba_${nombre} ${P_FUENTES})
   target_link_libraries(prueba_${nombre} PRIVATE tesmo_opciones GTest::gtest_main)
-  target_compile_definitions(prueba_${nombre} PRIVATE TESMO_RAIZ="${PROJECT_SOURCE_DIR}"
-                                                      TESMO_BIN="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
   foreach(m IN LISTS P_USA)
     target_link_libraries(prueba_${nombre} PRIVATE tesmo_${m})
   endforeach()
+  tesmo_precompilar_como(prueba_${nombre} tesmo_prueba_cabeceras)
   gtest_discover_tests(prueba_${nombre} TEST_PREFIX "${nombre}." DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
 

@@ -1,11 +1,12 @@
 #include "tests/cli/Proceso.h"
+#include "tests/comun/Lugares.h"
 
 namespace tesmo::prueba {
 namespace {
 
 class OrdenSintetizar : public LineaDeOrdenes {};
 
-const std::string NORMALES = std::string(TESMO_RAIZ) + "/datos/normales.csv";
+const std::string NORMALES = tesmo::prueba::Raiz() + "/datos/normales.csv";
 
 TEST_F(OrdenSintetizar, LosDatosQueHaceSonLosQueLeenLasDemasOrdenes) {
   const std::string destino = (raiz_ / "hecho").string();

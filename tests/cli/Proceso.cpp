@@ -1,4 +1,5 @@
 #include "tests/cli/Proceso.h"
+#include "tests/comun/Lugares.h"
 
 #include "core/Formato.h"
 
@@ -75,7 +76,7 @@ std::string LineaDeOrdenes::Met() {
 
 Ejecucion LineaDeOrdenes::Orden(const std::vector<std::string> &argumentos, const std::string &salida,
                                 const std::string &entrada) const {
-  std::vector<std::string> todos{std::string(TESMO_BIN) + "/tesmo-cli"};
+  std::vector<std::string> todos{tesmo::prueba::Programas() + "/tesmo-cli"};
   todos.insert(todos.end(), argumentos.begin(), argumentos.end());
   const std::string ficheroSalida = salida.empty() ? (raiz_ / "salida.txt").string() : salida;
   const std::string ficheroError = (raiz_ / "error.txt").string();

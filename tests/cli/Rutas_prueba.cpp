@@ -1,4 +1,5 @@
 #include "tests/cli/Proceso.h"
+#include "tests/comun/Lugares.h"
 
 namespace tesmo::prueba {
 namespace {
@@ -24,7 +25,7 @@ TEST_F(RutasTecleadas, BaseRelativa) {
 
 TEST_F(RutasTecleadas, SintetizarEnDirectorioRelativo) {
   const Ejecucion e =
-      Orden({"sintetizar", "--normales", std::string(TESMO_RAIZ) + "/datos/normales.csv", "-o", "hecho"});
+      Orden({"sintetizar", "--normales", tesmo::prueba::Raiz() + "/datos/normales.csv", "-o", "hecho"});
   ASSERT_EQ(e.estado, 0) << e.error;
   EXPECT_TRUE(std::filesystem::exists(raiz_ / "trabajo/hecho/Meteo/LocalidadesCC"));
 }

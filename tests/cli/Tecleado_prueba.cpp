@@ -1,4 +1,5 @@
 #include "tests/cli/Proceso.h"
+#include "tests/comun/Lugares.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -24,7 +25,7 @@ public:
     const int terminal = open(esclavo.c_str(), O_RDWR);
     setenv("TERM", "xterm", 1);
     setenv("INPUTRC", "/dev/null", 1);
-    const std::string programa = std::string(TESMO_BIN) + "/tesmo-cli";
+    const std::string programa = tesmo::prueba::Programas() + "/tesmo-cli";
     if (terminal >= 0 && dup2(terminal, 0) >= 0 && dup2(terminal, 1) >= 0 && dup2(terminal, 2) >= 0 &&
         chdir(directorio.c_str()) == 0)
       execl(programa.c_str(), programa.c_str(), "corriente", static_cast<char *>(nullptr));

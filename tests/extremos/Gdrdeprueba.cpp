@@ -3,6 +3,7 @@
 #include "intercambio/sintesis/Escriturameteo.h"
 #include "intercambio/sintesis/Normales.h"
 #include "tests/comun/Apoyos.h"
+#include "tests/comun/Lugares.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +24,8 @@ std::string RegistroDeTexto(const std::string &clave, const std::string &resto) 
 const std::string &GdrDelPrograma() {
   static const std::string texto = [] {
     std::vector<std::string> errores;
-    const auto normales = LeerNormales(Contenido(TESMO_RAIZ "/datos/normales.csv"), "normales.csv", errores);
+    const auto normales =
+        LeerNormales(Contenido(tesmo::prueba::Raiz() + "/datos/normales.csv"), "normales.csv", errores);
     EXPECT_TRUE(errores.empty());
     return TextoGdr(normales);
   }();

@@ -1,6 +1,7 @@
 #include "tests/intercambio/Apoyosintesis.h"
 
 #include "tests/comun/Apoyos.h"
+#include "tests/comun/Lugares.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,7 @@
 
 namespace tesmo::prueba {
 
-std::string RutaNormales() { return std::string(TESMO_RAIZ) + "/datos/normales.csv"; }
+std::string RutaNormales() { return tesmo::prueba::Raiz() + "/datos/normales.csv"; }
 
 const std::vector<NormalesLocalidad> &NormalesDelPrograma() {
   static const std::vector<NormalesLocalidad> NORMALES = [] {

@@ -1,6 +1,7 @@
 #include "core/Lectorclaves.h"
 
 #include "tests/comun/Apoyos.h"
+#include "tests/comun/Lugares.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,7 @@ constexpr std::array<std::string_view, 11> CLAVES{"PER ", "MET ", "TMP ", "RES "
                                                   "DAT",  "IMG",  "FOT",  "DOC",  "BIN"};
 
 std::string Configuracion() {
-  return prueba::Contenido(RutaDesdeTexto(std::string(TESMO_RAIZ) + "/datos/config.ini"));
+  return prueba::Contenido(RutaDesdeTexto(tesmo::prueba::Raiz() + "/datos/config.ini"));
 }
 
 TEST(ConfiguracionDelPrograma, ElEncabezamientoNoContieneNingunaClave) {

@@ -5,6 +5,7 @@
 #include "localidades/Ciudad.h"
 #include "meteo/Lectormet.h"
 #include "tests/comun/Apoyos.h"
+#include "tests/comun/Lugares.h"
 #include "tests/intercambio/Apoyosintesis.h"
 
 #include <gtest/gtest.h>
@@ -103,8 +104,7 @@ TEST_F(Sintesis, LaBaseDeLocalidadesLeeLaListaSinAvisos) {
   const fs::path antes = fs::current_path();
   std::vector<std::string> avisos;
   const auto anterior = PonAvisoLocalidades([&](const std::string &aviso) { avisos.push_back(aviso); });
-  directorio_.Escribir("config.ini",
-                       Contenido(RutaDesdeTexto(std::string(TESMO_RAIZ) + "/datos/config.ini")));
+  directorio_.Escribir("config.ini", Contenido(RutaDesdeTexto(tesmo::prueba::Raiz() + "/datos/config.ini")));
   IniciarConfiguracion(TextoDeRuta(directorio_.Ruta()));
   LiberarBaseDeLocalidades();
   const BaseDeLocalidades &base = DameBaseDeLocalidades();

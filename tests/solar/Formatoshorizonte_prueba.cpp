@@ -2,6 +2,7 @@
 
 #include "solar/Giroshorizonte.h"
 #include "tests/comun/Apoyos.h"
+#include "tests/comun/Lugares.h"
 
 #include <gtest/gtest.h>
 
@@ -281,7 +282,8 @@ TEST(FormatosHorizonte, LoDeOtroProgramaSeUsaConLaVueltaCerrada) {
 class HorizontesReales : public ::testing::Test {
 protected:
   HorizonteLeido Abrir(const char *nombre) {
-    const auto ruta = std::filesystem::path(TESMO_RAIZ) / ".." / "shared" / "datos" / "horizontes" / nombre;
+    const auto ruta =
+        std::filesystem::path(tesmo::prueba::Raiz()) / ".." / "shared" / "datos" / "horizontes" / nombre;
     FalloLectura fallo;
     const auto leido = LeerHorizonteDeFichero(ruta.string(), fallo);
     hay_ = std::filesystem::exists(ruta);

@@ -6,6 +6,7 @@
 
 #include "app/Acercade.h"
 #include "app/Ventanaayuda.h"
+#include "tests/comun/Lugares.h"
 #include "tests/vistas/Manejo.h"
 
 #include <QAbstractItemView>
@@ -67,8 +68,9 @@ bool AbreMenu(const QWidget &control) {
 
 QString CodigoDeLasPruebas() {
   QString codigo;
-  QDirIterator it(QStringLiteral(TESMO_RAIZ "/tests"), {QStringLiteral("*.cpp"), QStringLiteral("*.sh")},
-                  QDir::Files, QDirIterator::Subdirectories);
+  QDirIterator it(QString::fromStdString(tesmo::prueba::Raiz() + "/tests"),
+                  {QStringLiteral("*.cpp"), QStringLiteral("*.sh")}, QDir::Files,
+                  QDirIterator::Subdirectories);
   while (it.hasNext()) {
     QFile fichero(it.next());
     if (fichero.fileName().endsWith(QLatin1String("/Controles_prueba.cpp"))) continue;
