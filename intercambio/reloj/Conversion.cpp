@@ -5,13 +5,17 @@
 #include "intercambio/reloj/Informe.h"
 #include "intercambio/reloj/Interpolacion.h"
 #include "intercambio/reloj/Radiacionsolar.h"
+#include "solar/Geometria.h"
 
+#include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace tesmo {
 
 namespace {
 
+constexpr double GRADO = std::numbers::pi / 180.0;
 constexpr double GRADOS_POR_HORA = 15.0;
 /// El desfase de un fichero que ya está en la hora de los motores [min].
 constexpr double DESFASE_DE_LOS_MOTORES = -30.0;
@@ -64,6 +68,29 @@ void PonerHumedad(AnioSolar &anio, const SerieCanonica &absoluta) {
 void PonerSol(AnioSolar &anio, const SolDelAnio &sol) {
   PonerCalculada(anio[SerieAlmacenada::Acimut], sol.acimut);
   PonerCalculada(anio[SerieAlmacenada::Cenit], sol.cenit);
+}
+
+/// El sol de los motores en el centro de cada hora. El del cenit, que la posición da por noche, es aquí de
+/// día: en el ecuador serían días enteros y no habría dónde poner su radiación.
+SolDelAnio SolDeLosMotores(double latitud) {
+  SolDelAnio sol = CalcularSolDelAnio(latitud);
+  const auto f = static_cast<float>(latitud);
+  for (std::size_t d = 0; d < DIAS; ++d) {
+    const std::size_t mes = MesDe(d);
+    const long double declinacion =
+        DeclinacionSolar(static_cast<int>(mes) + 1, static_cast<int>(d - PrimerDiaDe(mes)) + 1);
+    const SalidaPuesta luz = HorasDeSol(f, declinacion);
+    for (std::size_t h = 0; h < HORAS_POR_DIA; ++h) {
+      const std::size_t i = d * HORAS_POR_DIA + h;
+      const auto hora = static_cast<float>(CentroDeHora(h));
+      if (sol.diurna[i] || !EsHoraDeDia(luz, hora)) continue;
+      const VectorSolar vector = VectorDeDia(f, declinacion, hora);
+      sol.diurna[i] = true;
+      sol.cenit[i] = std::acos(std::clamp(static_cast<double>(vector.z), 0.0, 1.0)) / GRADO;
+      sol.acimut[i] = std::atan2(static_cast<double>(vector.w), static_cast<double>(vector.s)) / GRADO;
+    }
+  }
+  return sol;
 }
 
 /// Un año que ya está en la hora de los motores.
@@ -123,7 +150,7 @@ ResultadoConversion LlevarAHoraSolar(const AnioCanonico &anio, const RelojFicher
   resultado.error = completo.error;
   if (!resultado.error.empty()) return resultado;
 
-  const SolDelAnio sol = CalcularSolDelAnio(anio.sitio.latitud);
+  const SolDelAnio sol = SolDeLosMotores(anio.sitio.latitud);
   informe.intacto = YaEstaEnHora(reloj);
   informe.avisos = completo.avisos;
   RadiacionEnHoraSolar radiacion;
