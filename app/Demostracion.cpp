@@ -7,6 +7,7 @@
 #include "core/Mensajes.h"
 #include "meteo/Leermet.h"
 #include "vistas/Grafico.h"
+#include "vistas/Guardardibujo.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -117,7 +118,7 @@ private:
   [[nodiscard]] QString Ruta(const QString &nombre) const { return QDir(directorio_).filePath(nombre); }
 
   void GuardarVentana(const QString &nombre) {
-    Anunciar(Ruta(nombre), marco_.grab().save(Ruta(nombre), "PNG"));
+    Anunciar(Ruta(nombre), EscribirBytes(Ruta(nombre), BytesPng(marco_.grab().toImage())));
   }
 
   void GuardarGrafico(const QString &nombre) {

@@ -70,11 +70,16 @@ TforPrincipal::TforPrincipal(QWidget *padre) : QMainWindow(padre) {
 
 TforPrincipal::~TforPrincipal() { RetirarTodos(); }
 
-/// Así el informe de los días extremos sólo guarda lo de esta ejecución.
+/// Vacía la traza: así el informe de los días extremos sólo guarda lo de esta ejecución. Lo que falle al
+/// arrancar se dice en la línea de estado.
 void TforPrincipal::FormCreate() {
+  QStringList avisos;
+  const QString base = QString::fromStdString(DameConfiguracion().DirectorioBase());
+  if (!DameConfiguracion().HayFichero())
+    avisos << tr("No hay config.ini en %1: todo se busca en ese directorio.").arg(base);
   if (!EscribirFicheroEntero(RutaDesdeTexto(DiasExtremos::RutaSalida()), {}))
-    avisoArranque_ =
-        tr("No se puede escribir en el directorio del programa: la traza «salida.txt» no se guardará.");
+    avisos << tr("No se puede escribir en %1: la traza «salida.txt» no se guardará.").arg(base);
+  avisoArranque_ = avisos.join(QLatin1Char(' '));
 }
 
 QWidget *TforPrincipal::DameImagen() const { return imagen_.get(); }

@@ -36,7 +36,10 @@ ServicioConfiguracion::ServicioConfiguracion(const std::string &base) {
   base_ = ConSeparadorFinal(error ? base : TextoDeRuta(absoluta));
   fs::current_path(RutaDesdeTexto(base_), error);
   const fs::path ini = BuscarSinMayusculas(RutaDesdeTexto(base_ + "config.ini"));
-  if (const auto contenido = LeerFicheroEntero(ini)) lector_ = LectorClaves(*contenido);
+  if (const auto contenido = LeerFicheroEntero(ini)) {
+    lector_ = LectorClaves(*contenido);
+    hayFichero_ = true;
+  }
   for (std::size_t i = 0; i < NUMERO_CLAVES; ++i) lector_.LeerClave(CLAVES[i], directorios_[i]);
 }
 

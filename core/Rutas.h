@@ -18,6 +18,8 @@ public:
 
   /// Directorio base, con su separador final.
   [[nodiscard]] const std::string &DirectorioBase() const { return base_; }
+  /// ¿Se pudo leer "config.ini"?
+  [[nodiscard]] bool HayFichero() const { return hayFichero_; }
   /// 0 si la clave está en "config.ini"; −1 si no, y @p destino queda como estaba.
   int LeerClave(std::string_view clave, std::string &destino) const;
   int LeerClaveReal(std::string_view clave, float &destino) const;
@@ -34,6 +36,7 @@ private:
   const std::string &Componer(std::size_t directorio, std::string_view nombre);
 
   std::string base_;
+  bool hayFichero_ = false;
   LectorClaves lector_;
   std::array<std::string, NUMERO_CLAVES> directorios_;
   std::string bufer_;

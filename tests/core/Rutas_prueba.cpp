@@ -11,6 +11,7 @@ TEST(Rutas, ComponeBaseDirectorioYNombre) {
   directorio.Escribir("config.ini", "; rutas\nPER = Perfiles\\\nMET = Meteo/\nRES = \"Mis resultados\\\"\n");
   const std::string base = TextoDeRuta(directorio.Ruta()) + "/";
   ServicioConfiguracion servicio(base);
+  EXPECT_TRUE(servicio.HayFichero());
   EXPECT_EQ(servicio.DirectorioBase(), base);
   EXPECT_EQ(servicio.RutaPerfiles("a.txt"), base + "Perfiles/a.txt");
   EXPECT_EQ(servicio.RutaMeteo("LocalidadesCC"), base + "Meteo/LocalidadesCC");
@@ -30,6 +31,7 @@ TEST(Rutas, CadaRutaPisaLaAnterior) {
 TEST(Rutas, SinConfigIniTodoCaeEnElDirectorioBase) {
   DirectorioTemporal directorio;
   ServicioConfiguracion servicio(TextoDeRuta(directorio.Ruta()));
+  EXPECT_FALSE(servicio.HayFichero());
   EXPECT_EQ(servicio.RutaMeteo("GDR.TXT"), TextoDeRuta(directorio / "GDR.TXT"));
   std::string valor = "intacto";
   EXPECT_EQ(servicio.LeerClave("MET ", valor), -1);
