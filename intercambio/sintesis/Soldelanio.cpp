@@ -1,6 +1,6 @@
 #include "intercambio/sintesis/Soldelanio.h"
 
-#include "solar/Posicionsolar.h"
+#include "solar/Soldeldia.h"
 
 #include <cmath>
 #include <numbers>
@@ -47,20 +47,19 @@ SolDelAnio CalcularSolDelAnio(double latitud) {
   SolDelAnio sol{SerieDias(DIAS), SerieDias(DIAS), SerieHoras(HORAS), SerieHoras(HORAS),
                  std::vector<bool>(HORAS)};
   const auto f = static_cast<float>(latitud);
-  PosicionSolar posicion(f, 1, 1, 12.0F);
   for (std::size_t dia = 0; dia < DIAS; ++dia) {
     const int mes = static_cast<int>(MesDe(dia)) + 1;
     const int diaDelMes = static_cast<int>(dia - PrimerDiaDe(MesDe(dia))) + 1;
-    sol.salida[dia] = posicion.CalcularSalidaPuesta(f, mes, diaDelMes).salida;
-    const auto declinacion = static_cast<double>(posicion.Declinacion());
+    const SolDelDia solDelDia(f, mes, diaDelMes);
+    sol.salida[dia] = solDelDia.Horas().salida;
+    const auto declinacion = static_cast<double>(DeclinacionSolar(mes, diaDelMes));
     sol.extraterrestre[dia] = IrradiacionDiaria(dia, latitud, declinacion, sol.salida[dia]);
     for (std::size_t h = 0; h < HORAS_POR_DIA; ++h) {
-      const auto centro = static_cast<float>(CentroDeHora(h));
-      const AngulosSolares angulos = posicion.CalcularPosicion(f, mes, diaDelMes, centro);
+      const PosicionDeVector posicion = solDelDia.En(static_cast<float>(CentroDeHora(h)));
       const std::size_t i = dia * HORAS_POR_DIA + h;
-      sol.diurna[i] = posicion.EsDeDia();
-      sol.acimut[i] = ACentesimas(angulos.acimut);
-      sol.cenit[i] = ACentesimas(angulos.cenit);
+      sol.diurna[i] = posicion.esDeDia;
+      sol.acimut[i] = ACentesimas(posicion.angulos.acimut);
+      sol.cenit[i] = ACentesimas(posicion.angulos.cenit);
     }
   }
   return sol;
