@@ -113,20 +113,22 @@ ResultadoCarga CargarFichero(Programa &programa, const Seleccion &seleccion, con
   return Leer(programa, seleccion, ruta, nombre);
 }
 
-ResultadoCarga PrepararDatos(Programa &programa, const Seleccion &seleccion) {
+ResultadoCarga AsegurarCarga(Programa &programa, const Seleccion &seleccion) {
   if (!seleccion.HayLocalidad()) return SinLocalidad(programa);
-  if (programa.DameLocalidadCargada() != seleccion.DameLocalidad()) {
-    const ResultadoCarga resultado = CargarLocalidad(programa, seleccion);
-    if (resultado != ResultadoCarga::Cargada) return resultado;
-  } else if (HayCasillaVacia(programa, seleccion.DameSuperficie())) {
-    return ResultadoCarga::CasillaVacia;
-  } else {
-    Aplicar(programa, seleccion);
-  }
+  if (programa.DameLocalidadCargada() != seleccion.DameLocalidad())
+    return CargarLocalidad(programa, seleccion);
+  if (HayCasillaVacia(programa, seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
+  Aplicar(programa, seleccion);
+  return ResultadoCarga::Cargada;
+}
+
+ResultadoCarga PrepararDatos(Programa &programa, const Seleccion &seleccion) {
+  const ResultadoCarga resultado = AsegurarCarga(programa, seleccion);
+  if (resultado != ResultadoCarga::Cargada) return resultado;
   if (programa.DamePsicro() != nullptr && programa.DamePosicionSolar() != nullptr)
     programa.DameLeerMet()->AsegurarDerivadas(programa.DamePsicro()->dameParametro(PARAMETRO_PRESION),
                                               *programa.DamePosicionSolar());
-  return ResultadoCarga::Cargada;
+  return resultado;
 }
 
 float AltitudEnUso(const Programa &programa, const Seleccion &seleccion) {

@@ -26,9 +26,12 @@ ResultadoCarga CargarLocalidad(Programa &programa, const Seleccion &seleccion);
 ResultadoCarga CargarFichero(Programa &programa, const Seleccion &seleccion, const std::string &ruta,
                              const std::string &nombre);
 
-/// Lo que toda vista, estadística o exportación llama antes de pedir series: carga si no hay datos de la
-/// localidad elegida; si los hay, pone la superficie, el período y la presión de ahora. Después deja al día
-/// las series derivadas, con el horizonte del PosicionSolar del programa.
+/// Carga si no hay datos de la localidad elegida; si los hay, pone la superficie, el período y la presión de
+/// ahora. No deriva: basta a quien sólo pide series almacenadas.
+ResultadoCarga AsegurarCarga(Programa &programa, const Seleccion &seleccion);
+
+/// Lo que toda vista, estadística o exportación llama antes de pedir series: AsegurarCarga y, después, deja
+/// al día las series derivadas, con el horizonte del PosicionSolar del programa.
 ResultadoCarga PrepararDatos(Programa &programa, const Seleccion &seleccion);
 
 /// Altitud [m] que fija la presión: la del usuario y, si no, el tercer dato del fichero cargado; fuera de

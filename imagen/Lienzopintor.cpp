@@ -2,6 +2,9 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace tesmo {
 
 namespace {
@@ -32,9 +35,23 @@ void LienzoPintor::MoverA(int x, int y) {
 }
 
 void LienzoPintor::LineaA(int x, int y) {
-  PonPluma();
-  pintor_.drawLine(x_, y_, x, y);
+  if (grueso_ > 1 && (x == x_ || y == y_)) {
+    PintarRecta(x, y);
+  } else {
+    PonPluma();
+    pintor_.drawLine(x_, y_, x, y);
+  }
   MoverA(x, y);
+}
+
+/// Un trazo grueso horizontal o vertical es un rectángulo: los dos píxeles de los extremos de largo y el
+/// grueso de ancho. El trazador general tarda mucho más y lo alarga por las puntas.
+void LienzoPintor::PintarRecta(int x, int y) {
+  const int alto = x == x_ ? std::abs(y - y_) + 1 : grueso_;
+  const int ancho = y == y_ ? std::abs(x - x_) + 1 : grueso_;
+  const int aUnLado = grueso_ / 2;
+  pintor_.fillRect(std::min(x, x_) - (x == x_ ? aUnLado : 0), std::min(y, y_) - (y == y_ ? aUnLado : 0),
+                   ancho, alto, DeBgr(color_));
 }
 
 /// Cambiar de pluma cuesta más que trazar: sólo cuando se va a usar otra.

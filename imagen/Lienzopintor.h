@@ -18,6 +18,7 @@ public:
 
 private:
   void PonPluma();
+  void PintarRecta(int x, int y);
 
   QPainter &pintor_;
   ColorBgr color_ = 0;

@@ -22,7 +22,9 @@ void DibujarHumedadRelativa(const Psicro &carta, Pluma &pluma);
 void DibujarTemperaturaSeca(const Psicro &carta, Pluma &pluma);
 /// Del borde inferior, o del derecho, a la saturación.
 void DibujarEntalpia(const Psicro &carta, Pluma &pluma);
-/// De la saturación al borde inferior; llegan 0.1 m³/kg más allá del máximo (se conserva).
+/// Lo que las líneas de volumen específico pasan de su máximo [m³/kg]. Se conserva.
+inline constexpr double VOLUMEN_DE_MAS = 0.1;
+/// De la saturación al borde inferior, con VOLUMEN_DE_MAS.
 void DibujarVolumenEspecifico(const Psicro &carta, Pluma &pluma);
 
 } // namespace tesmo

@@ -9,9 +9,6 @@ namespace tesmo {
 
 namespace {
 
-/// Lo que las líneas pasan de su máximo [m³/kg].
-constexpr double MAS_ALLA_DE_VEMAX = 0.1;
-
 float CorteConLaSaturacion(float v, float presion) {
   return BuscarRaiz(0.0F, TOLERANCIA_CARTA, ITERACIONES_CARTA, "No converge intersección VE con HR=100%",
                     [v, presion](float t) {
@@ -27,7 +24,7 @@ void DibujarVolumenEspecifico(const Psicro &carta, Pluma &pluma) {
   const float presion = carta.damePresion();
   CorrienteAire aire;
   Recorrido recorrido;
-  recorrido.Acumulando(rango.minimo, rango.maximo + MAS_ALLA_DE_VEMAX, rango.paso, [&](float v) {
+  recorrido.Acumulando(rango.minimo, rango.maximo + VOLUMEN_DE_MAS, rango.paso, [&](float v) {
     const double t0 = static_cast<double>(v) * presion / aire::RA_CARTA - aire::T0;
     const float t = CorteConLaSaturacion(v, presion);
     aire.pont_w(t, static_cast<float>(humedadSaturacion(t, presion)), presion);

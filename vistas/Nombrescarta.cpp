@@ -1,5 +1,6 @@
 #include "psicro/Constantes.h"
 #include "psicro/Corrienteaire.h"
+#include "psicro/Familiascarta.h"
 #include "psicro/Psicrometrico.h"
 #include "vistas/Pintorcarta.h"
 #include "vistas/Rotulocarta.h"
@@ -76,23 +77,34 @@ void RotularEntalpia(QPainter &pintor, const Psicro &carta) {
                      Giro(a, b));
 }
 
-/// A lo largo de la línea, cerca de su extremo seco; una lleva además el nombre.
+/// Temperatura [°C] de la línea de volumen @p v [m³/kg] a la humedad @p w [kg/kg]:
+/// v = (t + 273,15)·Ra·(1 + w/ε)/p.
+double TemperaturaDeVolumen(const Psicro &carta, double v, double w) {
+  return v * carta.damePresion() / (aire::RA_CARTA * (1.0 + w / aire::EPSILON)) - aire::T0;
+}
+
+/// A lo largo de la línea, cerca de su extremo seco; lleva además el nombre la que baja por la derecha, donde
+/// las líneas son largas.
 void RotularVolumen(QPainter &pintor, const Psicro &carta) {
-  constexpr double SECO = 0.06; // fracción del máximo de humedad a la que va el rótulo
-  constexpr double CON_NOMBRE = 0.88;
+  constexpr double SECO = 0.06;          // fracciones del máximo de humedad a las que van el rótulo
+  constexpr double DEL_NOMBRE = 0.42;    // y el nombre
+  constexpr double POR_LA_DERECHA = 0.8; // fracción de la temperatura máxima
   const double wSeco = SECO * carta.dameRango(Familia::W).maximo;
+  const double wNombre = DEL_NOMBRE * carta.dameRango(Familia::W).maximo;
   const auto enLinea = [&](double v, double w) {
-    // v = (t + 273,15)·Ra·(1 + w/ε)/p a lo largo de la línea.
-    return SitioEnCarta(carta,
-                        v * carta.damePresion() / (aire::RA_CARTA * (1.0 + w / aire::EPSILON)) - aire::T0, w);
+    return SitioEnCarta(carta, TemperaturaDeVolumen(carta, v, w), w);
   };
-  ParaCadaLinea(carta.dameRango(Familia::VE), VOLUMENES_POR_CIFRA, [&](double v) {
+  Rango rango = carta.dameRango(Familia::VE);
+  rango.maximo = static_cast<float>(rango.maximo + VOLUMEN_DE_MAS);
+  bool nombrada = false;
+  ParaCadaLinea(rango, VOLUMENES_POR_CIFRA, [&](double v) {
     const QPointF a = enLinea(v, 1.5 * wSeco);
     const QPointF b = enLinea(v, 0.5 * wSeco);
     RotularSobreLineas(pintor, (a + b) / 2.0, Cifra(v, "0.00"), Giro(a, b));
-    if (std::abs(v - CON_NOMBRE) > 1e-3) return;
-    const double arriba = 4.0 * wSeco;
-    RotularSobreLineas(pintor, enLinea(v, arriba), QObject::tr("Volumen específico (m³/kg)"), Giro(a, b));
+    const double seca = TemperaturaDeVolumen(carta, v, 0.0);
+    if (nombrada || seca < POR_LA_DERECHA * carta.dameRango(Familia::T).maximo) return;
+    nombrada = true;
+    RotularSobreLineas(pintor, enLinea(v, wNombre), QObject::tr("Volumen específico (m³/kg)"), Giro(a, b));
   });
 }
 

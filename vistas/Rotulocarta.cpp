@@ -18,7 +18,7 @@ QPointF Base(const QPainter &pintor, const QString &texto) {
 }
 
 void Perfilar(QPainter &pintor, const QPointF &base, const QString &texto) {
-  constexpr double GRUESO = 2.5; // [px], la mitad por fuera de la letra
+  constexpr double GRUESO = 3.0; // [px], la mitad por fuera de la letra
   QPainterPath letras;
   letras.addText(base, pintor.font(), texto);
   pintor.save();

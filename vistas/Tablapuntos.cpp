@@ -18,7 +18,8 @@ namespace tesmo {
 
 namespace {
 
-constexpr int ALTO = 118; ///< [px]
+constexpr int ALTO = 118;       ///< con tres filas a la vista [px]
+constexpr int AIRE_DE_FILA = 4; ///< [px]
 constexpr char16_t SEPARADOR = u'\t';
 
 } // namespace
@@ -58,6 +59,7 @@ void TablaPuntos::CrearTabla() {
   tabla_->setHorizontalHeaderLabels(titulos);
   tabla_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   tabla_->verticalHeader()->hide();
+  tabla_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + AIRE_DE_FILA);
   tabla_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   tabla_->setSelectionBehavior(QAbstractItemView::SelectRows);
   connect(tabla_, &QTableWidget::itemSelectionChanged, this, &TablaPuntos::elegidosCambiados);
@@ -74,7 +76,11 @@ void TablaPuntos::Poner(const QList<QStringList> &filas, const QString &proceso)
   const QSignalBlocker callada(tabla_);
   tabla_->setRowCount(static_cast<int>(filas.size()));
   for (int i = 0; i < filas.size(); ++i)
-    for (int j = 0; j < filas[i].size(); ++j) tabla_->setItem(i, j, new QTableWidgetItem(filas[i][j]));
+    for (int j = 0; j < filas[i].size(); ++j) {
+      auto *campo = new QTableWidgetItem(filas[i][j]);
+      campo->setTextAlignment(Qt::AlignCenter);
+      tabla_->setItem(i, j, campo);
+    }
   lbProceso_->setText(proceso.isEmpty()
                           ? tr("Pulse en la carta para fijar un punto; dos puntos enseñan su proceso.")
                           : proceso);

@@ -145,7 +145,8 @@ void Vistapsicrometrico::representar() {
   const CursorOcupado ocupado;
   seleccion_.PonPeriodo(panel_.LeerPeriodo());
   const float presion = contenido_.carta.damePresion();
-  if (PrepararDatos(programa_, seleccion_) != ResultadoCarga::Cargada) return;
+  // Las dos series que se marcan están en el fichero: no hay nada que derivar.
+  if (AsegurarCarga(programa_, seleccion_) != ResultadoCarga::Cargada) return;
   if (contenido_.carta.damePresion() != presion) redibujar(); // lo de antes era de otro sitio
   MarcarPeriodo();
   pagina_.DameMarco().Redibujar();

@@ -51,14 +51,12 @@ private slots:
     const QImage imagen = Marco().Imagen(1.0);
     const QPoint centro = SitioDeLaMarca();
     const QRect caja = Caja(imagen, Qt::blue);
-    // Brazos de 3 px a cada lado del centro; el trazo de 2 px de grueso llega uno más allá por un lado.
-    QVERIFY2(caja.width() >= 7 && caja.width() <= 8, qPrintable(QString::number(caja.width())));
-    QCOMPARE(caja.height(), caja.width());
-    QVERIFY(std::abs(caja.center().x() - centro.x()) <= 1);
-    QVERIFY(std::abs(caja.center().y() - centro.y()) <= 1);
+    QCOMPARE(caja.topLeft(), centro - QPoint(3, 3));
+    QCOMPARE(caja.size(), QSize(7, 7)); // brazos de 3 px a cada lado del centro
     QCOMPARE(imagen.pixelColor(centro), QColor(Qt::blue));
-    // Dos trazos de 2 px que se cruzan en 2 × 2.
-    QCOMPARE(Cuantos(imagen, Qt::blue), 2 * 2 * caja.width() - 4);
+    QCOMPARE(Cuantos(imagen, Qt::blue), 2 * 7 * 2 - 2 * 2); // dos trazos de 7 × 2 que se cruzan
+    QCOMPARE(Cuantos(imagen.copy(caja.left(), centro.y() - 1, 7, 2), Qt::blue), 14);
+    QCOMPARE(Cuantos(imagen.copy(centro.x() - 1, caja.top(), 2, 7), Qt::blue), 14);
   }
 
   void laMarcaVaASuSitioAlCambiarDeTamano() {
@@ -70,15 +68,14 @@ private slots:
     const QImage imagen = Marco().Imagen(1.0);
     QCOMPARE(imagen.pixelColor(SitioDeLaMarca()), QColor(Qt::blue));
     const QRect caja = Caja(imagen, Qt::blue);
-    QVERIFY((caja.center() - SitioDeLaMarca()).manhattanLength() <= 2);
+    QCOMPARE(caja, QRect(SitioDeLaMarca() - QPoint(3, 3), QSize(7, 7)));
   }
 
   void alDobleDeDensidadLaMarcaTieneElDobleDePixeles() {
     MarcarSoloUna();
     const QRect sencilla = Caja(Marco().Imagen(1.0), Qt::blue);
     const QRect doble = Caja(Marco().Imagen(2.0), Qt::blue);
-    QCOMPARE(doble.width(), 2 * sencilla.width());
-    QVERIFY((doble.center() - 2 * sencilla.center()).manhattanLength() <= 4);
+    QCOMPARE(doble, QRect(2 * sencilla.topLeft(), 2 * sencilla.size()));
   }
 
   void elDibujoTieneLaDensidadDeLaPantalla() { // se pasa también con la pantalla al doble

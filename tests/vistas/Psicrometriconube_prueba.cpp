@@ -1,5 +1,6 @@
 // La nube de horas de la página "Psicrométrico  " y la altitud que fija su presión.
 
+#include "meteo/Leermet.h"
 #include "tests/vistas/Manejocarta.h"
 
 #include <QColorDialog>
@@ -124,6 +125,14 @@ private slots:
     QApplication::processEvents();
     QCOMPARE(Vista().Contenido().marcas.size(), std::size_t(8760));
     QCOMPARE(Marco().VecesDibujada(), veces + 1);
+  }
+
+  void representarNoDerivaNada() {
+    ventana_->Localidad("Almería");
+    ventana_->Controlador().DameLeerMet()->LiberarDerivadas();
+    ventana_->Pulsar("btnNubes");
+    QCOMPARE(Vista().Contenido().marcas.size(), std::size_t(24));
+    QVERIFY(!ventana_->Controlador().DameLeerMet()->DerivadasPresentes());
   }
 
   void cadaLocalidadTieneLaPresionDeSuAltitud() {
