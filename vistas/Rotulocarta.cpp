@@ -23,7 +23,7 @@ void Perfilar(QPainter &pintor, const QPointF &base, const QString &texto) {
   letras.addText(base, pintor.font(), texto);
   pintor.save();
   pintor.setRenderHint(QPainter::Antialiasing);
-  pintor.strokePath(letras, QPen(Qt::white, GRUESO, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  pintor.strokePath(letras, QPen(Qt::white, GRUESO, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin));
   pintor.restore();
 }
 
