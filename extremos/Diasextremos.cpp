@@ -70,6 +70,8 @@ bool DiasExtremos::CalcularRegistro(const std::string &ruta, const std::string &
     return false;
   }
   resultado_ = extremos::CalcularDias(registro, calefaccion, refrigeracion);
+  localidadCalculada_ = localidad_;
+  provinciaCalculada_ = provincia_;
   mesCalculadoCal_ = calefaccion.mes;
   mesCalculadoRef_ = refrigeracion.mes;
   claridadDiaria_ = static_cast<float>(resultado_.refrigeracion.traza.claridadDiaria);
@@ -98,7 +100,8 @@ bool DiasExtremos::EscribirFicheros() const {
 bool DiasExtremos::EscribirFicherosEn(const std::string &directorio) const {
   const std::filesystem::path base = RutaDesdeTexto(directorio);
   const auto escribir = [&](const char *nombre, const extremos::DiaDeProyecto &dia, int mes) {
-    return EscribirFicheroEntero(base / nombre, extremos::TextoDeDia(dia, mes, localidad_, provincia_));
+    return EscribirFicheroEntero(base / nombre,
+                                 extremos::TextoDeDia(dia, mes, localidadCalculada_, provinciaCalculada_));
   };
   return escribir(FICHERO_CALEFACCION, resultado_.calefaccion.dia, mesCalculadoCal_) &&
          escribir(FICHERO_REFRIGERACION, resultado_.refrigeracion.dia, mesCalculadoRef_);

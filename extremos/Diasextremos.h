@@ -37,7 +37,8 @@ public:
   /// Escribe "extreCal.met" y "extreRef.met" en el directorio de resultados. Si el primero no se puede abrir
   /// no se escribe el segundo. No enseña nada; falso si alguno faltó.
   bool EscribirFicheros() const;
-  /// Los mismos ficheros en @p directorio.
+  /// Los mismos ficheros en @p directorio. Llevan la localidad, la provincia y los meses del último cálculo
+  /// logrado.
   bool EscribirFicherosEn(const std::string &directorio) const;
   /// Fichero al que cada cálculo logrado añade su traza; vacío, ninguno (así empieza).
   void PonFicheroSalida(std::string ruta) { ficheroSalida_ = std::move(ruta); }
@@ -105,6 +106,9 @@ private:
   MesesDeTemporada temporadaRefrigeracion_{0, 0, 0, 0, 0, 1, 1, 1, 1, 0, 0, 0};
   std::array<std::int32_t, NUMERO_COLORES> colores_;
   bool calculado_ = false;
+  // De qué es el resultado, aunque los ajustes cambien después.
+  std::string localidadCalculada_;
+  std::string provinciaCalculada_;
   int mesCalculadoCal_ = 1;
   int mesCalculadoRef_ = 1;
   extremos::ResultadoDias resultado_;

@@ -165,12 +165,20 @@ TEST_F(Dias, ConLosMesesDeFabricaTodaFilaLlevaUnoYSiete) {
 }
 
 // El mes de los ficheros es el que se calculó, aunque luego se teclee otro.
-TEST_F(Dias, LosFicherosLlevanElMesCalculado) {
+TEST_F(Dias, LosFicherosLlevanElMesYLosNombresCalculados) {
   DiasExtremos dias;
+  dias.PonTexto("Localidad", "Níjar");
+  dias.PonTexto("Provincia", "La de Níjar");
   ASSERT_TRUE(Calcular(dias));
   dias.PonTexto("Mes calefacción", "3");
+  dias.PonTexto("Localidad", "Otra");
+  dias.PonTexto("Provincia", "Otra");
   ASSERT_TRUE(dias.EscribirFicherosEn(TextoDeRuta(base_ / "Resultados")));
-  EXPECT_NE(prueba::Contenido(base_ / "Resultados" / "extreCal.met").find("\n1\t15\t0\t"), std::string::npos);
+  const std::string calefaccion = prueba::Contenido(base_ / "Resultados" / "extreCal.met");
+  EXPECT_NE(calefaccion.find("\n1\t15\t0\t"), std::string::npos);
+  EXPECT_TRUE(calefaccion.starts_with("Níjar La de Níjar\n")) << calefaccion.substr(0, 40);
+  EXPECT_TRUE(
+      prueba::Contenido(base_ / "Resultados" / "extreRef.met").starts_with("Níjar La de Níjar\n"));
 }
 
 TEST_F(Dias, SiElPrimerFicheroNoSePuedeAbrirNoSeEscribeElSegundo) {
