@@ -5,6 +5,8 @@
 #include "cli/Perfildehorizonte.h"
 #include "core/Ficheros.h"
 #include "core/Mensajes.h"
+#include "core/Rutas.h"
+#include "intercambio/formatos/Lectura.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
 #include "psicro/Psicrometrico.h"
@@ -47,9 +49,24 @@ void LeerHorizonte(const std::string &ruta, Contexto &contexto, PosicionSolar &s
   CopiarHorizonte(PerfilParaUsar(LeerHorizonteDado(ruta, ruta, contexto)), sol);
 }
 
-void AvisarSiEsCorto(const Programa &programa, Contexto &contexto) {
+std::string FicheroLeido(const PeticionSeleccion &peticion, const Programa &programa) {
+  if (!peticion.fichero.empty()) return peticion.fichero;
+  return DameConfiguracion().RutaMeteo(
+      programa.DameLocalidades()->DameTextoDe(peticion.localidad, "Fichero"));
+}
+
+/// De los números de 8760 líneas de trece salen 7592 registros de quince: sólo un fichero que se quedó corto
+/// puede ser de trece columnas, y mirarlo otra vez no retrasa a los demás.
+void AvisarSiEsCorto(const PeticionSeleccion &peticion, const Programa &programa, Contexto &contexto) {
   const ResumenLectura &resumen = programa.DameLeerMet()->Resumen();
   if (resumen.registros >= HORAS_DEL_ANIO) return;
+  const std::string fichero = FicheroLeido(peticion, programa);
+  if (EsFicheroMetDeTreceColumnas(fichero)) {
+    Avisar(contexto,
+           programa.DameLocalidadCargada() + ": " + fichero +
+               " lleva trece columnas y se lee como si fueran quince: ningún valor está en su sitio; "
+               "impórtelo con «tesmo-cli importar»");
+  }
   Avisar(contexto, programa.DameLocalidadCargada() + ": se han leído " + std::to_string(resumen.registros) +
                        " registros de " + std::to_string(HORAS_DEL_ANIO) + "; la lectura paró en la línea " +
                        std::to_string(resumen.linea));
@@ -70,7 +87,7 @@ void Cargar(const PeticionSeleccion &peticion, Contexto &contexto, std::optional
   const ResultadoCarga resultado = CargarUna(peticion, *programa, seleccion);
   if (resultado == ResultadoCarga::CasillaVacia) throw Fallo(Estado::UsoIncorrecto, "");
   if (resultado != ResultadoCarga::Cargada) throw Fallo(Estado::FaltaEntrada, "");
-  AvisarSiEsCorto(*programa, contexto);
+  AvisarSiEsCorto(peticion, *programa, contexto);
   if (peticion.presion) programa->DamePsicro()->ponPresion(*peticion.presion);
   programa->DameLeerMet()->AsegurarDerivadas(programa->DamePsicro()->damePresion(),
                                              *programa->DamePosicionSolar());

@@ -97,6 +97,11 @@ ResultadoLectura LeerTextoClima(std::string_view texto, const OpcionesLectura &o
   return resultado;
 }
 
+bool EsFicheroMetDeTreceColumnas(const std::string &ruta) {
+  const std::optional<std::string> texto = LeerFicheroEntero(BuscarSinMayusculas(RutaDesdeTexto(ruta)));
+  return texto && EsMetDeTreceColumnas(*texto);
+}
+
 ResultadoLectura LeerFicheroClima(const std::string &ruta, const OpcionesLectura &opciones) {
   ResultadoLectura resultado;
   Cuaderno cuaderno(resultado);

@@ -96,6 +96,8 @@ struct ResultadoLectura {
 /// Un .met con exactamente trece números en cada línea de datos (desde la tercera): el lector de quince
 /// columnas lo leería sin quejarse y todo en otro sitio.
 [[nodiscard]] bool EsMetDeTreceColumnas(std::string_view texto);
+/// Lo mismo de un fichero; falso si no se puede leer.
+[[nodiscard]] bool EsFicheroMetDeTreceColumnas(const std::string &ruta);
 
 /// Lee el año de un fichero ajeno. @p ruta en UTF-8, buscada sin distinguir mayúsculas si no está tal cual.
 [[nodiscard]] ResultadoLectura LeerFicheroClima(const std::string &ruta,

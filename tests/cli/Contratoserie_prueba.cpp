@@ -50,6 +50,40 @@ TEST_F(OrdenSerie, FicheroCortoEstado0CerosYAviso) {
   EXPECT_TRUE(e.error.starts_with("Aviso: Rota: se han leído 48 registros de 8760;")) << e.error;
 }
 
+/// Dos días de un .met de trece columnas.
+std::string MetTrece() {
+  std::string texto = "trece\n36.5 -6.3 20 15\n";
+  for (int i = 0; i < 48; ++i)
+    texto += "1 " + std::to_string(1 + i / 24) + " " + std::to_string(1 + i % 24) +
+             " 10 0 0 0 0.005 60 2 90 0 90\n";
+  return texto;
+}
+
+TEST_F(OrdenSerie, UnMetDeTreceColumnasSeLeePeroSeAvisa) {
+  raiz_.Escribir("trece.met", MetTrece());
+  const Ejecucion e =
+      ConBase({"serie", "--fichero", (raiz_ / "trece.met").string(), "--hasta", "1/1/1", "TS"});
+  EXPECT_EQ(e.estado, 0);
+  EXPECT_NE(e.error.find("trece columnas"), std::string::npos) << e.error;
+  EXPECT_NE(e.error.find("importar"), std::string::npos) << e.error;
+}
+
+TEST_F(OrdenSerie, UnaLocalidadConMetDeTreceColumnasTambienAvisa) {
+  std::filesystem::path met;
+  for (const auto &entrada : std::filesystem::recursive_directory_iterator(base_)) {
+    if (entrada.path().extension() == ".met") met = entrada.path();
+  }
+  ASSERT_FALSE(met.empty());
+  std::ofstream(met) << MetTrece();
+  EXPECT_NE(Serie({"--hasta", "1/1/1", "TS"}).error.find("trece columnas"), std::string::npos);
+}
+
+TEST_F(OrdenSerie, UnMetCortoDeQuinceColumnasNoSeConfundeConUnoDeTrece) {
+  const Ejecucion e = Serie({"--hasta", "1/1/1", "TS"});
+  EXPECT_NE(e.error.find("se han leído 48 registros"), std::string::npos) << e.error;
+  EXPECT_EQ(e.error.find("trece columnas"), std::string::npos) << e.error;
+}
+
 TEST_F(OrdenSerie, NoFinitosEnTextoYNuloEnJson) {
   raiz_.Escribir("raro.met", "x\n36 -6 0 15\n1 1 1 nan 0 inf -inf 0.005 0 0 0 0 60 0 0\n");
   const Argumentos argumentos{"serie", "--fichero", (raiz_ / "raro.met").string(), "--hasta", "1/1/1", "TS",
