@@ -5,6 +5,7 @@
 
 #include <fstream>
 #include <memory>
+#include <mutex>
 
 namespace tesmo {
 
@@ -14,6 +15,13 @@ namespace {
 std::function<void(std::string_view)> &Destino() {
   static std::function<void(std::string_view)> destino;
   return destino;
+}
+
+/// Varios hilos calculan a la vez y todos pueden dejar un diagnóstico. Recursivo: un destino puede escribir
+/// otro.
+std::recursive_mutex &Cerrojo() {
+  static std::recursive_mutex cerrojo;
+  return cerrojo;
 }
 
 std::string_view Encabezamiento(int codigo) {
@@ -48,17 +56,26 @@ void AbrirRegistro(const std::string &ruta) {
     return;
   }
   // Se vacía en cada escritura: el registro ha de contar lo ocurrido aunque el programa caiga después.
-  Destino() = [fichero](std::string_view texto) {
+  AbrirRegistroEn([fichero](std::string_view texto) {
     fichero->write(texto.data(), static_cast<std::streamsize>(texto.size()));
     fichero->flush();
-  };
+  });
 }
 
-void AbrirRegistroEn(std::function<void(std::string_view)> destino) { Destino() = std::move(destino); }
-void CerrarRegistro() { Destino() = nullptr; }
-bool RegistroAbierto() { return static_cast<bool>(Destino()); }
+void AbrirRegistroEn(std::function<void(std::string_view)> destino) {
+  const std::lock_guard guarda(Cerrojo());
+  Destino() = std::move(destino);
+}
+
+void CerrarRegistro() { AbrirRegistroEn(nullptr); }
+
+bool RegistroAbierto() {
+  const std::lock_guard guarda(Cerrojo());
+  return static_cast<bool>(Destino());
+}
 
 void EscribirRegistro(std::string_view texto) {
+  const std::lock_guard guarda(Cerrojo());
   if (RegistroAbierto()) Destino()(texto);
 }
 

@@ -13,7 +13,8 @@ void AbrirRegistro(const std::string &ruta);
 void AbrirRegistroEn(std::function<void(std::string_view)> destino);
 void CerrarRegistro();
 [[nodiscard]] bool RegistroAbierto();
-/// Escribe @p texto tal cual, sin fin de línea; nada si no hay registro abierto.
+/// Escribe @p texto tal cual, sin fin de línea; nada si no hay registro abierto. De varios hilos, uno cada
+/// vez.
 void EscribirRegistro(std::string_view texto);
 
 /// Códigos de ErrorNumerico.
