@@ -59,11 +59,25 @@ RelojFichero OtroTiempo(const AnioCanonico &anio) {
   return reloj;
 }
 
-MetodoReloj PrimerMetodo(const AnioCanonico &anio) {
-  for (const MetodoReloj metodo : {MetodoReloj::Haz, MetodoReloj::Cenit, MetodoReloj::Simetria}) {
-    if (Evidencia(metodo, anio, anio.reloj)) return metodo;
+/// Lo medido con el primer método que el año permite.
+Medida MedirConElPrimero(const AnioCanonico &anio, MetodoReloj &metodo) {
+  for (const MetodoReloj candidato : {MetodoReloj::Haz, MetodoReloj::Cenit, MetodoReloj::Simetria}) {
+    Medida medida = Medir(candidato, anio, anio.reloj);
+    if (!medida.evidencia) continue;
+    metodo = candidato;
+    return medida;
   }
-  return MetodoReloj::Ninguno;
+  metodo = MetodoReloj::Ninguno;
+  return {nullptr, {anio.reloj, AUSENTE}};
+}
+
+/// Un cenit escrito dice cómo lo calculó quien hizo el fichero, no cuándo se midió su radiación.
+void ContrastarCenit(VeredictoReloj &veredicto, const AnioCanonico &anio) {
+  if (veredicto.metodo != MetodoReloj::Cenit) return;
+  const Medida dias = Medir(MetodoReloj::Simetria, anio, veredicto.propuesto.reloj);
+  if (!dias.evidencia) return;
+  const double desvio = dias.mejor.reloj.desfaseMin - veredicto.desfaseHallado;
+  if (std::fabs(desvio) > DESVIO_DE_MES) AvisarDeRadiacionAparte(veredicto, desvio);
 }
 
 /// Meses que no llevan el reloj del año.
@@ -111,9 +125,8 @@ VeredictoReloj DetectarReloj(const AnioCanonico &anio) {
   veredicto.declarado = {anio.reloj, AUSENTE};
   veredicto.propuesto = veredicto.declarado;
   veredicto.desfasePorMes.fill(AUSENTE);
-  veredicto.metodo = PrimerMetodo(anio);
-  if (veredicto.metodo != MetodoReloj::Ninguno) {
-    Medida elegida = Medir(veredicto.metodo, anio, anio.reloj);
+  Medida elegida = MedirConElPrimero(anio, veredicto.metodo);
+  if (elegida.evidencia) {
     Medida otra = Medir(veredicto.metodo, anio, OtroTiempo(anio));
     veredicto.declarado.residuo = elegida.evidencia->Residuo(anio.reloj.desfaseMin);
     if (otra.evidencia && otra.mejor.residuo < MEJORA_PRECISA * elegida.mejor.residuo)
@@ -122,6 +135,7 @@ VeredictoReloj DetectarReloj(const AnioCanonico &anio) {
     veredicto.horas = elegida.evidencia->Numero();
     veredicto.desfasePorMes = elegida.evidencia->PorMes(veredicto.desfaseHallado);
     Calificar(veredicto, elegida.mejor.residuo);
+    ContrastarCenit(veredicto, anio);
   }
   EscribirVeredicto(veredicto, anio.sitio, MesesAparte(veredicto));
   return veredicto;

@@ -54,9 +54,10 @@ struct VeredictoReloj {
 inline constexpr double TOLERANCIA_RELOJ_MIN = 3.0;
 
 /// Busca el desfase d, de −90 a 90 min, con que el sol casa con los datos de @p anio en el tiempo de etiqueta
-/// que declara y, si con él casa mal, en los demás. Posición verdadera del sol (SolVerdadero). Las horas sin
-/// dato no cuentan. Sin latitud, o sin longitud si la etiqueta no es solar, no se mide nada. Sin estado: se
-/// puede llamar desde varios hilos.
+/// que declara y en el otro (solar frente a civil), que sólo se propone si casa bastante mejor. Si lo mejor
+/// está en el borde, el huso no es el suyo: se busca en el día entero y se avisa. Posición verdadera del sol
+/// (SolVerdadero). Las horas sin dato no cuentan. Sin latitud, o sin longitud si la etiqueta no es solar, no
+/// se mide nada. Sin estado: se puede llamar desde varios hilos.
 [[nodiscard]] VeredictoReloj DetectarReloj(const AnioCanonico &anio);
 
 /// Un reloj en palabras: "UTC, etiqueta − 50 min", "hora oficial (UTC+1), etiqueta − 30 min"…

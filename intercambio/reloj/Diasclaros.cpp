@@ -28,20 +28,23 @@ struct DiaDeSol {
   double aspereza = 0;
 };
 
-double Global(const AnioCanonico &anio, std::size_t i) {
+/// La global o, en su lugar, otra radiación igual de simétrica en un día claro.
+double Radiacion(const AnioCanonico &anio, std::size_t i) {
   const double global = anio[Campo::GlobalHorizontal].valores[i];
   if (!std::isnan(global)) return global;
   const double suma = anio[Campo::DirectaHorizontal].valores[i] + anio[Campo::DifusaHorizontal].valores[i];
-  return std::isnan(suma) ? 0.0 : suma;
+  if (!std::isnan(suma)) return suma;
+  const double normal = anio[Campo::DirectaNormal].valores[i];
+  return std::isnan(normal) ? 0.0 : normal;
 }
 
 /// Los 365 días, contados de medianoche a medianoche solares de la etiqueta.
 std::vector<DiaDeSol> Dias(const AnioCanonico &anio, const EscalaTiempo &escala) {
   std::vector<DiaDeSol> dias(DIAS);
   for (std::size_t i = 0; i < HORAS; ++i) {
-    const double g = Global(anio, i);
-    const double anterior = Global(anio, (i + HORAS - 1) % HORAS);
-    const double siguiente = Global(anio, (i + 1) % HORAS);
+    const double g = Radiacion(anio, i);
+    const double anterior = Radiacion(anio, (i + HORAS - 1) % HORAS);
+    const double siguiente = Radiacion(anio, (i + 1) % HORAS);
     const double solar = escala.ASolar(static_cast<double>(i) + 1.0) / HORAS_DEL_DIA;
     const double medianoche = std::floor(solar);
     DiaDeSol &dia = dias[static_cast<std::size_t>(medianoche + static_cast<double>(DIAS)) % DIAS];

@@ -94,6 +94,12 @@ void AvisarDeMeses(VeredictoReloj &veredicto, const std::vector<int> &meses) {
 
 } // namespace
 
+void AvisarDeRadiacionAparte(VeredictoReloj &veredicto, double desvio) {
+  veredicto.avisos.push_back(
+      "La radiación de los días claros no sigue al cenit escrito: su mejor desfase está a " +
+      ConSigno(desvio, "0") + " min del hallado. Compruebe cuál de los dos vale.");
+}
+
 std::string Cifra(double valor, const char *patron) {
   std::string texto = valor < 0.0 ? "−" : "";
   PatronNumero(patron).Escribir(texto, std::fabs(valor), ',');

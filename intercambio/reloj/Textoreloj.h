@@ -11,6 +11,9 @@ namespace tesmo {
 void EscribirVeredicto(VeredictoReloj &veredicto, const SitioClima &sitio,
                        const std::vector<int> &mesesAparte);
 
+/// Avisa de que la radiación de los días claros va @p desvio minutos más allá que el cenit escrito.
+void AvisarDeRadiacionAparte(VeredictoReloj &veredicto, double desvio);
+
 /// @p valor con coma decimal y tantos decimales como ceros siguen al punto de @p patron ("0.0").
 [[nodiscard]] std::string Cifra(double valor, const char *patron);
 

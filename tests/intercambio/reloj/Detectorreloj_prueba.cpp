@@ -113,6 +113,31 @@ TEST(DetectorReloj, ConSoloLaGlobalUsaLosDiasClaros) {
   }
 }
 
+TEST(DetectorReloj, SinGlobalUsaLaSimetriaDeLaDirectaNormal) {
+  AnioCanonico anio = Anio(PENINSULA);
+  Quitar(anio, Campo::GlobalHorizontal);
+  const VeredictoReloj veredicto = DetectarReloj(anio);
+  EXPECT_EQ(veredicto.metodo, MetodoReloj::Simetria);
+  EXPECT_NEAR(veredicto.desfaseHallado, -30.0, 5.0);
+}
+
+TEST(DetectorReloj, AvisaSiLaRadiacionNoSigueAlCenitEscrito) {
+  AnioCanonico anio = Anio(SOLAR);
+  const AnioCanonico tarde = Anio({TiempoEtiqueta::SolarVerdadero, 0.0, 0.0});
+  for (std::size_t i = 0; i < 8760; ++i) {
+    const double normal = tarde[Campo::DirectaNormal].valores[i];
+    const double haz = tarde[Campo::GlobalHorizontal].valores[i] - tarde[Campo::DifusaHorizontal].valores[i];
+    const double coseno = normal > 0.0 ? std::min(1.0, haz / normal) : 0.0;
+    anio[Campo::CenitSolar].Poner(i, std::acos(coseno) * 180.0 / 3.14159265358979, Procedencia::Copiada);
+  }
+  Quitar(anio, Campo::DirectaNormal);
+  const VeredictoReloj veredicto = DetectarReloj(anio);
+  ASSERT_EQ(veredicto.metodo, MetodoReloj::Cenit);
+  ASSERT_EQ(veredicto.avisos.size(), 1U) << veredicto.texto;
+  EXPECT_NE(veredicto.avisos[0].find("cenit escrito"), std::string::npos);
+  EXPECT_NE(veredicto.avisos[0].find("− 3"), std::string::npos) << veredicto.avisos[0];
+}
+
 TEST(DetectorReloj, SinSolConQueMedirSeQuedaConLoDeclarado) {
   AnioCanonico anio;
   anio.sitio.latitud = 40.0;
