@@ -97,6 +97,7 @@ ResultadoCarga Leer(Programa &programa, const Seleccion &seleccion, const std::s
 
 ResultadoCarga CargarLocalidad(Programa &programa, const Seleccion &seleccion) {
   if (!seleccion.HayLocalidad()) return SinLocalidad(programa);
+  seleccion.PedirLoPendiente();
   if (HayCasillaVacia(programa, seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
   const std::string &localidad = seleccion.DameLocalidad();
   BaseDeLocalidades &base = *programa.DameLocalidades();
@@ -109,6 +110,7 @@ ResultadoCarga CargarLocalidad(Programa &programa, const Seleccion &seleccion) {
 
 ResultadoCarga CargarFichero(Programa &programa, const Seleccion &seleccion, const std::string &ruta,
                              const std::string &nombre) {
+  seleccion.PedirLoPendiente();
   if (HayCasillaVacia(programa, seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
   return Leer(programa, seleccion, ruta, nombre);
 }
@@ -117,6 +119,7 @@ ResultadoCarga AsegurarCarga(Programa &programa, const Seleccion &seleccion) {
   if (!seleccion.HayLocalidad()) return SinLocalidad(programa);
   if (programa.DameLocalidadCargada() != seleccion.DameLocalidad())
     return CargarLocalidad(programa, seleccion);
+  seleccion.PedirLoPendiente();
   if (HayCasillaVacia(programa, seleccion.DameSuperficie())) return ResultadoCarga::CasillaVacia;
   Aplicar(programa, seleccion);
   return ResultadoCarga::Cargada;

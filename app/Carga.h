@@ -17,9 +17,9 @@ enum class ResultadoCarga {
 
 /// Camino de carga. De la superficie, una casilla que no es un número da el mensaje 62 con su rótulo, y una
 /// fuera de límites la caja de la entrada validada; las dos siguen con el valor por defecto.
-/// Pasos: localidad → fichero → LeerMet → superficie y período → presión por la altitud. La base de
-/// localidades queda con la localidad como "Ciudad". No deriva: las derivadas se hacen al pedirlas
-/// (PrepararDatos o LeerMet::AsegurarDerivadas).
+/// Pasos: lo pendiente de entregar (Seleccion::AntesDeUsar) → localidad → fichero → LeerMet → superficie y
+/// período → presión por la altitud. La base de localidades queda con la localidad como "Ciudad". No deriva:
+/// las derivadas se hacen al pedirlas (PrepararDatos o LeerMet::AsegurarDerivadas).
 ResultadoCarga CargarLocalidad(Programa &programa, const Seleccion &seleccion);
 
 /// El mismo camino con un fichero .met nombrado directamente; @p nombre hace de nombre de la localidad.

@@ -37,6 +37,15 @@ void Seleccion::PonAltitudUsuario(std::optional<float> altitud) {
 
 void Seleccion::AlCambiar(std::function<void(Cambio)> aviso) { avisos_.push_back(std::move(aviso)); }
 
+void Seleccion::AntesDeUsar(std::function<void()> entrega) { entregas_.push_back(std::move(entrega)); }
+
+void Seleccion::PedirLoPendiente() const {
+  for (std::size_t i = 0; i < entregas_.size(); ++i) {
+    const auto entrega = entregas_[i];
+    entrega();
+  }
+}
+
 void Seleccion::Avisar(Cambio cambio) const {
   // Un aviso puede inscribir otros: se recorre por posición y se llama a una copia.
   for (std::size_t i = 0; i < avisos_.size(); ++i) {

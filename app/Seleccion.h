@@ -51,6 +51,12 @@ public:
   /// @p aviso se llama tras cada cambio efectivo, mientras viva la selección, por orden de inscripción.
   void AlCambiar(std::function<void(Cambio)> aviso);
 
+  /// @p entrega se llama cada vez que la selección va a servir para cargar o derivar: es cuando quien tenga
+  /// algo a medio editar (la superficie, el horizonte) ha de entregarlo. Vale mientras viva la selección.
+  void AntesDeUsar(std::function<void()> entrega);
+  /// Llama a las entregas por orden de inscripción.
+  void PedirLoPendiente() const;
+
 private:
   void Avisar(Cambio cambio) const;
 
@@ -60,6 +66,7 @@ private:
   Superficie superficie_;
   std::optional<float> altitud_;
   std::vector<std::function<void(Cambio)>> avisos_;
+  std::vector<std::function<void()>> entregas_;
 };
 
 } // namespace tesmo

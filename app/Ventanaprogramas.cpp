@@ -4,6 +4,7 @@
 #include "vistas/Paginadiasextremos.h"
 #include "vistas/Paginaentorno.h"
 #include "vistas/Paginaexportacion.h"
+#include "vistas/Paginaposicionsolar.h"
 #include "vistas/Paginapsicrometrico.h"
 #include "vistas/Paginaresultadosextremos.h"
 #include "vistas/Panelseleccion.h"
@@ -28,6 +29,8 @@ TforProgramas::TforProgramas(VistaPrograma &controlador, QWidget *padre)
   paginaResultados_ = new PaginaResultadosExtremos;
   pcProgramas_->addTab(paginaResultados_, tr("Resultados Dias extremos"));
   EnsenarResultados(false);
+  paginaPosicionSolar_ = new PaginaPosicionSolar;
+  pcProgramas_->addTab(paginaPosicionSolar_, tr("Posicion solar  "));
   paginaPsicrometrico_ = new PaginaPsicrometrico;
   pcProgramas_->addTab(paginaPsicrometrico_, tr("Psicrométrico  "));
   paginaExportacion_ = new PaginaExportacion;

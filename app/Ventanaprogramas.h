@@ -10,6 +10,7 @@ class PaginaDiasExtremos;
 class PaginaEntorno;
 class PaginaExportacion;
 class PaginaResultadosExtremos;
+class PaginaPosicionSolar;
 class PaginaPsicrometrico;
 class PanelSeleccion;
 class VistaPrograma;
@@ -27,6 +28,7 @@ public:
   [[nodiscard]] PaginaEntorno &DamePaginaEntorno() const { return *paginaEntorno_; }
   [[nodiscard]] PaginaDiasExtremos &DamePaginaDiasExtremos() const { return *paginaDiasExtremos_; }
   [[nodiscard]] PaginaResultadosExtremos &DamePaginaResultados() const { return *paginaResultados_; }
+  [[nodiscard]] PaginaPosicionSolar &DamePaginaPosicionSolar() const { return *paginaPosicionSolar_; }
   [[nodiscard]] PaginaPsicrometrico &DamePaginaPsicrometrico() const { return *paginaPsicrometrico_; }
   [[nodiscard]] PaginaExportacion &DamePaginaExportacion() const { return *paginaExportacion_; }
   [[nodiscard]] PanelSeleccion &DamePanel() const { return *panel_; }
@@ -68,6 +70,7 @@ private:
   PaginaEntorno *paginaEntorno_ = nullptr;
   PaginaDiasExtremos *paginaDiasExtremos_ = nullptr;
   PaginaResultadosExtremos *paginaResultados_ = nullptr;
+  PaginaPosicionSolar *paginaPosicionSolar_ = nullptr;
   PaginaPsicrometrico *paginaPsicrometrico_ = nullptr;
   PaginaExportacion *paginaExportacion_ = nullptr;
   PanelSeleccion *panel_ = nullptr;

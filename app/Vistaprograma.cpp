@@ -9,19 +9,21 @@
 #include "vistas/Cursorocupado.h"
 #include "vistas/Paginadiasextremos.h"
 #include "vistas/Paginaentorno.h"
+#include "vistas/Paginaposicionsolar.h"
 #include "vistas/Paginaresultadosextremos.h"
 #include "vistas/Panelseleccion.h"
 #include "vistas/Textoqt.h"
 #include "vistas/Vistadiasextremos.h"
 #include "vistas/Vistaentorno.h"
 #include "vistas/Vistaexportacion.h"
+#include "vistas/Vistaposicionsolar.h"
 #include "vistas/Vistapsicrometrico.h"
 
 namespace tesmo {
 
 VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
     : Programa(programa), nombre_(std::move(nombre)), formulario_(new TforProgramas(*this)),
-      vistaDiasExtremos_(CrearVistaDiasExtremos()),
+      vistaDiasExtremos_(CrearVistaDiasExtremos()), vistaPosicionSolar_(CrearVistaPosicionSolar()),
       vistaEntorno_(std::make_unique<Vistaentorno>(formulario_->DamePaginaEntorno(), formulario_->DamePanel(),
                                                    *this, seleccion_, DameTablaDeColores())),
       vistaPsicrometrico_(std::make_unique<Vistapsicrometrico>(formulario_->DamePaginaPsicrometrico(),
@@ -47,9 +49,16 @@ std::unique_ptr<VistaDiasExtremos> VistaPrograma::CrearVistaDiasExtremos() {
                                  }});
 }
 
+std::unique_ptr<Vistaposicionsolar> VistaPrograma::CrearVistaPosicionSolar() {
+  return std::make_unique<Vistaposicionsolar>(formulario_->DamePaginaPosicionSolar(),
+                                              formulario_->DamePanel(), *this, seleccion_,
+                                              [this](const QString &texto) { Decir(texto); });
+}
+
 VistaPrograma::~VistaPrograma() {
   DesasociarVista();
   vistaDiasExtremos_.reset();
+  vistaPosicionSolar_.reset();
   vistaEntorno_.reset();
   vistaPsicrometrico_.reset();
   vistaExportacion_.reset();
@@ -73,6 +82,7 @@ void VistaPrograma::RellenarLocalidades() {
   panel.PonLocalidades(localidades);
   seleccion_.PonProvincia(panel.Provincia());
   vistaDiasExtremos_->cbLocalidadesChange();
+  vistaPosicionSolar_->localidadCambiada();
 }
 
 std::string VistaPrograma::Titulo() const {
@@ -99,6 +109,7 @@ void VistaPrograma::CambiarLocalidad() {
   const Accion accion(*this);
   seleccion_.PonLocalidad(formulario_->DamePanel().Localidad());
   vistaDiasExtremos_->cbLocalidadesChange();
+  vistaPosicionSolar_->localidadCambiada();
   PonTitulo();
   const bool habiaSeries = vistaEntorno_->HaySeries();
   vistaEntorno_->Vaciar();

@@ -15,6 +15,7 @@ class TforProgramas;
 class VistaDiasExtremos;
 class Vistaentorno;
 class VistaExportacion;
+class Vistaposicionsolar;
 class Vistapsicrometrico;
 
 /// Controlador de una ventana de trabajo: tiene una copia de su programa, la selección, el formulario y las
@@ -31,6 +32,7 @@ public:
   void Abrir();
   [[nodiscard]] TforProgramas &DameFormulario() const { return *formulario_; }
   [[nodiscard]] const Seleccion &DameSeleccion() const { return seleccion_; }
+  [[nodiscard]] Vistaposicionsolar &DameVistaPosicionSolar() const { return *vistaPosicionSolar_; }
   [[nodiscard]] Vistapsicrometrico &DameVistaPsicrometrico() const { return *vistaPsicrometrico_; }
   [[nodiscard]] VistaExportacion &DameVistaExportacion() const { return *vistaExportacion_; }
   /// "Localidad-Provincia", o el nombre de la ventana si no hay localidad.
@@ -58,6 +60,7 @@ public:
 
 private:
   std::unique_ptr<VistaDiasExtremos> CrearVistaDiasExtremos();
+  std::unique_ptr<Vistaposicionsolar> CrearVistaPosicionSolar();
   void RellenarLocalidades();
   bool Cargar();
   void DecirCarga() const;
@@ -67,6 +70,7 @@ private:
   Seleccion seleccion_;
   QPointer<TforProgramas> formulario_; ///< nulo si su ventana murió antes
   std::unique_ptr<VistaDiasExtremos> vistaDiasExtremos_;
+  std::unique_ptr<Vistaposicionsolar> vistaPosicionSolar_;
   std::unique_ptr<Vistaentorno> vistaEntorno_;
   std::unique_ptr<Vistapsicrometrico> vistaPsicrometrico_;
   std::unique_ptr<VistaExportacion> vistaExportacion_;

@@ -111,6 +111,8 @@ QLineEdit *PanelSeleccion::CrearLatitud(QGridLayout &rejilla, int columna) {
 
 void PanelSeleccion::PonLatitud(const std::string &latitud) { edLatitud_->setText(Texto(latitud)); }
 
+std::string PanelSeleccion::Latitud() const { return edLatitud_->text().toStdString(); }
+
 PanelSeleccion::Extremo PanelSeleccion::CrearExtremo(QGridLayout &rejilla, int columna, const QString &titulo,
                                                      const QString &sufijo) {
   auto *rotulo = new QLabel(titulo, this);

@@ -35,6 +35,7 @@ public:
 
   /// Texto de la casilla, de sólo lectura, con la latitud de la localidad [°].
   void PonLatitud(const std::string &latitud);
+  [[nodiscard]] std::string Latitud() const;
 
   /// Lo que dicen las seis casillas, terminando antes lo que se esté tecleando.
   [[nodiscard]] Periodo LeerPeriodo() const;
