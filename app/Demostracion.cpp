@@ -7,17 +7,22 @@
 #include "core/Mensajes.h"
 #include "meteo/Leermet.h"
 #include "vistas/Grafico.h"
+#include "vistas/Graficosolar.h"
 #include "vistas/Guardardibujo.h"
+#include "vistas/Vistaposicionsolar.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QPixmap>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTabWidget>
 #include <QTextStream>
 
+#include <array>
 #include <stdexcept>
 
 namespace tesmo {
@@ -25,6 +30,16 @@ namespace tesmo {
 namespace {
 
 constexpr QSize TAMANO_VENTANA(1280, 720);
+/// Una sierra inventada; con dos puntos el tercero los llevaría a su altura, así que los tres empiezan igual.
+constexpr std::array<PuntoHorizonte, 9> SIERRA{{{-150.0F, 4.0F},
+                                                {-90.0F, 4.0F},
+                                                {-40.0F, 4.0F},
+                                                {0.0F, 2.0F},
+                                                {35.0F, 8.0F},
+                                                {60.0F, 22.0F},
+                                                {85.0F, 26.0F},
+                                                {110.0F, 12.0F},
+                                                {150.0F, 6.0F}}};
 
 /// Nada puede esperar a una persona: los mensajes van a la salida de errores y cuentan como fallo.
 class PresentadorDemostracion : public PresentadorMensajes {
@@ -68,6 +83,7 @@ public:
     Pulsar(QStringLiteral("btnEjesPorUnidad"));
     GuardarVentana(QStringLiteral("ventana_anio.png"));
     Exportar(QStringLiteral("almeria.met"));
+    CartaSolar();
   }
 
 private:
@@ -136,6 +152,23 @@ private:
         std::string(Ficha(Magnitud::TS).rotulo), std::string(Ficha(Magnitud::HR).rotulo),
         std::string(Ficha(Magnitud::TH).rotulo), std::string(Ficha(Magnitud::G).rotulo)};
     Anunciar(Ruta(nombre), controlador.DameLeerMet()->EscribirFichero(Ruta(nombre).toStdString(), rotulos));
+  }
+
+  /// El camino del sol de los doce meses sobre una sierra al oeste.
+  void CartaSolar() {
+    Vistaposicionsolar &vista = ventana_.DameControlador().DameVistaPosicionSolar();
+    Buscar<QTabWidget>(QStringLiteral("pcProgramas"))
+        .setCurrentWidget(&Buscar<QWidget>(QStringLiteral("tsPosicionSolar")));
+    Buscar<QLineEdit>(QStringLiteral("edDia")).setText(QStringLiteral("21"));
+    Pulsar(QStringLiteral("btnMeses"));
+    auto &carta = Buscar<GraficoSolar>(QStringLiteral("graPosSol"));
+    for (const PuntoHorizonte &punto : SIERRA)
+      emit carta.izquierdoSoltado({punto.acimut, punto.altura, false, {}});
+    if (vista.Contenido().horizonte.size() != SIERRA.size())
+      throw std::runtime_error("no se pudo dibujar el horizonte");
+    GuardarVentana(QStringLiteral("ventana_sol.png"));
+    Anunciar(Ruta(QStringLiteral("carta_solar.svg")),
+             vista.GuardarImagen(Ruta(QStringLiteral("carta_solar.svg"))));
   }
 
   TforPrincipal &marco_;

@@ -17,9 +17,8 @@ constexpr QSize TAMANO_MINIMO(360, 240);
 constexpr int SEPARACION = 6; ///< de los textos de dentro al marco [px]
 constexpr std::string_view PATRON_LECTURA = "0.0";
 
-QLabel *CrearTexto(QWidget *padre, const char *nombre) {
+QLabel *CrearTexto(QWidget *padre) {
   auto *texto = new QLabel(padre);
-  texto->setObjectName(QString::fromLatin1(nombre));
   texto->setAttribute(Qt::WA_TransparentForMouseEvents);
   texto->setStyleSheet(QStringLiteral("background: rgba(255, 255, 255, 200); color: black; padding: 1px;"));
   texto->hide();
@@ -35,8 +34,8 @@ GraficoSolar::GraficoSolar(QWidget *padre) : QWidget(padre) {
   setMouseTracking(true);
   setContextMenuPolicy(Qt::PreventContextMenu);
   setCursor(Qt::CrossCursor);
-  stMeses_ = CrearTexto(this, "stMeses");
-  lbPuntero_ = CrearTexto(this, "lbPuntero");
+  stMeses_ = CrearTexto(this);
+  lbPuntero_ = CrearTexto(this);
 }
 
 void GraficoSolar::PonContenido(const ContenidoSolar *contenido) {

@@ -36,6 +36,8 @@ public:
   void Redibujar();
   /// El orden de los meses de la curva más alta a la más baja; vacío: no se ve.
   void PonOrdenDeMeses(const QString &texto);
+  /// El control en que se lee, para darle nombre.
+  [[nodiscard]] QLabel &OrdenDeMeses() { return *stMeses_; }
 
   /// Los grados de un punto del control [px] y al revés.
   [[nodiscard]] SitioRaton SitioEn(const QPointF &pixel) const;

@@ -189,6 +189,7 @@ QWidget *PaginaPosicionSolar::CrearCarta() {
          "un perfil de horizonte, o aquí mismo para empezar a dibujarlo."));
   graPosSol_ = new GraficoSolar;
   graPosSol_->setObjectName(QStringLiteral("graPosSol"));
+  graPosSol_->OrdenDeMeses().setObjectName(QStringLiteral("stMeses"));
   pila_ = new QStackedWidget;
   pila_->addWidget(graHueco_);
   pila_->addWidget(graPosSol_);

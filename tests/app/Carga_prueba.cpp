@@ -300,6 +300,22 @@ TEST_F(CaminoDeCarga, ElHorizonteDelProgramaQuitaLaDirectaSobreLaSuperficie) {
   EXPECT_EQ(aMediodia(), 0.0F);
 }
 
+TEST_F(CaminoDeCarga, LoPendienteSeEntregaAntesDeCargarYDeDerivar) {
+  int entregas = 0;
+  seleccion_.AntesDeUsar([&] {
+    seleccion_.PonSuperficie({"30", "0", "0.2"});
+    ++entregas;
+  });
+  EXPECT_EQ(PrepararDatos(*programa_, seleccion_), ResultadoCarga::SinLocalidad);
+  EXPECT_EQ(entregas, 0);
+  Elegir("Rota");
+  ASSERT_EQ(PrepararDatos(*programa_, seleccion_), ResultadoCarga::Cargada);
+  EXPECT_EQ(entregas, 1);
+  EXPECT_EQ(programa_->DameLeerMet()->Superficie().inclinacion, 30.0F);
+  ASSERT_EQ(PrepararDatos(*programa_, seleccion_), ResultadoCarga::Cargada);
+  EXPECT_EQ(entregas, 2);
+}
+
 TEST_F(CaminoDeCarga, AltitudDelFicheroOCeroSiNoEsCreible) {
   Elegir("Rota");
   EXPECT_EQ(AltitudEnUso(*programa_, seleccion_), 0.0F); // nada cargado

@@ -81,5 +81,14 @@ TEST_F(SeleccionDeVentana, UnAvisoPuedeInscribirOtro) {
   EXPECT_EQ(segundas, 1);
 }
 
+TEST_F(SeleccionDeVentana, LoPendienteSePidePorOrdenYSinAvisar) {
+  std::string orden;
+  seleccion_.AntesDeUsar([&] { orden += "a"; });
+  seleccion_.AntesDeUsar([&] { orden += "b"; });
+  seleccion_.PedirLoPendiente();
+  EXPECT_EQ(orden, "ab");
+  EXPECT_TRUE(cambios_.empty());
+}
+
 } // namespace
 } // namespace tesmo
