@@ -162,7 +162,11 @@ void VistaPrograma::CambiarAltitud() {
   if (vistaEntorno_->HaySeries()) Visualizar();
 }
 
-void VistaPrograma::EscribirArchivoHorario() { vistaExportacion_->btnEscribirClick(); }
+/// Primero se entrega lo editado en la posición solar.
+void VistaPrograma::EscribirArchivoHorario() {
+  vistaPosicionSolar_->actualizar();
+  vistaExportacion_->btnEscribirClick();
+}
 
 void VistaPrograma::ObjetoCambiado(const ObjetoBase &) {
   if (formulario_) formulario_->update();

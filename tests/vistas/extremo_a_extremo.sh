@@ -68,14 +68,10 @@ guardar "$trabajo/vuelta.svg" 760 350 s
 grep -q '1 jul<\|1 jul$' "$trabajo/vuelta.svg" || fallar 'el doble clic no volvió al período entero'
 
 # --- la carta solar: se empieza el horizonte, se sube un punto, se deshace, se borra y se guarda entero
-color_en() {
-  foto
-  convert "$trabajo/foto.png" -format "%[hex:p{$1,$2}]" info: | cut -c1-6
-}
-hay_carta() { [ "$(color_en 320 560)" = FFFFFF ] && [ "$(color_en 320 620)" != FFFFFF ]; }
+no_hay_muestra() { ! hay_muestra "$1"; }
 fichero_tiene() { [ "$(wc -l <"$1")" -eq "$2" ]; }
-xdotool key ctrl+Page_Down ctrl+Page_Down
-esperar 30 'la pestaña de la posición solar' hay_carta
+xdotool mousemove 290 52 click 1
+esperar 30 'la pestaña de la posición solar' no_hay_muestra $TS
 punto() { xdotool mousemove "$1" "$2" click 1; }
 punto 420 500
 punto 560 480
