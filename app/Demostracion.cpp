@@ -159,7 +159,9 @@ private:
     Vistaposicionsolar &vista = ventana_.DameControlador().DameVistaPosicionSolar();
     Buscar<QTabWidget>(QStringLiteral("pcProgramas"))
         .setCurrentWidget(&Buscar<QWidget>(QStringLiteral("tsPosicionSolar")));
-    Buscar<QLineEdit>(QStringLiteral("edDia")).setText(QStringLiteral("21"));
+    // Sin el reloj: la imagen es siempre la misma.
+    for (const auto &[casilla, texto] : {std::pair{"edMes", "6"}, {"edDia", "21"}, {"edHora", "10"}})
+      Buscar<QLineEdit>(QLatin1String(casilla)).setText(QLatin1String(texto));
     Pulsar(QStringLiteral("btnMeses"));
     auto &carta = Buscar<GraficoSolar>(QStringLiteral("graPosSol"));
     for (const PuntoHorizonte &punto : SIERRA)

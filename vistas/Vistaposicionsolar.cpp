@@ -24,7 +24,7 @@ namespace {
 
 using Casilla = PaginaPosicionSolar::Casilla;
 
-constexpr std::string_view PATRON_ANGULO = "0.00";
+constexpr std::string_view PATRON_DOS_DECIMALES = "0.00";
 
 /// Las casillas que se copian en el PosicionSolar y su clave; las de resultados nunca se copian.
 struct Clave {
@@ -147,7 +147,7 @@ void Vistaposicionsolar::PonCasillas() {
   sol_->DameReal("Hora", hora);
   pagina_.PonTexto(Casilla::Mes, Texto(sol_->DameTexto("Mes")));
   pagina_.PonTexto(Casilla::Dia, Texto(sol_->DameTexto("Día")));
-  pagina_.PonTexto(Casilla::Hora, Texto(FormatearPatron(HoraDeCasilla(hora), PATRON_ANGULO)));
+  pagina_.PonTexto(Casilla::Hora, Texto(FormatearPatron(HoraDeCasilla(hora), PATRON_DOS_DECIMALES)));
 }
 
 void Vistaposicionsolar::CopiarCasillas() {
@@ -195,7 +195,7 @@ void Vistaposicionsolar::btnMomentoClick() {
   const AngulosSolares angulos = sol_->CalcularPosicion(fecha.latitud, fecha.mes, fecha.dia, fecha.hora);
   const bool esDeDia = sol_->EsDeDia();
   const auto texto = [&](float angulo) {
-    return esDeDia ? Texto(FormatearPatron(angulo, PATRON_ANGULO)) : QString();
+    return esDeDia ? Texto(FormatearPatron(angulo, PATRON_DOS_DECIMALES)) : QString();
   };
   pagina_.PonTexto(Casilla::Acimut, texto(angulos.acimut));
   pagina_.PonTexto(Casilla::Altura, texto(angulos.altura));
@@ -227,7 +227,20 @@ void Vistaposicionsolar::DibujarDia(const Fecha &fecha) {
   dibujada_ = fecha;
   grafico_->PonOrdenDeMeses({});
   EnsenarDibujo();
-  if (contenido_.dia.empty()) estado_(QObject::tr("Ese día el sol no sale en esa latitud."));
+  DecirSalidaYPuesta(fecha);
+}
+
+void Vistaposicionsolar::DecirSalidaYPuesta(const Fecha &fecha) const {
+  const auto [salida, puesta] = sol_->CalcularSalidaPuesta(fecha.latitud, fecha.mes, fecha.dia);
+  if (contenido_.dia.empty()) {
+    estado_(QObject::tr("Ese día el sol no sale en esa latitud."));
+  } else if (salida < 0.0F) {
+    estado_(QObject::tr("Ese día el sol no se pone en esa latitud."));
+  } else {
+    estado_(QObject::tr("El sol sale a las %1 h y se pone a las %2 h, en hora solar.")
+                .arg(Texto(FormatearPatron(salida, PATRON_DOS_DECIMALES)),
+                     Texto(FormatearPatron(puesta, PATRON_DOS_DECIMALES))));
+  }
 }
 
 void Vistaposicionsolar::btnMesesClick() {
@@ -242,6 +255,8 @@ void Vistaposicionsolar::DibujarMeses(const Fecha &fecha) {
   dibujada_ = fecha;
   grafico_->PonOrdenDeMeses(Texto(curvas.orden));
   EnsenarDibujo();
+  estado_(
+      QObject::tr("El día %1 de cada mes; las líneas de puntos unen la misma hora solar.").arg(fecha.dia));
 }
 
 void Vistaposicionsolar::EnsenarDibujo() {

@@ -12,7 +12,6 @@
 
 namespace tesmo {
 
-class DialogoHorizonte;
 class GraficoSolar;
 class PaginaPosicionSolar;
 class PanelSeleccion;
@@ -69,6 +68,7 @@ private:
   void CopiarCasillas();
   [[nodiscard]] Fecha LeerFecha() const;
   void DibujarDia(const Fecha &fecha);
+  void DecirSalidaYPuesta(const Fecha &fecha) const;
   void DibujarMeses(const Fecha &fecha);
   void AsegurarCurvaDe(const Fecha &fecha);
   void EnsenarDibujo();

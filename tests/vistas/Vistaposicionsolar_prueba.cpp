@@ -177,6 +177,17 @@ private slots:
     QVERIFY(contenido.dia.empty());
     for (const CurvaSolar &hora : contenido.horas) QVERIFY(hora.empty());
     QVERIFY(estado.last().at(0).toString().contains(QStringLiteral("no sale")));
+    v_->Teclear("edMes", "6");
+    v_->ventana.Pulsar("btnDia");
+    QVERIFY(estado.last().at(0).toString().contains(QStringLiteral("no se pone")));
+  }
+
+  void alDibujarUnDiaSeDicenSalidaYPuesta() {
+    const QSignalSpy estado(&v_->controlador.DameFormulario(), &TforProgramas::estado);
+    v_->PonLatitud("0");
+    v_->ventana.Pulsar("btnDia");
+    QVERIFY(estado.last().at(0).toString().contains(Patron(6.0))); // en el ecuador el día dura doce horas
+    QVERIFY(estado.last().at(0).toString().contains(Patron(18.0)));
   }
 
   void enElPoloEnJunioLaCurvaVaDeMenosUnaAVeinticinco() {
