@@ -26,9 +26,9 @@ std::optional<double> LeerGeneral(const char *p, const char *fin) {
 } // namespace
 
 std::string_view Recortado(std::string_view texto) {
-  constexpr std::string_view BLANCOS = " \t";
-  while (!texto.empty() && BLANCOS.find(texto.front()) != std::string_view::npos) texto.remove_prefix(1);
-  while (!texto.empty() && BLANCOS.find(texto.back()) != std::string_view::npos) texto.remove_suffix(1);
+  const auto esBlanco = [](char c) { return c == ' ' || c == '\t'; };
+  while (!texto.empty() && esBlanco(texto.front())) texto.remove_prefix(1);
+  while (!texto.empty() && esBlanco(texto.back())) texto.remove_suffix(1);
   return texto;
 }
 

@@ -86,6 +86,8 @@ TEST(Campos, SeQuitanBlancosYComillas) {
   EXPECT_EQ(Campos("", ','), Textos{""});
   EXPECT_EQ(Campos("a,\"sin cerrar, b", ','), (Textos{"a", "\"sin cerrar, b"}));
   EXPECT_EQ(Campos("1;2,5;3", ';'), (Textos{"1", "2,5", "3"}));
+  EXPECT_EQ(Campos("1\t\t 3 \t", '\t'), (Textos{"1", "", "3", ""}));
+  EXPECT_EQ(Campos("a,b,c", ',', 2), (Textos{"a", "b"}));
 }
 
 TEST(Campos, LosBlancosSeguidosSonUnSeparador) {

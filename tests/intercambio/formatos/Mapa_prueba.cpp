@@ -1,6 +1,8 @@
 #include "intercambio/formatos/Mapacolumnas.h"
 
 #include "intercambio/formatos/Unidadesclima.h"
+#include "tests/comun/Apoyos.h"
+#include "tests/comun/Lugares.h"
 #include "tests/intercambio/formatos/Generadorclima.h"
 
 #include <gtest/gtest.h>
@@ -36,6 +38,16 @@ TEST(Mapa, SeLeenColumnasUnidadesYReloj) {
   EXPECT_EQ(mapa.columnas[0], (ColumnaMapa{Campo::TemperaturaSeca, "Temp", "°C"}));
   EXPECT_EQ(mapa.columnas[2], (ColumnaMapa{Campo::Presion, "4", "hPa"}));
   EXPECT_EQ(mapa.columnas[4], (ColumnaMapa{Campo::DifusaHorizontal, "6", ""}));
+}
+
+TEST(Mapa, ElDeLaDocumentacionVale) {
+  const std::string texto = Contenido(RutaDesdeTexto(Raiz()) / "docs" / "formatos.md");
+  const std::size_t inicio = texto.find("```\n");
+  ASSERT_NE(inicio, std::string::npos);
+  const ResultadoMapa resultado =
+      LeerMapa(texto.substr(inicio + 4, texto.find("```", inicio + 4) - inicio - 4));
+  ASSERT_TRUE(resultado.mapa) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.mapa->columnas.size(), 7U);
 }
 
 TEST(Mapa, LoEscritoSeVuelveALeerIgual) {

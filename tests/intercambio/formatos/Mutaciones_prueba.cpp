@@ -89,7 +89,7 @@ std::shared_ptr<const MapaColumnas> Mapa() {
   return std::make_shared<MapaColumnas>(LeerMapa(MapaDePrueba()).mapa.value());
 }
 
-constexpr int VUELTAS_CORTAS = 600;
+constexpr int VUELTAS_CORTAS = 400;
 constexpr int VUELTAS_LARGAS = 12;
 
 TEST(Mutaciones, Epw) { Machacar(Comienzo(LineasEpw()), VUELTAS_CORTAS, "epw"); }
