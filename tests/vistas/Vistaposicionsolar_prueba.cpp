@@ -127,7 +127,7 @@ private slots:
   }
 
   void laCartaEstaEscondidaHastaElPrimerDibujo() {
-    QVERIFY(v_->Carta().isHidden());
+    QVERIFY(v_->Control<GraficoSolar>("graPosSol").isHidden());
     QVERIFY(v_->Control<GraficoSolar>("graHueco").isVisible());
     v_->ventana.Pulsar("btnDia");
     QVERIFY(v_->Carta().isVisible());
