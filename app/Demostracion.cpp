@@ -1,6 +1,7 @@
 #include "app/Demostracion.h"
 
 #include "app/Carga.h"
+#include "app/Manejoventana.h"
 #include "app/Ventanaprincipal.h"
 #include "app/Ventanaprogramas.h"
 #include "app/Vistaprograma.h"
@@ -12,13 +13,9 @@
 #include "vistas/Vistaposicionsolar.h"
 
 #include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QPixmap>
-#include <QPushButton>
-#include <QSpinBox>
 #include <QTabWidget>
 #include <QTextStream>
 
@@ -59,10 +56,11 @@ private:
   PresentadorMensajes *anterior_;
 };
 
-class Demostracion {
+class Demostracion : public ManejoVentana {
 public:
   Demostracion(TforPrincipal &marco, const QString &directorio)
-      : marco_(marco), directorio_(directorio), ventana_(marco.Controladores().front()->DameFormulario()) {}
+      : ManejoVentana(marco.Controladores().front()->DameFormulario()), marco_(marco),
+        directorio_(directorio) {}
 
   void Ejecutar() {
     marco_.resize(TAMANO_VENTANA);
@@ -87,45 +85,6 @@ public:
   }
 
 private:
-  template <typename Control>
-  Control &Buscar(const QString &nombre) {
-    auto *control = ventana_.findChild<Control *>(nombre);
-    if (!control) throw std::runtime_error("falta el control " + nombre.toStdString());
-    return *control;
-  }
-
-  void Elegir(const QString &selector, const QString &texto) {
-    auto &lista = Buscar<QComboBox>(selector);
-    const int sitio = lista.findText(texto);
-    if (sitio < 0)
-      throw std::runtime_error("no hay «" + texto.toStdString() + "» en " + selector.toStdString());
-    lista.setCurrentIndex(sitio);
-  }
-
-  void PonCasilla(const QString &nombre, int valor) { Buscar<QSpinBox>(nombre).setValue(valor); }
-
-  /// Primero el final del año: así ninguna regla del período mueve lo ya puesto.
-  void PonPeriodo(const FechaHora &inicio, const FechaHora &fin) {
-    for (const auto &[fecha, sufijo] :
-         {std::pair{FechaHora{12, 31, 24}, "Fin"}, std::pair{inicio, "Ini"}, std::pair{fin, "Fin"}}) {
-      PonCasilla(QStringLiteral("csMes") + QLatin1String(sufijo), fecha.mes);
-      PonCasilla(QStringLiteral("csDia") + QLatin1String(sufijo), fecha.dia);
-      PonCasilla(QStringLiteral("csHor") + QLatin1String(sufijo), fecha.hora);
-    }
-  }
-
-  void Marcar(const QStringList &codigos) {
-    for (std::size_t i = 0; i < NUMERO_MAGNITUDES_VISOR; ++i) {
-      const QString codigo = QString::fromUtf8(MAGNITUDES[i].codigo.data());
-      Buscar<QCheckBox>(QStringLiteral("cb") + codigo).setChecked(codigos.contains(codigo));
-    }
-  }
-
-  void Pulsar(const QString &nombre) {
-    Buscar<QPushButton>(nombre).click();
-    QApplication::processEvents();
-  }
-
   void Anunciar(const QString &ruta, bool escrito) {
     if (!escrito) throw std::runtime_error("no se pudo escribir " + ruta.toStdString());
     QTextStream(stdout) << QDir::toNativeSeparators(ruta) << "\n";
@@ -144,7 +103,7 @@ private:
   }
 
   void Exportar(const QString &nombre) {
-    VistaPrograma &controlador = ventana_.DameControlador();
+    VistaPrograma &controlador = Formulario().DameControlador();
     if (PrepararDatos(controlador, controlador.DameSeleccion()) != ResultadoCarga::Cargada) {
       throw std::runtime_error("no hay datos que exportar");
     }
@@ -156,7 +115,7 @@ private:
 
   /// El camino del sol de los doce meses sobre una sierra al oeste.
   void CartaSolar() {
-    Vistaposicionsolar &vista = ventana_.DameControlador().DameVistaPosicionSolar();
+    Vistaposicionsolar &vista = Formulario().DameControlador().DameVistaPosicionSolar();
     Buscar<QTabWidget>(QStringLiteral("pcProgramas"))
         .setCurrentWidget(&Buscar<QWidget>(QStringLiteral("tsPosicionSolar")));
     // Sin el reloj: la imagen es siempre la misma.
@@ -175,7 +134,6 @@ private:
 
   TforPrincipal &marco_;
   QString directorio_;
-  TforProgramas &ventana_;
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "app/Aplicacion.h"
 #include "app/Demostracion.h"
+#include "app/Imagenesmanual.h"
 #include "app/Presentadorventanas.h"
 #include "app/Ventanaprincipal.h"
 #include "core/Rutas.h"
@@ -21,6 +22,7 @@ constexpr int USO_INCORRECTO = 2;
 
 struct Opciones {
   QString demostracion; ///< directorio donde dejarla; vacío: trabajo normal
+  QString imagenes;     ///< directorio donde dejar las del manual; vacío: ninguna
   QString base;         ///< directorio de config.ini; vacío: el del programa
 };
 
@@ -48,6 +50,9 @@ Opciones LeerOpciones(int argc, char **argv) {
       QStringLiteral(
           "Hace el trabajo principal sin esperar a nadie y deja imágenes y resultados en DIRECTORIO."),
       QStringLiteral("DIRECTORIO"));
+  const QCommandLineOption imagenes(QStringLiteral("imagenes"),
+                                    QStringLiteral("Deja en DIRECTORIO las imágenes del manual."),
+                                    QStringLiteral("DIRECTORIO"));
   const QCommandLineOption base(
       QStringLiteral("base"),
       QStringLiteral("Directorio donde está config.ini (por defecto, el del programa)."),
@@ -58,7 +63,7 @@ Opciones LeerOpciones(int argc, char **argv) {
   lector.setApplicationDescription(
       QStringLiteral("Año meteorológico típico, aire húmedo y sol para la edificación."));
   lector.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-  lector.addOptions(QList<QCommandLineOption>{demostracion, base, ayuda} + OpcionesDeQt());
+  lector.addOptions(QList<QCommandLineOption>{demostracion, imagenes, base, ayuda} + OpcionesDeQt());
   if (!lector.parse(QCoreApplication::arguments()) || !lector.positionalArguments().isEmpty()) {
     QTextStream(stderr) << (lector.errorText().isEmpty()
                                 ? QStringLiteral("Argumento de más: ") + lector.positionalArguments().value(0)
@@ -70,7 +75,8 @@ Opciones LeerOpciones(int argc, char **argv) {
     QTextStream(stdout) << lector.helpText();
     std::exit(EXIT_SUCCESS);
   }
-  return {RutaAbsoluta(lector.value(demostracion)), RutaAbsoluta(lector.value(base))};
+  return {RutaAbsoluta(lector.value(demostracion)), RutaAbsoluta(lector.value(imagenes)),
+          RutaAbsoluta(lector.value(base))};
 }
 
 } // namespace
@@ -86,6 +92,8 @@ int main(int argc, char **argv) {
   if (!opciones.demostracion.isEmpty()) {
     return tesmo::EjecutarDemostracion(opciones.demostracion) ? EXIT_SUCCESS : EXIT_FAILURE;
   }
+  if (!opciones.imagenes.isEmpty())
+    return tesmo::HacerImagenesDelManual(opciones.imagenes) ? EXIT_SUCCESS : EXIT_FAILURE;
   tesmo::PresentadorVentanas presentador;
   tesmo::DameMensajes().PonPresentador(&presentador);
   tesmo::TforPrincipal marco;

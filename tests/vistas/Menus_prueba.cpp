@@ -3,6 +3,7 @@
 #include "app/Disposicionventanas.h"
 #include "app/Manual.h"
 #include "core/Rutas.h"
+#include "tests/comun/Lugares.h"
 #include "tests/vistas/Manejo.h"
 #include "vistas/Configuracion.h"
 
@@ -15,6 +16,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -255,6 +257,34 @@ private slots:
     Orden("mnuContenido").trigger();
     QTRY_VERIFY(marco_->marco.findChild<QTextBrowser *>() != nullptr);
     QCOMPARE(PaginaAbierta(), QStringLiteral("visualizar.html"));
+  }
+
+  void cadaPestanaTieneSuPaginaEnElManualQueSeEntrega() {
+    const QDir manual(QString::fromStdString(Raiz() + "/docs/manual"));
+    for (const char *pestana : {"tsDatosGenerales", "tsDiasExtremos", "tsResultadosDiasExtremos",
+                                "tsPosicionSolar", "tsPsicrometrico", "tsArchivosHorarios", "tsValores"}) {
+      const QString pagina = PaginaDelManual(QString::fromLatin1(pestana)).section(QLatin1Char('#'), 0, 0);
+      QVERIFY(pagina != QStringLiteral("index.html"));
+      QVERIFY2(manual.exists(pagina), qPrintable(pagina));
+    }
+    QCOMPARE(PaginaDelManual(QStringLiteral("otra")), QStringLiteral("index.html"));
+  }
+
+  void losEnlacesYLasImagenesDelManualEstanTodos() {
+    const QDir manual(QString::fromStdString(Raiz() + "/docs/manual"));
+    const QRegularExpression referencia(QStringLiteral("(?:href|src)=\"([^\"#]+)"));
+    int referencias = 0;
+    for (const QString &pagina : manual.entryList({QStringLiteral("*.html")})) {
+      QFile fichero(manual.filePath(pagina));
+      QVERIFY(fichero.open(QIODevice::ReadOnly));
+      auto hallazgos = referencia.globalMatch(QString::fromUtf8(fichero.readAll()));
+      while (hallazgos.hasNext()) {
+        const QString a = hallazgos.next().captured(1);
+        QVERIFY2(manual.exists(a), qPrintable(pagina + QStringLiteral(": ") + a));
+        ++referencias;
+      }
+    }
+    QVERIFY(referencias > 20);
   }
 
   void acercaDeDiceVersionLicenciaYBibliotecasYSeCierraConOK() {
