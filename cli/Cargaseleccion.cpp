@@ -75,7 +75,7 @@ void AvisarSiEsCorto(const PeticionSeleccion &peticion, const Programa &programa
 } // namespace
 
 void Cargar(const PeticionSeleccion &peticion, Contexto &contexto, std::optional<Programa> &programa) {
-  IniciarBase(peticion.base);
+  IniciarBase(peticion.base, contexto);
   if (peticion.fichero.empty()) {
     programa.emplace();
   } else {

@@ -82,6 +82,8 @@ void Configurar(CLI::App &raiz, Contexto &contexto) {
   RegistrarEstadisticas(raiz, contexto);
   RegistrarExportar(raiz, contexto);
   RegistrarDiasExtremos(raiz, contexto);
+  RegistrarImportar(raiz, contexto);
+  RegistrarConvertirAnio(raiz, contexto);
   RegistrarSintetizar(raiz, contexto);
 }
 

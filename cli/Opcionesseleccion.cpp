@@ -4,6 +4,7 @@
 #include "core/Error.h"
 #include "core/Ficheros.h"
 #include "core/Rutas.h"
+#include "intercambio/escritura/Importacion.h"
 
 namespace tesmo::cli {
 
@@ -106,15 +107,13 @@ std::vector<Magnitud> LeerMagnitudes(const std::vector<std::string> &nombres) {
   return magnitudes;
 }
 
-void IniciarBase(const std::string &base) {
-  if (base.empty()) {
-    static_cast<void>(DameConfiguracion());
-    return;
-  }
+void IniciarBase(const std::string &base, Contexto &contexto) {
   std::error_code error;
-  if (!std::filesystem::is_directory(RutaDesdeTexto(base), error))
+  if (!base.empty() && !std::filesystem::is_directory(RutaDesdeTexto(base), error))
     throw Fallo(Estado::FaltaEntrada, "--base: no es un directorio: " + base);
-  IniciarConfiguracion(base);
+  if (!base.empty()) IniciarConfiguracion(base);
+  const std::string hecho = RecuperarImportacion(DameConfiguracion().RutaMeteo(""));
+  if (!hecho.empty()) Avisar(contexto, hecho);
 }
 
 void IniciarRegistro(const std::optional<std::string> &registro) {

@@ -54,8 +54,9 @@ struct PeticionPresion {
 [[nodiscard]] std::vector<Magnitud> LeerMagnitudes(const std::vector<std::string> &nombres);
 
 /// Hace de @p base (ruta absoluta; vacía: el directorio del ejecutable) el directorio del programa. Lanza
-/// Fallo (falta una entrada) si no es un directorio.
-void IniciarBase(const std::string &base);
+/// Fallo (falta una entrada) si no es un directorio. Antes de que nadie lea las localidades, termina o
+/// deshace la importación que quedara a medias, y lo avisa.
+void IniciarBase(const std::string &base, Contexto &contexto);
 /// Abre el registro de diagnósticos en @p registro si se da. Lanza Fallo (falta una salida) si no se puede.
 void IniciarRegistro(const std::optional<std::string> &registro);
 

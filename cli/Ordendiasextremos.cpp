@@ -202,7 +202,7 @@ void Escribir(const Datos &datos, const Peticion &peticion, const DiasExtremos &
 void Ejecutar(const Datos &datos, Contexto &contexto) {
   const Peticion peticion = Interpretar(datos);
   EncaminarDiagnosticos(datos.registro, contexto);
-  IniciarBase(peticion.base);
+  IniciarBase(peticion.base, contexto);
   Configuracionregional::PonSeparadorDecimal('.'); // los ajustes se pasan como texto con punto
   DiasExtremos motor;
   Ajustar(peticion, motor);

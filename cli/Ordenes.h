@@ -21,6 +21,8 @@ void RegistrarExportar(CLI::App &raiz, Contexto &contexto);
 void RegistrarDiasExtremos(CLI::App &raiz, Contexto &contexto);
 void RegistrarSintetizar(CLI::App &raiz, Contexto &contexto);
 void RegistrarHorizonte(CLI::App &raiz, Contexto &contexto);
+void RegistrarImportar(CLI::App &raiz, Contexto &contexto);
+void RegistrarConvertirAnio(CLI::App &raiz, Contexto &contexto);
 /// Estas dos, dentro de la orden "sol".
 void RegistrarSolAnual(CLI::App &sol, Contexto &contexto);
 void RegistrarSolCurvas(CLI::App &sol, Contexto &contexto);

@@ -41,7 +41,7 @@ void Listar(const BaseDeLocalidades &base, const std::optional<std::string> &pro
 
 void Ejecutar(const Datos &datos, Contexto &contexto) {
   IniciarRegistro(datos.registro);
-  IniciarBase(datos.base ? RutaAbsoluta(*datos.base) : std::string());
+  IniciarBase(datos.base ? RutaAbsoluta(*datos.base) : std::string(), contexto);
   const BaseDeLocalidades &base = DameBaseDeLocalidades();
   if (!base.Cargada()) throw Fallo(Estado::FaltaEntrada, "");
   Tabla tabla(Tabla::Forma::SinCabecera,

@@ -38,6 +38,13 @@ bool LeerMet::LeerFichero(const std::string &ruta) {
   return true;
 }
 
+void LeerMet::PonAnio(const SitioMet &sitio, SeriesLeidas series) {
+  sitio_ = sitio;
+  leidas_ = std::move(series);
+  resumen_ = {HORAS_DEL_ANIO, 0};
+  ++carga_;
+}
+
 std::string LeerMet::DameTexto(std::string_view clave) const {
   return clave == "Variable" ? variable_ : std::string();
 }

@@ -27,6 +27,8 @@ public:
   /// Lee un fichero .met. Falso, sin cambiar nada, si @p ruta falta, no es un fichero regular o no se puede
   /// abrir; cierto en otro caso, por corto o estropeado que esté. No toca las series derivadas.
   bool LeerFichero(const std::string &ruta);
+  /// Pone un año que no sale de un .met, como si se hubiera leído entero. No toca las series derivadas.
+  void PonAnio(const SitioMet &sitio, SeriesLeidas series);
   /// Hasta dónde llegó la última lectura.
   [[nodiscard]] const ResumenLectura &Resumen() const { return resumen_; }
 

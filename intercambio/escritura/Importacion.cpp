@@ -173,9 +173,7 @@ private:
     const CabeceraMet cabecera{"Importado por Tesmo: " + ficha_.nombre + ", " + ficha_.provincia +
                                    (peticion_.origen.empty() ? "" : "; de " + peticion_.origen),
                                ficha_.latitud, ficha_.longitud, ficha_.altitud, ficha_.meridiano};
-    ColumnasMet columnas;
-    for (std::size_t i = 0; i < COLUMNAS_MET; ++i) columnas[i] = anio_.series[i].valores;
-    return TextoMet(cabecera, columnas);
+    return TextoMet(cabecera, ColumnasDe(anio_));
   }
 
   std::string TextoDeGdr() {

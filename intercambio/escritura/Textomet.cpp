@@ -41,6 +41,12 @@ void EscribirRegistro(std::string &texto, const ColumnasMet &columnas, std::size
 
 } // namespace
 
+ColumnasMet ColumnasDe(const AnioSolar &anio) {
+  ColumnasMet columnas;
+  for (std::size_t i = 0; i < COLUMNAS_MET; ++i) columnas[i] = anio.series[i].valores;
+  return columnas;
+}
+
 std::string NumeroDeFichero(double valor) { return FormatoGeneral15(valor, '.'); }
 
 std::string TextoMet(const CabeceraMet &cabecera, const ColumnasMet &columnas) {

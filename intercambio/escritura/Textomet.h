@@ -1,5 +1,7 @@
 #pragma once
 
+#include "intercambio/Aniosolar.h"
+
 #include <array>
 #include <cstddef>
 #include <span>
@@ -13,6 +15,9 @@ namespace tesmo {
 /// norte] del viento, acimut [°, 0 al sur, oeste positivo] y cenit solares [°]. Cada una, de 8.760 valores.
 inline constexpr std::size_t COLUMNAS_MET = 10;
 using ColumnasMet = std::array<std::span<const double>, COLUMNAS_MET>;
+
+/// Las diez de @p anio, que ha de vivir tanto como ellas.
+[[nodiscard]] ColumnasMet ColumnasDe(const AnioSolar &anio);
 
 /// Las dos líneas que encabezan un .met.
 struct CabeceraMet {

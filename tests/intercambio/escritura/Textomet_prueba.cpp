@@ -11,9 +11,7 @@ namespace tesmo {
 namespace {
 
 std::string Texto(const std::string &primera, const AnioSolar &anio) {
-  ColumnasMet columnas;
-  for (std::size_t i = 0; i < COLUMNAS_MET; ++i) columnas[i] = anio.series[i].valores;
-  return TextoMet({primera, 37.25, -3.5, 680.0, 15.0}, columnas);
+  return TextoMet({primera, 37.25, -3.5, 680.0, 15.0}, ColumnasDe(anio));
 }
 
 TEST(EscrituraDeUnMet, QuinceColumnasYCuatroNumerosEnLaSegundaLinea) {

@@ -1,0 +1,174 @@
+#include "cli/Ordenes.h"
+
+#include "cli/Argumentos.h"
+#include "cli/Opcionesreloj.h"
+#include "cli/Opcionesseleccion.h"
+#include "core/Codificacion.h"
+#include "core/Ficheros.h"
+#include "core/Rutas.h"
+#include "intercambio/Importacionlote.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+
+namespace tesmo::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Datos {
+  std::vector<std::string> ficheros;
+  std::optional<std::string> provincia, localidad, zona, base;
+  OpcionesReloj reloj;
+  bool reemplazar = false;
+};
+
+/// Extensiones de los ficheros que se toman de una carpeta.
+bool PareceClimatico(const fs::path &ruta) {
+  constexpr std::array<std::string_view, 5> EXTENSIONES{".epw", ".csv", ".met", ".tmy3", ".txt"};
+  const std::string extension = PlegarMinusculas(TextoDeRuta(ruta.extension()));
+  return std::ranges::find(EXTENSIONES, extension) != EXTENSIONES.end();
+}
+
+/// Los ficheros de la carpeta @p ruta por orden alfabético; @p ruta misma si no es una carpeta.
+std::vector<std::string> Desplegar(const std::string &ruta) {
+  std::error_code error;
+  if (!fs::is_directory(RutaDesdeTexto(ruta), error)) return {ruta};
+  std::vector<std::string> ficheros;
+  for (fs::directory_iterator it(RutaDesdeTexto(ruta), error), fin; !error && it != fin;
+       it.increment(error)) {
+    std::error_code otro;
+    if (it->is_regular_file(otro) && PareceClimatico(it->path())) ficheros.push_back(TextoDeRuta(it->path()));
+  }
+  std::ranges::sort(ficheros);
+  if (ficheros.empty())
+    throw Fallo(Estado::FaltaEntrada,
+                ruta + ": no tiene ficheros climáticos (.epw, .csv, .met, .tmy3, .txt)");
+  return ficheros;
+}
+
+/// Lo que se va sabiendo del lote.
+class Marcha {
+public:
+  Marcha(std::size_t total, Contexto &contexto) : total_(total), contexto_(contexto) {}
+
+  void Uno(std::size_t posicion, const FicheroDeLote &fichero) {
+    if (total_ > 1)
+      contexto_.error << '[' << posicion + 1 << '/' << total_ << "] " << Nombre(fichero) << '\n';
+    if (fichero.saltado) {
+      Avisar(contexto_, Nombre(fichero) + ": no es de ningún formato climático conocido; se salta");
+      return;
+    }
+    AvisarDeFichero(Nombre(fichero), fichero.anio, contexto_);
+    if (!fichero.anio.errores.empty()) return Empeorar(Estado::FaltaEntrada);
+    for (const std::string &aviso : fichero.importacion.avisos)
+      Avisar(contexto_, Nombre(fichero) + ": " + aviso);
+    if (fichero.importacion.fallo != FalloImportacion::Ninguno) return Fallido(fichero);
+    Contar(fichero);
+  }
+
+  void Acabar() const {
+    if (estado_ != Estado::Hecho) throw Fallo(estado_, "");
+    if (hechos_ == 0) throw Fallo(Estado::FaltaEntrada, "ningún fichero se ha podido importar");
+  }
+
+private:
+  static std::string Nombre(const FicheroDeLote &fichero) {
+    return TextoDeRuta(RutaDesdeTexto(fichero.ruta).filename());
+  }
+  void Empeorar(Estado estado) { estado_ = std::max(estado_, estado); }
+
+  void Fallido(const FicheroDeLote &fichero) {
+    const FalloImportacion fallo = fichero.importacion.fallo;
+    contexto_.error << "Error: " << Nombre(fichero) << ": " << fichero.importacion.error
+                    << (fallo == FalloImportacion::Existe ? "; no se importa (véase --reemplazar)" : "")
+                    << '\n';
+    Empeorar(fallo == FalloImportacion::Peticion ? Estado::FaltaEntrada : Estado::FaltaSalida);
+  }
+
+  void Contar(const FicheroDeLote &fichero) {
+    ++hechos_;
+    const ObjetoCiudad &ciudad = fichero.importacion.registro;
+    contexto_.salida << Nombre(fichero) << ": " << ciudad.localidad << " (" << ciudad.provincia << "), "
+                     << ciudad.fichero << (fichero.importacion.reemplazada ? ", reemplazada" : "") << '\n'
+                     << "  Formato: " << NombreFormato(fichero.anio.lectura.formato) << ".\n"
+                     << "  Según los datos: " << fichero.anio.veredicto.texto << '\n';
+    for (const std::string &linea : TextoInforme(fichero.anio.conversion.informe))
+      contexto_.salida << "  " << linea << '\n';
+  }
+
+  std::size_t total_;
+  Contexto &contexto_;
+  std::size_t hechos_ = 0;
+  Estado estado_ = Estado::Hecho;
+};
+
+OpcionesLote Interpretar(const Datos &datos) {
+  OpcionesLote opciones;
+  opciones.peticion.provincia = *datos.provincia;
+  opciones.peticion.nombre = datos.localidad.value_or("");
+  opciones.peticion.zona = datos.zona.value_or("");
+  opciones.peticion.reemplazar = datos.reemplazar;
+  opciones.reloj = InterpretarReloj(datos.reloj);
+  opciones.lectura = InterpretarLectura(datos.reloj);
+  const std::string &zona = opciones.peticion.zona;
+  if (datos.zona && zona != ZONA_COSTA && zona != ZONA_INTERIOR)
+    throw Fallo(Estado::UsoIncorrecto, "--zona: «" + zona + "» no es COSTA ni INTERIOR");
+  if (datos.localidad && datos.localidad->empty())
+    throw Fallo(Estado::UsoIncorrecto, "--localidad: el nombre está vacío");
+  return opciones;
+}
+
+void Ejecutar(const Datos &datos, Contexto &contexto) {
+  OpcionesLote opciones = Interpretar(datos);
+  std::vector<std::string> rutas;
+  for (const std::string &dado : datos.ficheros) {
+    if (dado.empty()) throw Fallo(Estado::FaltaEntrada, "FICHERO: la ruta está vacía");
+    const std::vector<std::string> desplegados = Desplegar(RutaAbsoluta(dado));
+    opciones.saltarDesconocidos = opciones.saltarDesconocidos || desplegados.front() != RutaAbsoluta(dado);
+    rutas.insert(rutas.end(), desplegados.begin(), desplegados.end());
+  }
+  if (datos.localidad && rutas.size() > 1)
+    throw Fallo(Estado::UsoIncorrecto,
+                "--localidad da un solo nombre y hay " + std::to_string(rutas.size()) + " ficheros");
+  IniciarBase(datos.base ? RutaAbsoluta(*datos.base) : std::string(), contexto);
+  Marcha marcha(rutas.size(), contexto);
+  ImportarLote(DameConfiguracion().RutaMeteo(""), rutas, opciones,
+               [&](std::size_t i, const FicheroDeLote &fichero) { marcha.Uno(i, fichero); });
+  marcha.Acabar();
+}
+
+} // namespace
+
+void RegistrarImportar(CLI::App &raiz, Contexto &contexto) {
+  const auto datos = std::make_shared<Datos>();
+  CLI::App &orden = NuevaOrden(
+      raiz, "importar",
+      {"Hace localidades de ficheros climáticos ajenos",
+       "Lee EPW, PVGIS (CSV y EPW), TMY3 y .met de trece o quince columnas, comprueba su reloj con el sol, "
+       "los "
+       "lleva a la hora\nsolar verdadera y escribe el .met, su registro en GDR.TXT y su línea en "
+       "LocalidadesCC. "
+       "Una carpeta vale por los ficheros\nclimáticos que tenga. Cuenta de cada uno el veredicto del reloj y "
+       "qué se ha copiado, calculado o inventado.",
+       "importar ESP_Almeria.epw --provincia Almería --zona COSTA\n"
+       "importar tmy.csv --provincia Granada --localidad Baza --reloj utc --desfase -50\n"
+       "importar carpeta --provincia Clientes --reemplazar"});
+  AnadirArgumentos(orden, "FICHERO", datos->ficheros, "Ficheros o carpetas que se importan")->required();
+  AnadirValor(orden, "--provincia", datos->provincia, "PROVINCIA", "Donde se listan (obligatoria)")
+      ->required();
+  AnadirValor(orden, "--localidad", datos->localidad, "NOMBRE",
+              "Nombre de la localidad (si no se da, el que diga el fichero)");
+  AnadirReloj(orden, datos->reloj);
+  AnadirValor(orden, "--zona", datos->zona, "CUAL", "COSTA o INTERIOR, para los días extremos (INTERIOR)");
+  AnadirBase(orden, datos->base);
+  orden.add_flag("--reemplazar", datos->reemplazar, "Sustituye las localidades que ya estén");
+  orden.callback(
+      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+}
+
+} // namespace tesmo::cli

@@ -1,0 +1,39 @@
+#include "intercambio/Aniodefichero.h"
+
+#include <utility>
+
+namespace tesmo {
+
+RelojFichero ElegirReloj(const VeredictoReloj &veredicto, const EleccionReloj &eleccion) {
+  constexpr double FIN_DE_LA_HORA_MIN = -30.0; // lo corriente: la etiqueta es el final de su hora
+  const RelojFichero &declarado = veredicto.declarado.reloj;
+  RelojFichero reloj = veredicto.confianza >= ConfianzaReloj::Media ? veredicto.propuesto.reloj : declarado;
+  if (eleccion.tiempo && *eleccion.tiempo != reloj.tiempo) {
+    reloj = declarado;
+    if (*eleccion.tiempo != declarado.tiempo) reloj.desfaseMin = FIN_DE_LA_HORA_MIN;
+    reloj.tiempo = *eleccion.tiempo;
+  }
+  if (eleccion.desfaseMin) reloj.desfaseMin = *eleccion.desfaseMin;
+  return reloj;
+}
+
+AnioDeFichero LeerAnioDeFichero(const std::string &ruta, const EleccionReloj &eleccion,
+                                const OpcionesLectura &opciones) {
+  AnioDeFichero leido;
+  leido.lectura = LeerFicheroClima(ruta, opciones);
+  if (!leido.lectura.SinErrores()) {
+    for (const NotaLectura &nota : leido.lectura.errores) leido.errores.push_back(nota.texto);
+    if (leido.errores.empty()) leido.errores.emplace_back("no tiene ningún registro");
+    return leido;
+  }
+  const AnioCanonico anio = std::move(*leido.lectura.anio);
+  leido.lectura.anio.reset();
+  leido.sitio = anio.sitio;
+  leido.veredicto = DetectarReloj(anio);
+  leido.reloj = ElegirReloj(leido.veredicto, eleccion);
+  leido.conversion = LlevarAHoraSolar(anio, leido.reloj);
+  if (!leido.conversion.anio) leido.errores.push_back(leido.conversion.error);
+  return leido;
+}
+
+} // namespace tesmo
