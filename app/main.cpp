@@ -6,6 +6,7 @@
 #include "app/Presentadorventanas.h"
 #include "app/Ventanaprincipal.h"
 #include "core/Rutas.h"
+#include "intercambio/escritura/Importacion.h"
 #include "localidades/Ciudad.h"
 
 #include <QApplication>
@@ -79,6 +80,12 @@ Opciones LeerOpciones(int argc, char **argv) {
           RutaAbsoluta(lector.value(base))};
 }
 
+/// Antes de que nadie lea las localidades: una importación que quedó a medias se termina o se deshace.
+void AcabarImportacion() {
+  const std::string hecho = tesmo::RecuperarImportacion(tesmo::DameConfiguracion().RutaMeteo(""));
+  if (!hecho.empty()) QTextStream(stderr) << "Aviso: " << QString::fromStdString(hecho) << "\n";
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -89,6 +96,7 @@ int main(int argc, char **argv) {
     QTextStream(stderr) << "Aviso: " << QString::fromStdString(aviso) << "\n";
   });
   if (!opciones.base.isEmpty()) tesmo::IniciarConfiguracion(opciones.base.toStdString());
+  AcabarImportacion();
   if (!opciones.demostracion.isEmpty()) {
     return tesmo::EjecutarDemostracion(opciones.demostracion) ? EXIT_SUCCESS : EXIT_FAILURE;
   }

@@ -102,7 +102,8 @@ void Importar(const std::string &directorio, const OpcionesLote &opciones, std::
   fichero.nombre = TextoDeCampo(peticion.nombre);
   if (!hechos.insert(fichero.nombre).second) {
     fichero.importacion.fallo = FalloImportacion::Peticion;
-    fichero.importacion.error = "otro fichero de los dados se llama también «" + fichero.nombre + "»";
+    fichero.importacion.error =
+        "otro fichero de los dados da también «" + fichero.nombre + "»; impórtelo aparte con otro nombre";
     return;
   }
   fichero.importacion = ImportarLocalidad(directorio, peticion, *fichero.anio.conversion.anio);

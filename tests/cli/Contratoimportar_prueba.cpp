@@ -1,0 +1,106 @@
+#include "tests/cli/Proceso.h"
+#include "tests/intercambio/formatos/Generadorclima.h"
+
+#include <algorithm>
+
+namespace tesmo::prueba {
+namespace {
+
+class OrdenImportar : public LineaDeOrdenes {
+protected:
+  std::string Epw(const std::string &fichero, const std::string &ciudad) const {
+    LineasFichero lineas = LineasEpw();
+    CambiarCampo(lineas[0], 1, ciudad);
+    return raiz_.Escribir(fichero, Unir(lineas));
+  }
+};
+
+TEST_F(OrdenImportar, LaLocalidadSeListaYSeUsa) {
+  const std::string epw = Epw("x.epw", "Baza");
+  const Ejecucion e = ConBase({"importar", epw, "--provincia", "Granada", "--zona", "INTERIOR"});
+  ASSERT_EQ(e.estado, 0) << e.error;
+  EXPECT_TRUE(e.salida.starts_with("x.epw: Baza (Granada), Baza.met\n")) << e.salida;
+  EXPECT_NE(e.salida.find("Reloj: "), std::string::npos);
+  EXPECT_NE(e.salida.find("De 8760 horas de temperatura seca: "), std::string::npos) << e.salida;
+  EXPECT_TRUE(ConBase({"localidades", "--provincia", "Granada"})
+                  .salida.starts_with("Granada\tBaza\tBaza\tBaza.met\t"));
+  const Ejecucion serie = ConBase({"serie", "--localidad", "Baza", "TS", "G"});
+  EXPECT_EQ(serie.estado, 0);
+  EXPECT_EQ(serie.Lineas().size(), 8761U);
+  const Ejecucion dias = ConBase({"dias-extremos", "--localidad", "Baza"});
+  EXPECT_EQ(dias.estado, 0) << dias.error;
+}
+
+TEST_F(OrdenImportar, LaListaQueYaEstabaConservaSusBytes) {
+  const std::string antes = Contenido(raiz_ / "base/Meteo/LocalidadesCC");
+  ASSERT_EQ(ConBase({"importar", Epw("x.epw", "Baza"), "--provincia", "Granada"}).estado, 0);
+  EXPECT_TRUE(Contenido(raiz_ / "base/Meteo/LocalidadesCC").starts_with(antes + "1\nBaza,Baza,Granada,"));
+}
+
+TEST_F(OrdenImportar, UnaCarpetaEnteraConSuMarcha) {
+  static_cast<void>(Epw("c/b.epw", "Dos"));
+  static_cast<void>(Epw("c/a.EPW", "Uno"));
+  raiz_.Escribir("c/normales.csv", "a,b\n1,2\n");
+  raiz_.Escribir("c/LEEME.md", "nada");
+  const Ejecucion e = ConBase({"importar", (raiz_ / "c").string(), "--provincia", "P", "--zona", "COSTA"});
+  EXPECT_EQ(e.estado, 0) << e.error;
+  EXPECT_NE(e.error.find("[1/3] a.EPW\n"), std::string::npos) << e.error;
+  EXPECT_NE(e.error.find("Aviso: normales.csv: no es de ningún formato climático conocido; se salta\n"),
+            std::string::npos)
+      << e.error;
+  EXPECT_EQ(ConBase({"localidades", "--provincia", "P"}).Lineas().size(), 2U);
+}
+
+TEST_F(OrdenImportar, UnaQueYaEstaPideReemplazar) {
+  const std::string epw = Epw("x.epw", "Rota");
+  const Ejecucion e = ConBase({"importar", epw, "--provincia", "Cádiz"});
+  EXPECT_EQ(e.estado, 4);
+  EXPECT_EQ(e.salida, "");
+  EXPECT_NE(e.error.find("Error: x.epw: ya hay una localidad «Rota»; no se importa (véase --reemplazar)\n"),
+            std::string::npos)
+      << e.error;
+  const Ejecucion otra = ConBase({"importar", epw, "--provincia", "Cádiz", "--reemplazar"});
+  EXPECT_EQ(otra.estado, 0) << otra.error;
+  EXPECT_TRUE(otra.salida.starts_with("x.epw: Rota (Cádiz), rota.met, reemplazada\n")) << otra.salida;
+  EXPECT_TRUE(
+      Contenido(raiz_ / "base/Meteo/rota.met").starts_with("Importado por Tesmo: Rota, Cádiz; de x.epw\n"));
+}
+
+TEST_F(OrdenImportar, ElRelojSePuedeElegir) {
+  const std::string epw = Epw("x.epw", "Baza");
+  const Ejecucion e =
+      ConBase({"importar", epw, "--provincia", "Granada", "--reloj", "utc", "--desfase", "-50"});
+  ASSERT_EQ(e.estado, 0) << e.error;
+  EXPECT_NE(e.salida.find("  Reloj: UTC, etiqueta − 50 min"), std::string::npos) << e.salida;
+}
+
+TEST_F(OrdenImportar, UsoIncorrectoEstado2) {
+  const std::string epw = Epw("x.epw", "Baza");
+  const std::vector<std::vector<std::string>> malas{
+      {"importar", epw},
+      {"importar", "--provincia", "P"},
+      {"importar", epw, "--provincia", "P", "--zona", "costa"},
+      {"importar", epw, "--provincia", "P", "--reloj", "local"},
+      {"importar", epw, "--provincia", "P", "--desfase", "91"},
+      {"importar", epw, epw, "--provincia", "P", "--localidad", "L"}};
+  for (const auto &mala : malas) EXPECT_EQ(ConBase(mala).estado, 2) << mala.back();
+}
+
+TEST_F(OrdenImportar, LoQueNoSePuedeLeerEstado3YLosDemasSeImportan) {
+  const Ejecucion e =
+      ConBase({"importar", (raiz_ / "nohay.epw").string(), Epw("x.epw", "Baza"), "--provincia", "P"});
+  EXPECT_EQ(e.estado, 3);
+  EXPECT_NE(e.error.find("Error: nohay.epw: "), std::string::npos) << e.error;
+  EXPECT_EQ(ConBase({"localidades", "--provincia", "P"}).Lineas().size(), 1U);
+}
+
+TEST_F(OrdenImportar, UnaImportacionAMediasSeTerminaAlEmpezar) {
+  raiz_.Escribir("base/Meteo/.tesmo-importacion-0.nuevo", "a medias");
+  const Ejecucion e = ConBase({"localidades"});
+  EXPECT_EQ(e.estado, 0);
+  EXPECT_NE(e.error.find("se ha deshecho una importación que quedó a medias"), std::string::npos) << e.error;
+  EXPECT_EQ(ConBase({"localidades"}).error, "");
+}
+
+} // namespace
+} // namespace tesmo::prueba
