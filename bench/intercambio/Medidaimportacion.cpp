@@ -114,4 +114,3 @@ void Importarlos(benchmark::State &state) {
 BENCHMARK(SoloTraerlos)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(SoloLeerlos)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(Importarlos)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK_MAIN();
