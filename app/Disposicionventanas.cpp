@@ -52,6 +52,7 @@ std::vector<QRect> RepartirEnMosaico(const QSize &area, int ventanas, const QSiz
 
 std::vector<QPoint> AlinearIconos(const QSize &area, int iconos, const QSize &icono) {
   std::vector<QPoint> esquinas;
+  esquinas.reserve(static_cast<std::size_t>(std::max(0, iconos)));
   const int porFila = std::max(1, area.width() / std::max(1, icono.width()));
   for (int i = 0; i < iconos; ++i) {
     esquinas.emplace_back(i % porFila * icono.width(), area.height() - (i / porFila + 1) * icono.height());
