@@ -2,6 +2,8 @@
 
 #include "meteo/Derivacionesrecorrido.h"
 
+#include <algorithm>
+
 namespace tesmo {
 
 namespace {
@@ -17,16 +19,24 @@ struct Sumas {
   double calefaccion = 0.0;
   double refrigeracion = 0.0;
   double depresion = 0.0;
+  std::optional<FechaHora> fechaMaximo = std::nullopt;
+  std::optional<FechaHora> fechaMinimo = std::nullopt;
 
-  void Anadir(float valor) {
-    if (valor > maximo) maximo = valor;
-    if (valor < minimo) minimo = valor;
+  void Anadir(float valor, const FechaHora &fecha) {
+    if (valor > maximo) {
+      maximo = valor;
+      fechaMaximo = fecha;
+    }
+    if (valor < minimo) {
+      minimo = valor;
+      fechaMinimo = fecha;
+    }
     suma += valor;
     ++cuenta;
   }
-  void AnadirGrados(float valor, float seca, const CriterioEstadisticas &criterio) {
-    SumarSiNoEsNegativo(calefaccion, static_cast<double>(criterio.baseCalefaccion) - valor);
-    SumarSiNoEsNegativo(refrigeracion, static_cast<double>(valor) - criterio.baseRefrigeracion);
+  void AnadirGrados(float valor, float seca, const BasesGradosDia &bases) {
+    SumarSiNoEsNegativo(calefaccion, static_cast<double>(bases.calefaccion) - valor);
+    SumarSiNoEsNegativo(refrigeracion, static_cast<double>(valor) - bases.refrigeracion);
     SumarSiNoEsNegativo(depresion, static_cast<double>(seca) - valor);
   }
 
@@ -60,6 +70,9 @@ const SerieHoraria *SeriePuerta(RutinaEstadistica rutina, const SeriesLeidas &le
 void Volcar(const Sumas &sumas, ResultadoEstadisticas &resultado) {
   resultado.maximo = sumas.maximo;
   resultado.minimo = sumas.minimo;
+  resultado.fechaMaximo = sumas.fechaMaximo;
+  resultado.fechaMinimo = sumas.fechaMinimo;
+  resultado.horas = sumas.cuenta;
   if (sumas.cuenta != 0) resultado.media = static_cast<float>(sumas.suma / sumas.cuenta);
   resultado.gradosDiaCalefaccion = static_cast<float>(sumas.calefaccion * DIAS_POR_HORA);
   resultado.gradosDiaRefrigeracion = static_cast<float>(sumas.refrigeracion * DIAS_POR_HORA);
@@ -82,11 +95,26 @@ ResultadoEstadisticas CalcularEstadisticas(Magnitud magnitud, const SeriesLeidas
     if (fecha.hora < criterio.primeraHoraDelDia || fecha.hora > criterio.ultimaHoraDelDia) return;
     if (puerta != nullptr && (*puerta)[i] == 0.0F) return;
     const float valor = serie[i] * ficha.fuente.escala;
-    sumas.Anadir(valor);
-    if (ficha.rutina == RutinaEstadistica::Temperatura) sumas.AnadirGrados(valor, seca[i], criterio);
+    sumas.Anadir(valor, fecha);
+    if (ficha.rutina == RutinaEstadistica::Temperatura) sumas.AnadirGrados(valor, seca[i], criterio.bases);
   });
   Volcar(sumas, resultado);
   return resultado;
+}
+
+std::vector<EstadisticasDelMes> CalcularEstadisticasPorMes(Magnitud magnitud, const SeriesLeidas &leidas,
+                                                           const SeriesDerivadas &derivadas,
+                                                           const CriterioEstadisticas &criterio) {
+  std::vector<EstadisticasDelMes> meses;
+  for (int mes = 1; mes <= static_cast<int>(DIAS_DEL_MES.size()); ++mes) {
+    CriterioEstadisticas delMes = criterio;
+    delMes.tramo.primera = std::max(criterio.tramo.primera, IndiceHora(mes, 1, 1));
+    delMes.tramo.ultima = std::min(criterio.tramo.ultima, IndiceHora(mes, DiasDelMes(mes), HORAS_DEL_DIA));
+    if (delMes.tramo.ultima < delMes.tramo.primera) continue;
+    delMes.inicio = FechaDeIndice(delMes.tramo.primera);
+    meses.push_back({mes, CalcularEstadisticas(magnitud, leidas, derivadas, delMes)});
+  }
+  return meses;
 }
 
 } // namespace tesmo

@@ -4,7 +4,9 @@
 #include "meteo/Magnitudes.h"
 #include "meteo/Serieshorarias.h"
 
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace tesmo {
 
@@ -18,6 +20,22 @@ struct ResultadoEstadisticas {
   float gradosDiaRefrigeracion = 0.0F; ///< [Grados-día]
   float tercerSumatorio = 0.0F;        ///< depresión respecto a la temperatura exterior [Grados-día]
   std::string unidad;                  ///< la del rótulo
+  int horas = 0;                       ///< las que cuentan
+  /// Primera hora en que se da cada extremo; vacía si ninguna mejora el valor de partida.
+  std::optional<FechaHora> fechaMaximo;
+  std::optional<FechaHora> fechaMinimo;
+};
+
+/// Estadísticas de las horas de un mes.
+struct EstadisticasDelMes {
+  int mes = 1;
+  ResultadoEstadisticas resultado;
+};
+
+/// Temperaturas desde las que se forman los grados-día [°C].
+struct BasesGradosDia {
+  float calefaccion = 15.0F;
+  float refrigeracion = 25.0F;
 };
 
 /// Qué horas cuentan y con qué bases se forman los grados-día.
@@ -26,13 +44,16 @@ struct CriterioEstadisticas {
   TramoHoras tramo;          ///< posiciones del período; lo que cae fuera de las series no cuenta
   int primeraHoraDelDia = 1; ///< horas del día que se tienen en cuenta, ambas incluidas
   int ultimaHoraDelDia = 1;
-  float baseCalefaccion = 0;   ///< [°C]
-  float baseRefrigeracion = 0; ///< [°C]
+  BasesGradosDia bases;
 };
 
 /// Estadísticas de @p magnitud. Una magnitud derivada sin derivar no tiene horas que contar.
 [[nodiscard]] ResultadoEstadisticas CalcularEstadisticas(Magnitud magnitud, const SeriesLeidas &leidas,
                                                          const SeriesDerivadas &derivadas,
                                                          const CriterioEstadisticas &criterio);
+/// Las mismas estadísticas mes a mes: una entrada por cada mes con horas en el tramo, con las que caen en él.
+[[nodiscard]] std::vector<EstadisticasDelMes>
+CalcularEstadisticasPorMes(Magnitud magnitud, const SeriesLeidas &leidas, const SeriesDerivadas &derivadas,
+                           const CriterioEstadisticas &criterio);
 
 } // namespace tesmo

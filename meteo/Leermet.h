@@ -76,6 +76,10 @@ public:
   void Estadisticas(std::string_view rotulo, float baseCalefaccion, float baseRefrigeracion, float &maximo,
                     float &minimo, float &media, float &gradosCal, float &gradosRef, float &tercera,
                     std::string &unidad) const;
+  /// Las mismas del período, con la hora de sus extremos, y las de cada uno de sus meses.
+  [[nodiscard]] ResultadoEstadisticas DameEstadisticas(Magnitud magnitud, const BasesGradosDia &bases) const;
+  [[nodiscard]] std::vector<EstadisticasDelMes> DameEstadisticasPorMes(Magnitud magnitud,
+                                                                       const BasesGradosDia &bases) const;
 
   /// Da forma a las columnas de exportación de los rótulos, en su orden; los que no se exportan se saltan.
   void PrepararColumnas(const std::vector<std::string> &rotulos);
@@ -124,6 +128,7 @@ private:
   [[nodiscard]] TramoHoras TramoEnAnio() const;
   [[nodiscard]] FechaHora InicioEnAnio() const;
   [[nodiscard]] EncabezamientoExportacion Encabezamiento() const;
+  [[nodiscard]] CriterioEstadisticas Criterio(const BasesGradosDia &bases) const;
 
   SeriesLeidas leidas_;
   SeriesDerivadas derivadas_;

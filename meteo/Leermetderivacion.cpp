@@ -26,15 +26,25 @@ void LeerMet::AsegurarDerivadas(float presion, const PosicionSolar &horizonte) {
   }
 }
 
+CriterioEstadisticas LeerMet::Criterio(const BasesGradosDia &bases) const {
+  return {InicioEnAnio(), TramoEnAnio(), primeraHoraDelDia_, ultimaHoraDelDia_, bases};
+}
+
+ResultadoEstadisticas LeerMet::DameEstadisticas(Magnitud magnitud, const BasesGradosDia &bases) const {
+  return CalcularEstadisticas(magnitud, leidas_, derivadas_, Criterio(bases));
+}
+
+std::vector<EstadisticasDelMes> LeerMet::DameEstadisticasPorMes(Magnitud magnitud,
+                                                                const BasesGradosDia &bases) const {
+  return CalcularEstadisticasPorMes(magnitud, leidas_, derivadas_, Criterio(bases));
+}
+
 void LeerMet::Estadisticas(std::string_view rotulo, float baseCalefaccion, float baseRefrigeracion,
                            float &maximo, float &minimo, float &media, float &gradosCal, float &gradosRef,
                            float &tercera, std::string &unidad) const {
   ResultadoEstadisticas resultado;
-  if (const FichaMagnitud *ficha = BuscarPorRotulo(rotulo)) {
-    resultado = CalcularEstadisticas(ficha->magnitud, leidas_, derivadas_,
-                                     {InicioEnAnio(), TramoEnAnio(), primeraHoraDelDia_, ultimaHoraDelDia_,
-                                      baseCalefaccion, baseRefrigeracion});
-  }
+  if (const FichaMagnitud *ficha = BuscarPorRotulo(rotulo))
+    resultado = DameEstadisticas(ficha->magnitud, {baseCalefaccion, baseRefrigeracion});
   maximo = resultado.maximo;
   minimo = resultado.minimo;
   media = resultado.media;

@@ -251,6 +251,25 @@ TEST_F(OrdenEstadisticas, BasesYHorasDelDia) {
   EXPECT_NEAR(std::stod(seca[6]), 1.25 / 24.0, 1e-8);
 }
 
+// El fichero sólo trae los dos primeros días: i/4 de 0 a 47; lo demás son ceros.
+TEST_F(OrdenEstadisticas, MensualDaUnaLineaPorMesConLasFechasDeLosExtremos) {
+  const Ejecucion e = Estadisticas({"--desde", "1/1/2", "--hasta", "2/3/24", "--mensual", "TS", "HR"});
+  ASSERT_EQ(e.estado, 0) << e.error;
+  ASSERT_EQ(e.Lineas().size(), 5U);
+  EXPECT_EQ(e.Lineas()[0], "variable\tunidad\tmes\tmaximo\tminimo\tmedia\tgrados_dia_calefaccion\t"
+                           "grados_dia_refrigeracion\tdepresion\tfecha_maximo\tfecha_minimo");
+  const std::vector<std::string> enero = Campos(e.Lineas()[1]);
+  EXPECT_EQ(enero[2], "1");
+  EXPECT_EQ(enero[3], "11.75");
+  EXPECT_EQ(enero[9], "1/2/24");
+  EXPECT_EQ(enero[10], "1/3/1"); // el primer cero
+  const std::vector<std::string> febrero = Campos(e.Lineas()[2]);
+  EXPECT_EQ(febrero[2], "2");
+  EXPECT_EQ(febrero[6], "45"); // tres días a 15 grados de la base
+  EXPECT_EQ(febrero[9], "2/1/1");
+  EXPECT_EQ(Campos(e.Lineas()[3])[1], "%");
+}
+
 TEST_F(OrdenEstadisticas, HorasQueNoValenEstado2) {
   for (const char *horas : {"0-24", "1-25", "20-6", "12"})
     EXPECT_EQ(Estadisticas({"--horas", horas, "TS"}).estado, 2) << horas;
