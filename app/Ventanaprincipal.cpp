@@ -13,6 +13,8 @@
 #include "core/Rutas.h"
 #include "extremos/Diasextremos.h"
 #include "vistas/Abrirdocumento.h"
+#include "vistas/Configuracion.h"
+#include "vistas/Ventanacolores.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -151,7 +153,16 @@ void TforPrincipal::mnuCerrarTodoClick() {
 }
 
 void TforPrincipal::mnuColoresClick() {
-  for (const auto &controlador : controladores_) controlador->AplicarColores();
+  auto *dialogo = new TforColores(DameTablaDeColores(), this);
+  dialogo->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialogo, &TforColores::aplicados, this, [this](bool guardados) {
+    for (const auto &controlador : controladores_) controlador->AplicarColores();
+    if (guardados) return;
+    const QString ruta = QString::fromStdString(DameConfiguracion().RutaPrograma("tesmo.inp"));
+    statusBar()->showMessage(
+        tr("Los colores valen hasta cerrar el programa: no se pudieron guardar en %1").arg(ruta));
+  });
+  dialogo->open();
 }
 
 TforProgramas *TforPrincipal::VentanaDelante() const {

@@ -3,6 +3,7 @@
 #include "app/Vistaprograma.h"
 #include "vistas/Paginadiasextremos.h"
 #include "vistas/Paginaentorno.h"
+#include "vistas/Paginaestadisticas.h"
 #include "vistas/Paginaexportacion.h"
 #include "vistas/Paginaposicionsolar.h"
 #include "vistas/Paginapsicrometrico.h"
@@ -35,6 +36,8 @@ TforProgramas::TforProgramas(VistaPrograma &controlador, QWidget *padre)
   pcProgramas_->addTab(paginaPsicrometrico_, tr("Psicrométrico  "));
   paginaExportacion_ = new PaginaExportacion;
   pcProgramas_->addTab(paginaExportacion_, tr("Archivos horarios  "));
+  paginaEstadisticas_ = new PaginaEstadisticas;
+  pcProgramas_->addTab(paginaEstadisticas_, tr("Valores medios y globales  "));
   panel_ = new PanelSeleccion(this);
   auto *disposicion = new QVBoxLayout(this);
   disposicion->setContentsMargins(0, 0, 0, 0);

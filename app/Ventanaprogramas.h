@@ -8,6 +8,7 @@ namespace tesmo {
 
 class PaginaDiasExtremos;
 class PaginaEntorno;
+class PaginaEstadisticas;
 class PaginaExportacion;
 class PaginaResultadosExtremos;
 class PaginaPosicionSolar;
@@ -30,6 +31,7 @@ public:
   [[nodiscard]] PaginaResultadosExtremos &DamePaginaResultados() const { return *paginaResultados_; }
   [[nodiscard]] PaginaPosicionSolar &DamePaginaPosicionSolar() const { return *paginaPosicionSolar_; }
   [[nodiscard]] PaginaPsicrometrico &DamePaginaPsicrometrico() const { return *paginaPsicrometrico_; }
+  [[nodiscard]] PaginaEstadisticas &DamePaginaEstadisticas() const { return *paginaEstadisticas_; }
   [[nodiscard]] PaginaExportacion &DamePaginaExportacion() const { return *paginaExportacion_; }
   [[nodiscard]] PanelSeleccion &DamePanel() const { return *panel_; }
 
@@ -73,6 +75,7 @@ private:
   PaginaPosicionSolar *paginaPosicionSolar_ = nullptr;
   PaginaPsicrometrico *paginaPsicrometrico_ = nullptr;
   PaginaExportacion *paginaExportacion_ = nullptr;
+  PaginaEstadisticas *paginaEstadisticas_ = nullptr;
   PanelSeleccion *panel_ = nullptr;
 };
 

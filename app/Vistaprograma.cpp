@@ -15,6 +15,7 @@
 #include "vistas/Textoqt.h"
 #include "vistas/Vistadiasextremos.h"
 #include "vistas/Vistaentorno.h"
+#include "vistas/Vistaestadisticas.h"
 #include "vistas/Vistaexportacion.h"
 #include "vistas/Vistaposicionsolar.h"
 #include "vistas/Vistapsicrometrico.h"
@@ -31,7 +32,10 @@ VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
                                                                [this] { CambiarAltitud(); })),
       vistaExportacion_(std::make_unique<VistaExportacion>(formulario_->DamePaginaExportacion(),
                                                            formulario_->DamePanel(), *this, seleccion_,
-                                                           [this](const QString &texto) { Decir(texto); })) {
+                                                           [this](const QString &texto) { Decir(texto); })),
+      vistaEstadisticas_(std::make_unique<VistaEstadisticas>(
+          formulario_->DamePaginaEstadisticas(), formulario_->DamePanel(), *this, seleccion_,
+          [this](const QString &texto) { Decir(texto); })) {
   AsociarVista(this);
 }
 
@@ -62,6 +66,7 @@ VistaPrograma::~VistaPrograma() {
   vistaEntorno_.reset();
   vistaPsicrometrico_.reset();
   vistaExportacion_.reset();
+  vistaEstadisticas_.reset();
   delete formulario_;
   DestruirMotores();
 }
@@ -102,6 +107,7 @@ void VistaPrograma::CambiarProvincia() {
   vistaEntorno_->Vaciar();
   vistaPsicrometrico_->redibujar();
   PonTitulo();
+  vistaEstadisticas_->Calcular();
 }
 
 void VistaPrograma::CambiarLocalidad() {
@@ -117,6 +123,7 @@ void VistaPrograma::CambiarLocalidad() {
   vistaPsicrometrico_->redibujar();
   if (!seleccion_.HayLocalidad() || !Cargar()) return;
   if (habiaSeries) Visualizar();
+  vistaEstadisticas_->Calcular();
 }
 
 bool VistaPrograma::Cargar() {
@@ -130,6 +137,7 @@ bool VistaPrograma::Cargar() {
 
 void VistaPrograma::CambiarPeriodo() {
   vistaEntorno_->cambioPeriodo();
+  vistaEstadisticas_->cambioPeriodo();
   Decir(QObject::tr("Período cambiado: pulse «Visualizar» para dibujarlo."));
 }
 
@@ -138,6 +146,7 @@ void VistaPrograma::Actualizar() {
   const Accion accion(*this);
   vistaEntorno_->leerPeriodo();
   if (Cargar()) Visualizar();
+  vistaEstadisticas_->Calcular();
 }
 
 void VistaPrograma::Visualizar() {

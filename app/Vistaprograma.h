@@ -14,6 +14,7 @@ namespace tesmo {
 class TforProgramas;
 class VistaDiasExtremos;
 class Vistaentorno;
+class VistaEstadisticas;
 class VistaExportacion;
 class Vistaposicionsolar;
 class Vistapsicrometrico;
@@ -74,6 +75,7 @@ private:
   std::unique_ptr<Vistaentorno> vistaEntorno_;
   std::unique_ptr<Vistapsicrometrico> vistaPsicrometrico_;
   std::unique_ptr<VistaExportacion> vistaExportacion_;
+  std::unique_ptr<VistaEstadisticas> vistaEstadisticas_;
 };
 
 } // namespace tesmo

@@ -4,6 +4,8 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace tesmo {
 
@@ -16,6 +18,17 @@ public:
   [[nodiscard]] std::uint32_t dameColor(int i, std::uint32_t porDefecto) const;
   /// Otro índice que 0 a 20 se ignora.
   void ponColor(int i, std::uint32_t color);
+
+  /// Toma los colores de "tesmo.inp", en el directorio del programa; si falta, la tabla queda como está. Una
+  /// clave ausente da a su color el de la clave anterior: como la de la altura se escribe de otro modo, tras
+  /// guardar y leer la altura queda del color del cénit (se conserva).
+  void leer();
+  /// Lo mismo con el contenido de un fichero.
+  void leerTexto(std::string_view contenido);
+  /// Escribe "tesmo.inp" entero. Si no se puede devuelve falso y no dice nada.
+  bool escribirConfiguracion() const;
+  /// Los bytes de ese fichero, en Windows-1252.
+  [[nodiscard]] std::string Bytes() const;
 
 private:
   std::array<std::uint32_t, NUMERO_MAGNITUDES_VISOR> colores_{};

@@ -3,6 +3,10 @@
 #include "vistas/Diezmado.h"
 #include "vistas/Recorte.h"
 
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
 namespace tesmo {
 
 namespace {
@@ -13,6 +17,26 @@ constexpr double ANCHO_COLUMNA_VECTORIAL = 0.25;
 std::span<const QPointF> Tramo(const QVector<QPointF> &linea) {
   return {linea.constData(), static_cast<std::size_t>(linea.size())};
 }
+
+/// Por dónde se pinta una línea discontinua según la abscisa: con más puntos que columnas no hay recorrido
+/// que seguir, y el trazo se lee a lo ancho.
+class TrazoDiscontinuo {
+public:
+  explicit TrazoDiscontinuo(const QPen &pluma) {
+    if (pluma.style() != Qt::CustomDashLine) return;
+    for (const qreal tramo : pluma.dashPattern()) fines_.push_back(periodo_ += tramo * pluma.widthF());
+  }
+  [[nodiscard]] bool SePinta(double x) const {
+    if (fines_.empty()) return true;
+    const double sitio = std::fmod(std::fmod(x, periodo_) + periodo_, periodo_);
+    const auto tramo = std::upper_bound(fines_.begin(), fines_.end(), sitio);
+    return (tramo - fines_.begin()) % 2 == 0; // los pares son guiones; los impares, huecos
+  }
+
+private:
+  std::vector<double> fines_; ///< [px]
+  double periodo_ = 0.0;      ///< [px]
+};
 
 } // namespace
 
@@ -26,9 +50,12 @@ void CurvaDiezmada::drawLinePlot(QCPPainter *pintor, const QVector<QPointF> &lin
     return;
   }
   const double escala = std::max(pintor->deviceTransform().m11(), 1.0e-3);
+  // Un trazo discontinuo se sigue de un segmento a otro: va como una sola línea mientras cabe.
   const double columnas = keyAxis()->axisRect()->width() * escala;
   if (static_cast<double>(linea.size()) >= columnas) {
     PintarColumnas(*pintor, linea, 1.0 / escala);
+  } else if (pen().style() == Qt::CustomDashLine) {
+    PintarVectorial(*pintor, linea);
   } else {
     PintarSegmentos(*pintor, linea);
   }
@@ -39,7 +66,9 @@ void CurvaDiezmada::PintarColumnas(QCPPainter &pintor, const QVector<QPointF> &l
   const TrazoPorColumnas trazo = TrazarColumnas(DiezmarPorColumnas(Tramo(linea), ancho), ancho, grosor);
   QVector<QRectF> rectangulos;
   rectangulos.reserve(static_cast<qsizetype>(trazo.barras.size()));
-  for (const Barra &b : trazo.barras) rectangulos.emplace_back(b.x, b.y, b.ancho, b.alto);
+  const TrazoDiscontinuo discontinuo(pen());
+  for (const Barra &b : trazo.barras)
+    if (discontinuo.SePinta(b.x)) rectangulos.emplace_back(b.x, b.y, b.ancho, b.alto);
   QVector<QPointF> segmentos(trazo.segmentos.begin(), trazo.segmentos.end());
   pintor.setAntialiasing(false);
   pintor.drawLines(segmentos);

@@ -67,6 +67,14 @@ void SacarLeyenda(QCustomPlot &trazo) {
   trazo.legend->setVisible(false);
 }
 
+QPen Pluma(const SerieGrafico &serie) {
+  QPen pluma(serie.color, serie.grosor);
+  if (serie.trazo.isEmpty()) return pluma;
+  pluma.setDashPattern(serie.trazo);
+  pluma.setCapStyle(Qt::FlatCap); // unas puntas salientes cerrarían los huecos
+  return pluma;
+}
+
 } // namespace
 
 Grafico::Grafico(QWidget *padre) : QWidget(padre), interno_(std::make_unique<Interno>()) {
@@ -112,7 +120,7 @@ int Grafico::AnadirSerie(const SerieGrafico &serie, std::span<const float> valor
   auto *curva = new CurvaDiezmada(interno_->trazo->xAxis, interno_->Eje(serie.lado));
   curva->removeFromLegend();
   curva->setName(serie.clave);
-  curva->setPen(QPen(serie.color, serie.grosor));
+  curva->setPen(Pluma(serie));
   curva->setVisible(serie.visible);
   QVector<QCPGraphData> puntos;
   puntos.reserve(static_cast<qsizetype>(valores.size()));
@@ -158,7 +166,13 @@ void Grafico::PonLado(int indice, LadoEje lado) {
 void Grafico::PonColor(int indice, const QColor &color) {
   SerieTrazada &trazada = interno_->En(indice);
   trazada.serie.color = color;
-  trazada.curva->setPen(QPen(color, trazada.serie.grosor));
+  trazada.curva->setPen(Pluma(trazada.serie));
+}
+
+void Grafico::PonTrazo(int indice, const QList<qreal> &trazo) {
+  SerieTrazada &trazada = interno_->En(indice);
+  trazada.serie.trazo = trazo;
+  trazada.curva->setPen(Pluma(trazada.serie));
 }
 
 void Grafico::FijarLimites(LadoEje lado, const LimitesEje &limites) {
@@ -183,7 +197,7 @@ void Grafico::RehacerLeyenda() {
     if (!serie.visible) continue;
     const QString texto =
         serie.leyenda.isEmpty() ? serie.clave + QStringLiteral(": ") + serie.rotulo : serie.leyenda;
-    entradas.push_back(new EntradaLeyenda(&leyenda, i, texto, QPen(serie.color, serie.grosor)));
+    entradas.push_back(new EntradaLeyenda(&leyenda, i, texto, Pluma(serie)));
     entradas.back()->setFont(interno_->trazo->xAxis->tickLabelFont());
     ancho = std::max(ancho, entradas.back()->AnchoNecesario());
   }

@@ -28,6 +28,8 @@ struct SerieGrafico {
   LadoEje lado = LadoEje::Izquierdo;
   bool visible = false;
   QString leyenda = {}; ///< texto de la leyenda; vacío: la clave y el rótulo
+  /// Guiones y huecos de la línea, en anchos de la pluma (QPen::setDashPattern); vacío: continua.
+  QList<qreal> trazo = {};
 };
 
 /// El gráfico de líneas que usan todas las vistas: series sobre dos ejes verticales, leyenda, cursor de
@@ -59,6 +61,7 @@ public:
   void PonVisible(int indice, bool visible);
   void PonLado(int indice, LadoEje lado);
   void PonColor(int indice, const QColor &color);
+  void PonTrazo(int indice, const QList<qreal> &trazo);
   /// Fija los límites de un eje vertical, que deja así de ajustarse a sus series. Se ve al Redibujar().
   void FijarLimites(LadoEje lado, const LimitesEje &limites);
   /// Rehace ejes y leyenda para las series a la vista y repinta.

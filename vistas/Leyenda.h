@@ -21,6 +21,8 @@ protected:
   [[nodiscard]] QSize maximumOuterSizeHint() const override;
 
 private:
+  [[nodiscard]] int AnchoMuestra() const;
+  void PintarMuestra(QCPPainter &pintor, const QRect &sitio) const;
   int indice_;
   QString texto_;
   QPen pluma_;

@@ -66,6 +66,12 @@ QWidget *PaginaEntorno::CrearColumna() {
   auto *disposicion = new QVBoxLayout(columna);
   disposicion->setContentsMargins(0, 0, 0, 0);
   disposicion->addWidget(desplazable, 1);
+  cbTrazosDistintos_ = new QCheckBox(tr("Tra&zos distintos"));
+  cbTrazosDistintos_->setObjectName(QStringLiteral("cbTrazosDistintos"));
+  cbTrazosDistintos_->setToolTip(
+      tr("Las líneas se distinguen también por sus guiones, no sólo por el color"));
+  connect(cbTrazosDistintos_, &QCheckBox::toggled, this, &PaginaEntorno::trazosCambiados);
+  disposicion->addWidget(cbTrazosDistintos_);
   auto *botones = new QHBoxLayout;
   QPushButton *visualizar = CrearBoton(QStringLiteral("btnSimulacion"), tr("&Visualizar"),
                                        tr("Dibuja las variables del período elegido"));
@@ -104,6 +110,8 @@ void PaginaEntorno::PonColor(int i, const QColor &color) {
   Casilla(i).setIcon(Muestra(color, devicePixelRatioF()));
   Casilla(i).setIconSize(QSize(LADO_MUESTRA, LADO_MUESTRA));
 }
+
+bool PaginaEntorno::TrazosDistintos() const { return cbTrazosDistintos_->isChecked(); }
 
 void PaginaEntorno::EnsenarMenu(int i, const QPoint &donde) {
   auto *menu = new QMenu(this);

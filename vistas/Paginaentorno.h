@@ -28,11 +28,14 @@ public:
   /// Casilla de la magnitud @p i (0 a 20, orden del visor).
   [[nodiscard]] QCheckBox &Casilla(int i) { return *casillas_.at(static_cast<std::size_t>(i)); }
   void PonColor(int i, const QColor &color);
+  /// ¿Se pide que las líneas se distingan también por su trazo?
+  [[nodiscard]] bool TrazosDistintos() const;
 
 signals:
   void visualizarPedido();
   void ejesPorUnidadPedidos();
   void casillaCambiada(int i);
+  void trazosCambiados();
   /// Se va a enseñar el menú de la casilla @p i; quien escucha le añade sus órdenes.
   void menuPreparado(QMenu *menu, int i);
 
@@ -43,6 +46,7 @@ private:
   void EnsenarMenu(int i, const QPoint &donde);
 
   std::array<QCheckBox *, NUMERO_MAGNITUDES_VISOR> casillas_{};
+  QCheckBox *cbTrazosDistintos_ = nullptr;
   Grafico *graEntorno_ = nullptr;
 };
 

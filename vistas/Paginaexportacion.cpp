@@ -90,7 +90,7 @@ QWidget *PaginaExportacion::CrearOpciones() {
   auto *caja = new QGroupBox(tr(" Opciones fichero  "));
   caja->setObjectName(QStringLiteral("gbOpcionesFichero"));
   auto *pila = new QVBoxLayout(caja);
-  cbCabecera_ = new QCheckBox(tr("Escribir &cabecera"));
+  cbCabecera_ = new QCheckBox(tr("Escribi&r cabecera"));
   cbCabecera_->setObjectName(QStringLiteral("cbCabecera"));
   cbCabecera_->setChecked(true);
   cbCabecera_->setToolTip(tr("Las dos líneas con la localidad y su sitio"));
@@ -115,8 +115,8 @@ QGroupBox *PaginaExportacion::CrearSeparadores() {
     return boton;
   };
   anadir("rbEspacio", tr("Espac&io"), " ");
-  anadir("rbTabulador", tr("Tabulado&r"), "\t")->setChecked(true);
-  anadir("rbComa", tr("C&oma"), ",");
+  anadir("rbTabulador", tr("Tabulad&or"), "\t")->setChecked(true);
+  anadir("rbComa", tr("&Coma"), ",");
   anadir("rbPuntoComa", tr("P&unto y coma"), ";");
   return caja;
 }

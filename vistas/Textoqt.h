@@ -20,4 +20,10 @@ namespace tesmo {
           static_cast<int>((bgr >> 16U) & OCTETO)};
 }
 
+/// Color de Qt como color 0x00BBGGRR.
+[[nodiscard]] inline std::uint32_t EnteroDeColor(const QColor &color) {
+  return static_cast<std::uint32_t>(color.red()) | static_cast<std::uint32_t>(color.green()) << 8U |
+         static_cast<std::uint32_t>(color.blue()) << 16U;
+}
+
 } // namespace tesmo

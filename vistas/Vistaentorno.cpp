@@ -11,6 +11,7 @@
 #include "vistas/Paginaentorno.h"
 #include "vistas/Panelseleccion.h"
 #include "vistas/Textoqt.h"
+#include "vistas/Trazosdistintos.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -35,14 +36,16 @@ const FichaMagnitud &FichaDe(int i) { return MAGNITUDES[static_cast<std::size_t>
 } // namespace
 
 Vistaentorno::Vistaentorno(PaginaEntorno &pagina, PanelSeleccion &panel, Programa &programa,
-                           Seleccion &seleccion, const Configuracion &colores)
+                           Seleccion &seleccion, Configuracion &colores)
     : pagina_(pagina), panel_(panel), programa_(programa), seleccion_(seleccion), colores_(colores),
       grafico_(pagina.DameGrafico()) {
   grafico_.PonEscala(std::make_shared<EscalaHoras>(seleccion.DamePeriodo()));
+  colores.leer();
   aplicarColores();
   ponPeriodo();
   QObject::connect(&pagina_, &PaginaEntorno::menuPreparado, &avisos_,
                    [this](QMenu *menu, int i) { AnadirOrdenesDeEje(*menu, i); });
+  QObject::connect(&pagina_, &PaginaEntorno::trazosCambiados, &avisos_, [this] { actualizarVisibles(); });
   QObject::connect(&grafico_, &Grafico::menuPreparado, &avisos_,
                    [this](QMenu *menu, int i) { AnadirOrdenesDeEje(*menu, i); });
 }
@@ -79,7 +82,12 @@ void Vistaentorno::ConstruirSeries() {
 }
 
 void Vistaentorno::actualizarVisibles() {
-  for (int i = 0; i < grafico_.NumeroSeries(); ++i) grafico_.PonVisible(i, pagina_.Casilla(i).isChecked());
+  int puesto = 0; // el trazo va por orden entre las visibles: así las primeras son las más distintas
+  for (int i = 0; i < grafico_.NumeroSeries(); ++i) {
+    const bool visible = pagina_.Casilla(i).isChecked();
+    grafico_.PonVisible(i, visible);
+    grafico_.PonTrazo(i, visible && pagina_.TrazosDistintos() ? TrazoDistinto(puesto++) : QList<qreal>());
+  }
   grafico_.Redibujar();
 }
 

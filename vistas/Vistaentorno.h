@@ -24,9 +24,9 @@ class Seleccion;
 /// ventana.
 class Vistaentorno {
 public:
-  /// Todo lo que recibe le sobrevive.
+  /// Lee los colores guardados. Todo lo que recibe le sobrevive.
   Vistaentorno(PaginaEntorno &pagina, PanelSeleccion &panel, Programa &programa, Seleccion &seleccion,
-               const Configuracion &colores);
+               Configuracion &colores);
 
   /// De las casillas del período a la selección, y al revés.
   void leerPeriodo();

@@ -1,5 +1,6 @@
 #include "vistas/Vistaexportacion.h"
 
+#include "app/Accion.h"
 #include "app/Carga.h"
 #include "app/Programa.h"
 #include "app/Seleccion.h"
@@ -52,6 +53,7 @@ void VistaExportacion::btnEscribirClick() {
 
 bool VistaExportacion::Escribir(const QString &ruta) {
   const CursorOcupado ocupado;
+  const Accion accion(programa_);
   seleccion_.PonPeriodo(panel_.LeerPeriodo());
   if (CargarLocalidad(programa_, seleccion_) != ResultadoCarga::Cargada) return false;
   if (PrepararDatos(programa_, seleccion_) != ResultadoCarga::Cargada) return false;

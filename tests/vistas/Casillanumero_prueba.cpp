@@ -219,10 +219,10 @@ private slots:
   void laAltitudDeLaCartaNoSeMultiplicaPorDiez() {
     const MarcoPrueba marco;
     const Ventana ventana = marco.Numero(0);
-    auto &altitud = ventana.Buscar<QSpinBox>("csAltitud");
+    auto &altitud = ventana.Buscar<QDoubleSpinBox>("csAltitud");
     Terminar(altitud, QStringLiteral("680,5"));
-    QCOMPARE(altitud.value(), 680);
-    QCOMPARE(ventana.Controlador().DameSeleccion().DameAltitudUsuario(), std::optional(680.0F));
+    QCOMPARE(altitud.value(), 680.5);
+    QCOMPARE(ventana.Controlador().DameSeleccion().DameAltitudUsuario(), std::optional(680.5F));
   }
 };
 

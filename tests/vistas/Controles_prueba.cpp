@@ -8,6 +8,8 @@
 #include "app/Ventanaayuda.h"
 #include "tests/comun/Lugares.h"
 #include "tests/vistas/Manejo.h"
+#include "vistas/Configuracion.h"
+#include "vistas/Ventanacolores.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
@@ -101,10 +103,12 @@ private slots:
     marco_.emplace();
     acercade_.emplace();
     ayuda_.emplace(&marco_->marco);
+    colores_.emplace(DameTablaDeColores());
     pruebas_ = CodigoDeLasPruebas();
     QVERIFY(pruebas_.size() > 10000); // si no se leyó nada, lo demás no probaría nada
   }
   void cleanupTestCase() {
+    colores_.reset();
     ayuda_.reset();
     acercade_.reset();
     marco_.reset();
@@ -174,7 +178,7 @@ private slots:
   }
 
 private:
-  [[nodiscard]] QList<QWidget *> Ventanas() { return {&marco_->marco, &*acercade_, &*ayuda_}; }
+  [[nodiscard]] QList<QWidget *> Ventanas() { return {&marco_->marco, &*acercade_, &*ayuda_, &*colores_}; }
 
   [[nodiscard]] QList<QWidget *> Controles() {
     QList<QWidget *> controles;
@@ -235,6 +239,7 @@ private:
   std::optional<MarcoPrueba> marco_;
   std::optional<TforAcercade> acercade_;
   std::optional<VentanaAyuda> ayuda_;
+  std::optional<TforColores> colores_;
   QString pruebas_;
 };
 

@@ -221,10 +221,8 @@ private slots:
       marco_->Numero(i).Pulsar("btnSimulacion");
     }
     DameTablaDeColores().ponColor(0, VERDE);
-    QTimer::singleShot(0, [] { // si la orden abre un diálogo, se acepta como está
-      if (auto *dialogo = qobject_cast<QDialog *>(QApplication::activeModalWidget())) dialogo->accept();
-    });
     Orden("mnuColores").trigger();
+    marco_->marco.findChild<QDialog *>(QStringLiteral("forColores"))->accept(); // como está
     for (std::size_t i = 0; i < 2; ++i) QCOMPARE(marco_->Numero(i).Chart().Serie(0).color, QColor(Qt::green));
     LiberarTablaDeColores();
   }

@@ -84,7 +84,7 @@ private slots:
     QCOMPARE(grupo("cbTH"), QStringLiteral("Magnitudes psicrométricas"));
     QCOMPARE(grupo("cbG"), QStringLiteral("Magnitudes radiación"));
     const auto casillas = ventana.Buscar<QWidget>("tsDatosGenerales").findChildren<QCheckBox *>();
-    QCOMPARE(casillas.size(), 21);
+    QCOMPARE(casillas.size(), 21 + 1); // y la de los trazos
     for (const QCheckBox *casilla : casillas) QVERIFY(!casilla->isChecked());
     QCOMPARE(ventana.Buscar<QTabWidget>("pcProgramas").tabText(0), QStringLiteral("Visualizar datos"));
     QCOMPARE(ventana.Buscar<QPushButton>("btnSimulacion").text().remove(QLatin1Char('&')),
