@@ -75,6 +75,7 @@ private:
   void Retratar(const Escena &escena) {
     auto &pestanas = Buscar<QTabWidget>(QStringLiteral("pcProgramas"));
     pestanas.setCurrentWidget(&Buscar<QWidget>(QString::fromLatin1(escena.pestana)));
+    marco_.statusBar()->clearMessage(); // lo que dijo la pestaña anterior
     for (const char *control : escena.controles) Pulsar(QString::fromLatin1(control));
     Esperar();
     const QString ruta =
