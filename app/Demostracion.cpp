@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPixmap>
 #include <QTabWidget>
 #include <QTextStream>
@@ -73,8 +74,8 @@ public:
     Pulsar(QStringLiteral("btnSimulacion"));
     Pulsar(QStringLiteral("btnEjesPorUnidad"));
     GuardarVentana(QStringLiteral("ventana_semana.png"));
-    GuardarGrafico(QStringLiteral("grafico_semana.png"));
-    GuardarGrafico(QStringLiteral("grafico_semana.svg"));
+    GuardarGrafico(QStringLiteral("graEntorno"), QStringLiteral("grafico_semana.png"));
+    GuardarGrafico(QStringLiteral("graEntorno"), QStringLiteral("grafico_semana.svg"));
     PonPeriodo({1, 1, 1}, {12, 31, 24});
     Marcar({"TS", "RSDr", "RSDf", "HR", "G"});
     Pulsar(QStringLiteral("btnSimulacion"));
@@ -82,6 +83,7 @@ public:
     GuardarVentana(QStringLiteral("ventana_anio.png"));
     Exportar(QStringLiteral("almeria.met"));
     CartaSolar();
+    DiasExtremos();
   }
 
 private:
@@ -96,10 +98,23 @@ private:
     Anunciar(Ruta(nombre), EscribirBytes(Ruta(nombre), BytesPng(marco_.grab().toImage())));
   }
 
-  void GuardarGrafico(const QString &nombre) {
-    const auto &grafico = Buscar<Grafico>(QStringLiteral("graEntorno"));
+  void GuardarGrafico(const QString &control, const QString &nombre) {
+    const auto &grafico = Buscar<Grafico>(control);
     if (grafico.Leyenda().isEmpty()) throw std::runtime_error("el gráfico está vacío");
     Anunciar(Ruta(nombre), grafico.GuardarImagen(Ruta(nombre)));
+  }
+
+  /// Calcula los días extremos y enseña sus siete magnitudes; el cálculo deja delante sus resultados.
+  void DiasExtremos() {
+    Pulsar(QStringLiteral("btnCalDiaExt"));
+    auto &lista = Buscar<QListWidget>(QStringLiteral("CheckListBox1"));
+    if (lista.count() == 0) throw std::runtime_error("no hay días extremos que enseñar");
+    for (int i = 0; i < lista.count(); ++i) lista.item(i)->setCheckState(Qt::Checked);
+    QApplication::processEvents();
+    GuardarVentana(QStringLiteral("ventana_dias_extremos.png"));
+    for (const auto &[grafico, nombre] : {std::pair{"graDiaExtCal", "dia_calefaccion.png"},
+                                          std::pair{"graDiaExtRef", "dia_refrigeracion.png"}})
+      GuardarGrafico(QLatin1String(grafico), QLatin1String(nombre));
   }
 
   void Exportar(const QString &nombre) {

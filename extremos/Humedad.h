@@ -11,11 +11,13 @@ namespace tesmo::extremos {
 /// Presión barométrica [pulgadas de mercurio] a @p altitud [m].
 [[nodiscard]] long double PresionBarometrica(long double altitud);
 
-/// Presión de saturación [pulgadas de mercurio] a @p t [°C], por Goff y Gratch referida al punto triple.
+/// Presión de saturación [pulgadas de mercurio] a @p t [°C], sobre agua y sobre hielo, por la fórmula de
+/// Goff y Gratch (1946) referida al punto triple (Goff, 1957).
 [[nodiscard]] long double PresionDeSaturacion(long double t);
 
-/// Rocío [°C] de un aire de presión parcial de vapor @p pw [pulgadas de mercurio], por correlación en dos
-/// ramas; sin vapor, el más frío que la correlación puede dar.
+/// Rocío [°C] de un aire de presión parcial de vapor @p pw [pulgadas de mercurio], por la correlación
+/// en dos ramas de ASHRAE en unidades inglesas (Handbook of Fundamentals, 1972); sin vapor, el más frío que
+/// la correlación puede dar.
 [[nodiscard]] long double RocioDePresion(long double pw);
 
 /// Estado de un aire: humedad relativa en tanto por uno, humedad absoluta [kg/kg] y rocío [°C].

@@ -7,7 +7,8 @@
 
 namespace tesmo::extremos {
 
-/// Onda diaria de temperatura de una zona (dos armónicos) y hora del máximo del día de refrigeración.
+/// Onda diaria de temperatura de una zona (los dos primeros armónicos de su desarrollo de Fourier) y hora del
+/// máximo del día de refrigeración. Los coeficientes son propios de este modelo.
 struct CoeficientesZona {
   float amplitud1 = 0.0F;
   float fase1 = 0.0F; ///< [°]
@@ -41,8 +42,9 @@ struct ClaseDeDias {
 [[nodiscard]] bool FactorDeColaAdmitido(float factor);
 
 /// Las quince clases de un mes de @p dias días, de la más cálida a la más fría: intervalos iguales de la
-/// normal tipificada hasta el punto que deja por encima 1/(@p dias × @p factorDeCola). La central absorbe lo
-/// que falta para sumar 1.
+/// normal tipificada hasta el punto que deja por encima 1/(@p dias × @p factorDeCola). A cada una la
+/// representa la media de la normal truncada en su intervalo (Johnson, Kotz y Balakrishnan, 1994, Continuous
+/// Univariate Distributions, vol. 1). La central absorbe lo que falta para sumar 1.
 [[nodiscard]] std::array<ClaseDeDias, NUMERO_CLASES> ClasesDelMes(int dias, float factorDeCola);
 
 /// Horas de cada grado entero en un mes de @p dias días: cada clase es un día cuya máxima y mínima se apartan

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "vistas/Textoderivacion.h"
+#include "vistas/Ajustesextremos.h"
+#include "vistas/Graficosextremos.h"
 
 #include <QString>
 
@@ -34,7 +35,8 @@ public:
   void MostrarAjustes();
   void TomarAjustes();
 
-  /// Cambió la provincia o la localidad de la ventana: lo calculado era de otra y deja de verse.
+  /// Cambió la provincia o la localidad de la ventana: lo calculado era de otra y deja de verse; los ajustes
+  /// tecleados se conservan, y del percentil que no valga vuelve el anterior, sin decir nada.
   void cbLocalidadesChange();
   void btnCalDiaExtClick();
   /// Enseña en los dos gráficos las magnitudes marcadas, con la misma escala.
@@ -44,12 +46,10 @@ public:
 
 private:
   [[nodiscard]] bool HayTemporadas();
-  void AvisarPercentiles();
   void RehacerGraficos();
-  void FijarEjes();
-  [[nodiscard]] PeticionDias Peticion() const;
   void EscribirFicheros();
   void PonLatitud();
+  void PonNombres(DiasExtremos &motor) const;
 
   PaginaDiasExtremos &ajustes_;
   PaginaResultadosExtremos &resultados_;
@@ -57,6 +57,8 @@ private:
   Programa &programa_;
   const Seleccion &seleccion_;
   Ventana ventana_;
+  AjustesExtremos tecleados_;
+  GraficosExtremos graficos_;
 };
 
 } // namespace tesmo

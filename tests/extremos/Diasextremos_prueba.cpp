@@ -177,8 +177,7 @@ TEST_F(Dias, LosFicherosLlevanElMesYLosNombresCalculados) {
   const std::string calefaccion = prueba::Contenido(base_ / "Resultados" / "extreCal.met");
   EXPECT_NE(calefaccion.find("\n1\t15\t0\t"), std::string::npos);
   EXPECT_TRUE(calefaccion.starts_with("Níjar La de Níjar\n")) << calefaccion.substr(0, 40);
-  EXPECT_TRUE(
-      prueba::Contenido(base_ / "Resultados" / "extreRef.met").starts_with("Níjar La de Níjar\n"));
+  EXPECT_TRUE(prueba::Contenido(base_ / "Resultados" / "extreRef.met").starts_with("Níjar La de Níjar\n"));
 }
 
 TEST_F(Dias, SiElPrimerFicheroNoSePuedeAbrirNoSeEscribeElSegundo) {

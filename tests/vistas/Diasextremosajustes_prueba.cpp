@@ -110,6 +110,43 @@ private slots:
     QVERIFY(marco_->mensajes.apuntes.empty());
   }
 
+  void cambiarDeLocalidadConservaLoTecleado() {
+    const Ventana ventana = Abierta();
+    ventana.Localidad("Almería");
+    Teclear(ventana, "edPerCal", "97,5");
+    ventana.Buscar<QComboBox>("cbMesCal").setCurrentIndex(1);
+    ventana.Buscar<QComboBox>("cbMesRef").setCurrentIndex(7);
+    Mes(ventana, 3).setChecked(true);
+    Mes(ventana, 18).setChecked(false);
+    for (const char *localidad : {"Níjar", "Almería"}) {
+      ventana.Localidad(localidad);
+      QCOMPARE(Texto(ventana, "edPerCal"), QStringLiteral("97.5"));
+      QCOMPARE(Texto(ventana, "edPerRef"), QStringLiteral("1.0"));
+      QCOMPARE(ventana.Buscar<QComboBox>("cbMesCal").currentIndex(), 1);
+      QCOMPARE(ventana.Buscar<QComboBox>("cbMesRef").currentIndex(), 7);
+      QVERIFY(Mes(ventana, 3).isChecked());
+      QVERIFY(!Mes(ventana, 18).isChecked());
+    }
+    ventana.Provincia("Granada"); // y de provincia
+    QCOMPARE(Texto(ventana, "edPerCal"), QStringLiteral("97.5"));
+    QVERIFY(marco_->mensajes.apuntes.empty());
+  }
+
+  void alCambiarDeLocalidadUnPercentilQueNoValeVuelveAlAnteriorSinDecirlo() {
+    const Ventana ventana = Abierta();
+    ventana.Localidad("Almería");
+    Teclear(ventana, "edPerCal", "95");
+    ventana.Localidad("Níjar");
+    for (const char *malo : {"150", "-1", "mucho", ""}) {
+      ventana.Buscar<QLineEdit>("edPerCal").clear();
+      Teclear(ventana, "edPerCal", malo);
+      ventana.Localidad("Almería");
+      QCOMPARE(Texto(ventana, "edPerCal"), QStringLiteral("95.0"));
+      ventana.Localidad("Níjar");
+    }
+    QVERIFY(marco_->mensajes.apuntes.empty());
+  }
+
   void elPercentilFueraDeLimitesSeDiceYVuelveAlDeFabrica() {
     const Ventana ventana = Abierta();
     ventana.Localidad("Almería");
