@@ -4,6 +4,7 @@
 #include "cli/Contexto.h"
 #include "psicro/Psicrometrico.h"
 
+#include <array>
 #include <limits>
 
 namespace tesmo::cli {
@@ -64,6 +65,21 @@ void AplicarSin(const std::string &lista, Psicro &carta) {
   Ocultar(lista.substr(inicio), carta);
 }
 
+struct FichaVista {
+  const char *nombre;
+  std::optional<std::string> OpcionesCarta::*valor;
+  const char *tipo;
+  const char *que;
+};
+/// Lo que no es un extremo de una familia.
+constexpr std::array<FichaVista, 6> VISTA{
+    {{"--sin", &OpcionesCarta::sin, "FAMILIAS", "Las que no se dibujan, con comas: t,w,h,hr,ve"},
+     {"--zoom", &OpcionesCarta::zoom, "N", "Aumento entero (1)"},
+     {"--dx", &OpcionesCarta::dx, "PIXELES", "Desplazamiento horizontal de la vista (0)"},
+     {"--dy", &OpcionesCarta::dy, "PIXELES", "Desplazamiento vertical de la vista (0)"},
+     {"--v3", &OpcionesCarta::v3, "N", "Arranque de las curvas de humedad con aumento (0)"},
+     {"--v4", &OpcionesCarta::v4, "N", "Cuarto entero de la vista, sin efecto (0)"}}};
+
 int Entero(const std::optional<std::string> &texto, const char *que, int minimo, int maximo, int porDefecto) {
   return texto ? LeerEntero(*texto, que, minimo, maximo) : porDefecto;
 }
@@ -82,12 +98,8 @@ void AnadirCarta(CLI::App &orden, OpcionesCarta &opciones) {
     AnadirValor(orden, Nombre(familia, extremo), opciones.rangos[i], "VALOR",
                 std::string(extremo.que) + familia.que);
   });
-  AnadirValor(orden, "--sin", opciones.sin, "FAMILIAS", "Las que no se dibujan, con comas: t,w,h,hr,ve");
-  AnadirValor(orden, "--zoom", opciones.zoom, "N", "Aumento entero (1)");
-  AnadirValor(orden, "--dx", opciones.dx, "PIXELES", "Desplazamiento horizontal de la vista (0)");
-  AnadirValor(orden, "--dy", opciones.dy, "PIXELES", "Desplazamiento vertical de la vista (0)");
-  AnadirValor(orden, "--v3", opciones.v3, "N", "Arranque de las curvas de humedad con aumento (0)");
-  AnadirValor(orden, "--v4", opciones.v4, "N", "Cuarto entero de la vista, sin efecto (0)");
+  for (const FichaVista &ficha : VISTA)
+    AnadirValor(orden, ficha.nombre, opciones.*ficha.valor, ficha.tipo, ficha.que);
 }
 
 TamanoCarta InterpretarTamano(const OpcionesCarta &opciones) {

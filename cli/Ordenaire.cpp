@@ -78,8 +78,7 @@ void RegistrarAire(CLI::App &raiz, Contexto &contexto) {
       ->required();
   AnadirArgumento(orden, "P", datos->p, "Presión [Pa] (101325)");
   AnadirJson(orden, datos->json);
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

@@ -151,8 +151,7 @@ void RegistrarCarta(CLI::App &raiz, Contexto &contexto) {
   AnadirSeleccion(orden, datos->seleccion);
   AnadirValor(orden, "--horas", datos->horas, "A-B", "Horas del día que se marcan, las dos incluidas (1-24)");
   AnadirRegistro(orden, datos->registro);
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

@@ -120,8 +120,7 @@ void RegistrarCorriente(CLI::App &raiz, Contexto &contexto) {
                   "corriente aire.txt\ncorriente - --registro salida.txt < aire.txt\ncorriente"});
   AnadirArgumento(orden, "FICHERO", datos->fichero, "De dónde se leen las líneas; - o nada, de la entrada");
   AnadirValor(orden, "--registro", datos->registro, "FICHERO", "Adónde van los textos (a la salida)");
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

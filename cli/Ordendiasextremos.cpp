@@ -251,8 +251,7 @@ void RegistrarDiasExtremos(CLI::App &raiz, Contexto &contexto) {
        "dias-extremos --localidad Granada --per-cal 99.6 --mes-cal 12 --traza\n"
        "dias-extremos --gdr mias.txt --clave MiPueblo --temporada-ref 5,6,7,8,9 -o resultados"});
   AnadirOpciones(orden, *datos);
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <memory>
 #include <string>
 
 namespace tesmo::cli {
@@ -34,5 +35,13 @@ struct AyudaOrden {
   std::string ejemplos;    ///< uno por línea, sin el nombre del programa
 };
 CLI::App &NuevaOrden(CLI::App &raiz, const std::string &nombre, const AyudaOrden &ayuda);
+
+/// Al reconocerse @p orden, deja en el contexto su acción: @p accion con los datos tecleados y el contexto.
+template <class Datos, class Accion>
+void AlEjecutar(CLI::App &orden, Contexto &contexto, const std::shared_ptr<Datos> &datos, Accion accion) {
+  orden.callback([datos, &contexto, accion] {
+    contexto.accion = [datos, &contexto, accion] { accion(*datos, contexto); };
+  });
+}
 
 } // namespace tesmo::cli

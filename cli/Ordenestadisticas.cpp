@@ -2,7 +2,7 @@
 
 #include "app/Programa.h"
 #include "cli/Argumentos.h"
-#include "cli/Opcionesseleccion.h"
+#include "cli/Opcionesvariables.h"
 #include "cli/Tabla.h"
 #include "meteo/Leermet.h"
 
@@ -12,12 +12,9 @@ namespace tesmo::cli {
 
 namespace {
 
-struct Datos {
-  OpcionesSeleccion seleccion;
-  std::vector<std::string> variables;
-  std::optional<std::string> baseCalefaccion, baseRefrigeracion, horas, registro;
+struct Datos : OpcionesVariables {
+  std::optional<std::string> baseCalefaccion, baseRefrigeracion, horas;
   bool mensual = false;
-  bool json = false;
 };
 
 BasesGradosDia LeerBases(const Datos &datos) {
@@ -110,12 +107,8 @@ void RegistrarEstadisticas(CLI::App &raiz, Contexto &contexto) {
   AnadirValor(orden, "--base-ref", datos->baseRefrigeracion, "GRADOS", "Base de refrigeración [ºC] (25)");
   AnadirValor(orden, "--horas", datos->horas, "A-B", "Horas del día que cuentan, las dos incluidas (1-24)");
   orden.add_flag("--mensual", datos->mensual, "Una línea por mes, con la fecha de los extremos");
-  AnadirRegistro(orden, datos->registro);
-  AnadirJson(orden, datos->json);
-  AnadirArgumentos(orden, "VARIABLE", datos->variables, "Código (TS, RSDr, …, HAkg) o rótulo exacto")
-      ->required();
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AnadirVariables(orden, *datos);
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

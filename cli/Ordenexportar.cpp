@@ -85,8 +85,7 @@ void RegistrarExportar(CLI::App &raiz, Contexto &contexto) {
   AnadirRegistro(orden, datos->registro);
   AnadirArgumentos(orden, "VARIABLE", datos->variables,
                    "Código (TS, RSDr, …, HAkg) o rótulo exacto; sin ninguna, sólo las fechas");
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

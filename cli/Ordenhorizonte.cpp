@@ -94,15 +94,19 @@ void Efecto(const Datos &datos, Contexto &contexto) {
 
 using Accion = void (*)(const Datos &, Contexto &);
 
-/// Da de alta una orden de un fichero y devuelve dónde poner sus demás opciones.
-CLI::App &RegistrarUna(CLI::App &horizonte, Contexto &contexto, const std::shared_ptr<Datos> &datos,
-                       const std::string &nombre, const AyudaOrden &ayuda, Accion accion) {
+/// Una orden de un fichero ya dada de alta, para ponerle sus demás opciones.
+struct OrdenNueva {
+  CLI::App &orden;
+  std::shared_ptr<Datos> datos;
+};
+
+OrdenNueva RegistrarUna(CLI::App &horizonte, Contexto &contexto, const std::string &nombre,
+                        const AyudaOrden &ayuda, Accion accion) {
+  const auto datos = std::make_shared<Datos>();
   CLI::App &orden = NuevaOrden(horizonte, nombre, ayuda);
   AnadirArgumento(orden, "FICHERO", datos->entrada, "Perfil de horizonte de cualquier formato")->required();
-  orden.callback([datos, &contexto, accion] {
-    contexto.accion = [datos, &contexto, accion] { accion(*datos, contexto); };
-  });
-  return orden;
+  AlEjecutar(orden, contexto, datos, accion);
+  return {orden, datos};
 }
 
 void AnadirSalida(CLI::App &orden, Datos &datos) {
@@ -111,9 +115,8 @@ void AnadirSalida(CLI::App &orden, Datos &datos) {
 }
 
 void RegistrarLeer(CLI::App &horizonte, Contexto &contexto) {
-  const auto datos = std::make_shared<Datos>();
-  CLI::App &orden = RegistrarUna(
-      horizonte, contexto, datos, "leer",
+  const auto [orden, datos] = RegistrarUna(
+      horizonte, contexto, "leer",
       {"Enseña los puntos de un perfil de horizonte",
        "Escribe «n N» y una línea «acimut altura» [º] por punto, con el acimut 0 al sur y el oeste positivo. "
        "Reconoce los formatos de «horizonte convertir».",
@@ -123,9 +126,8 @@ void RegistrarLeer(CLI::App &horizonte, Contexto &contexto) {
 }
 
 void RegistrarGuardar(CLI::App &horizonte, Contexto &contexto) {
-  const auto datos = std::make_shared<Datos>();
-  CLI::App &orden = RegistrarUna(
-      horizonte, contexto, datos, "guardar",
+  const auto [orden, datos] = RegistrarUna(
+      horizonte, contexto, "guardar",
       {"Guarda un perfil como lo guarda el programa",
        "El número de puntos y una línea «acimut, altura» por cada punto de posición par: la otra mitad se "
        "pierde. Para no perderla, «horizonte convertir».",
@@ -135,9 +137,8 @@ void RegistrarGuardar(CLI::App &horizonte, Contexto &contexto) {
 }
 
 void RegistrarConvertir(CLI::App &horizonte, Contexto &contexto) {
-  const auto datos = std::make_shared<Datos>();
-  CLI::App &orden = RegistrarUna(
-      horizonte, contexto, datos, "convertir",
+  const auto [orden, datos] = RegistrarUna(
+      horizonte, contexto, "convertir",
       {"Pasa un perfil de horizonte de un formato a otro",
        "Con todos sus puntos. Formatos: nativo (número de puntos y parejas), completo (.csv), pvgis "
        "(.pvgis), "
@@ -155,9 +156,8 @@ void RegistrarConvertir(CLI::App &horizonte, Contexto &contexto) {
 }
 
 void RegistrarEfecto(CLI::App &horizonte, Contexto &contexto) {
-  const auto datos = std::make_shared<Datos>();
-  CLI::App &orden = RegistrarUna(
-      horizonte, contexto, datos, "efecto",
+  const auto [orden, datos] = RegistrarUna(
+      horizonte, contexto, "efecto",
       {"Lo que un horizonte quita en una latitud",
        "Escribe la parte de cielo que deja ver (1 sin horizonte), las horas de sol del año y las que "
        "el horizonte tapa.",

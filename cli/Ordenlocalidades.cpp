@@ -64,8 +64,7 @@ void RegistrarLocalidades(CLI::App &raiz, Contexto &contexto) {
   AnadirBase(orden, datos->base);
   AnadirRegistro(orden, datos->registro);
   AnadirJson(orden, datos->json);
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

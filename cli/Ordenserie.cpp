@@ -2,7 +2,7 @@
 
 #include "app/Programa.h"
 #include "cli/Argumentos.h"
-#include "cli/Opcionesseleccion.h"
+#include "cli/Opcionesvariables.h"
 #include "cli/Tabla.h"
 #include "meteo/Leermet.h"
 
@@ -12,12 +12,7 @@ namespace tesmo::cli {
 
 namespace {
 
-struct Datos {
-  OpcionesSeleccion seleccion;
-  std::vector<std::string> variables;
-  std::optional<std::string> registro;
-  bool json = false;
-};
+using Datos = OpcionesVariables;
 
 std::vector<std::vector<float>> PedirSeries(const LeerMet &meteo, const std::vector<Magnitud> &magnitudes) {
   std::vector<std::vector<float>> series;
@@ -64,12 +59,8 @@ void RegistrarSerie(CLI::App &raiz, Contexto &contexto) {
        "serie --localidad Almería --desde 7/1/1 --hasta 7/31/24 --orientacion -90 \"Global (W/m²)\"\n"
        "serie --fichero mio.met --altitud 650 TR TH E"});
   AnadirSeleccion(orden, datos->seleccion);
-  AnadirRegistro(orden, datos->registro);
-  AnadirJson(orden, datos->json);
-  AnadirArgumentos(orden, "VARIABLE", datos->variables, "Código (TS, RSDr, …, HAkg) o rótulo exacto")
-      ->required();
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AnadirVariables(orden, *datos);
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

@@ -49,8 +49,7 @@ void RegistrarSintetizar(CLI::App &raiz, Contexto &contexto) {
   AnadirValor(orden, "--normales", datos->normales, "CSV",
               "Medias mensuales (si no se dan, datos/normales.csv junto al programa)");
   AnadirRegistro(orden, datos->registro);
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

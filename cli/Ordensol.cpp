@@ -70,12 +70,10 @@ void RegistrarUna(CLI::App &sol, Contexto &contexto, const std::string &nombre, 
   if (conHora) AnadirArgumento(orden, "HORA", datos->hora, "Hora solar verdadera, 0 a 24")->required();
   AnadirRegistro(orden, datos->registro);
   AnadirJson(orden, datos->json);
-  orden.callback([datos, &contexto, calcular] {
-    contexto.accion = [datos, &contexto, calcular] {
-      const Momento momento = LeerMomento(*datos);
-      IniciarRegistro(datos->registro);
-      contexto.salida << calcular(momento).Como(datos->json);
-    };
+  AlEjecutar(orden, contexto, datos, [calcular](const Datos &pedido, Contexto &donde) {
+    const Momento momento = LeerMomento(pedido);
+    IniciarRegistro(pedido.registro);
+    donde.salida << calcular(momento).Como(pedido.json);
   });
 }
 

@@ -12,7 +12,7 @@ struct Datos {
   std::optional<std::string> latitud, salida;
 };
 
-void Ejecutar(const Datos &datos) {
+void Ejecutar(const Datos &datos, Contexto & /*contexto*/) {
   const float latitud = LeerLatitud(*datos.latitud);
   if (datos.salida->empty()) throw Fallo(Estado::FaltaSalida, "-o: la ruta está vacía");
   if (!EscribirFicheroAnual(latitud, RutaAbsoluta(*datos.salida))) throw Fallo(Estado::FaltaSalida, "");
@@ -31,7 +31,7 @@ void RegistrarSolAnual(CLI::App &sol, Contexto &contexto) {
   AnadirArgumento(orden, "LAT", datos->latitud, "Latitud [º], norte positivo")->required();
   AnadirValor(orden, "-o,--salida", datos->salida, "FICHERO", "Fichero que se escribe (obligatorio)")
       ->required();
-  orden.callback([datos, &contexto] { contexto.accion = [datos] { Ejecutar(*datos); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

@@ -60,9 +60,8 @@ void RegistrarUna(CLI::App &sol, Contexto &contexto, const std::string &nombre, 
   if (conMes) AnadirArgumento(orden, "MES", datos->mes, "1 a 12")->required();
   AnadirArgumento(orden, "DIA", datos->dia, conMes ? "Día del mes, sin 29 de febrero" : "1 a 31")->required();
   AnadirJson(orden, datos->json);
-  orden.callback([datos, &contexto, calcular] {
-    contexto.accion = [datos, &contexto, calcular] { contexto.salida << calcular(*datos); };
-  });
+  AlEjecutar(orden, contexto, datos,
+             [calcular](const Datos &pedido, Contexto &donde) { donde.salida << calcular(pedido); });
 }
 
 } // namespace

@@ -1,0 +1,14 @@
+#include "cli/Opcionesvariables.h"
+
+#include "cli/Argumentos.h"
+
+namespace tesmo::cli {
+
+void AnadirVariables(CLI::App &orden, OpcionesVariables &opciones) {
+  AnadirRegistro(orden, opciones.registro);
+  AnadirJson(orden, opciones.json);
+  AnadirArgumentos(orden, "VARIABLE", opciones.variables, "Código (TS, RSDr, …, HAkg) o rótulo exacto")
+      ->required();
+}
+
+} // namespace tesmo::cli
