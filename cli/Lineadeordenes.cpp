@@ -85,6 +85,7 @@ void Configurar(CLI::App &raiz, Contexto &contexto) {
   RegistrarImportar(raiz, contexto);
   RegistrarConvertirAnio(raiz, contexto);
   RegistrarSintetizar(raiz, contexto);
+  RegistrarAuditar(raiz, contexto);
 }
 
 /// La orden más interior de las que se reconocieron.

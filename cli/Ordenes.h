@@ -24,6 +24,7 @@ void RegistrarSintetizar(CLI::App &raiz, Contexto &contexto);
 void RegistrarHorizonte(CLI::App &raiz, Contexto &contexto);
 void RegistrarImportar(CLI::App &raiz, Contexto &contexto);
 void RegistrarConvertirAnio(CLI::App &raiz, Contexto &contexto);
+void RegistrarAuditar(CLI::App &raiz, Contexto &contexto);
 /// Estas dos, dentro de la orden "sol".
 void RegistrarSolAnual(CLI::App &sol, Contexto &contexto);
 void RegistrarSolCurvas(CLI::App &sol, Contexto &contexto);

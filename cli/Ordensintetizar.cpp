@@ -2,9 +2,8 @@
 
 #include "cli/Argumentos.h"
 #include "cli/Opcionesseleccion.h"
-#include "core/Ficheros.h"
-#include "core/Sistema.h"
 #include "intercambio/Sintesis.h"
+#include "intercambio/sintesis/Normalesprograma.h"
 
 #include <memory>
 
@@ -16,16 +15,12 @@ struct Datos {
   std::optional<std::string> normales, salida, registro;
 };
 
-std::string NormalesDelPrograma() {
-  return TextoDeRuta(RutaEjecutable().parent_path() / "datos" / "normales.csv");
-}
-
 void Ejecutar(const Datos &datos, Contexto &contexto) {
   if (datos.salida->empty()) throw Fallo(Estado::FaltaSalida, "-o: la ruta está vacía");
   if (datos.normales && datos.normales->empty())
     throw Fallo(Estado::FaltaEntrada, "--normales: la ruta está vacía");
   IniciarRegistro(datos.registro);
-  const std::string normales = datos.normales ? RutaAbsoluta(*datos.normales) : NormalesDelPrograma();
+  const std::string normales = datos.normales ? RutaAbsoluta(*datos.normales) : RutaNormalesDelPrograma();
   ResultadoSintesis resultado;
   const bool hecho = Sintetizar(normales, RutaAbsoluta(*datos.salida), resultado);
   for (const std::string &aviso : resultado.avisos) Avisar(contexto, aviso);

@@ -66,6 +66,7 @@ struct RelojFichero {
   TiempoEtiqueta tiempo = TiempoEtiqueta::OficialEstandar;
   double husoHoras = 0;    ///< adelanto de la hora oficial de invierno sobre UTC [h], este positivo
   double desfaseMin = -30; ///< [min], de −90 a 90
+  bool operator==(const RelojFichero &) const = default;
 };
 
 /// De qué formato salió un año.

@@ -70,8 +70,17 @@ double Absoluta(double relativa, double saturacion, double presion) {
 
 } // namespace
 
+namespace {
+constexpr double GRADIENTE = 2.25577e-5; // [1/m]
+constexpr double EXPONENTE = 5.2559;
+} // namespace
+
 double PresionEnAltitud(double altitud) {
-  return PRESION_NORMAL * std::pow(1.0 - 2.25577e-5 * altitud, 5.2559);
+  return PRESION_NORMAL * std::pow(1.0 - GRADIENTE * altitud, EXPONENTE);
+}
+
+double AltitudDePresion(double presion) {
+  return (1.0 - std::pow(presion / PRESION_NORMAL, 1.0 / EXPONENTE)) / GRADIENTE;
 }
 
 HumedadHoraria GenerarHumedad(const SerieHoras &temperaturas, const TemperaturasDiarias &dias,

@@ -14,6 +14,7 @@ const std::vector<Argumentos> ORDENES{{},
                                       {"estadisticas"},
                                       {"exportar"},
                                       {"sintetizar"},
+                                      {"auditar"},
                                       {"corriente"},
                                       {"carta"},
                                       {"sol", "salida"},
@@ -54,7 +55,7 @@ TEST_F(AyudaYErrores, CadaOrdenTieneAyudaEnEspanolConEjemplos) {
 TEST_F(AyudaYErrores, LaAyudaGeneralNombraTodasLasOrdenes) {
   const std::string ayuda = Orden({"--help"}).salida;
   for (const char *orden : {"localidades", "aire", "sol", "serie", "estadisticas", "exportar", "sintetizar",
-                            "horizonte", "corriente", "carta"})
+                            "auditar", "horizonte", "corriente", "carta"})
     EXPECT_NE(ayuda.find(std::string("\n  ") + orden + " "), std::string::npos) << orden;
 }
 

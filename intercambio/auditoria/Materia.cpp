@@ -1,0 +1,98 @@
+#include "intercambio/auditoria/Materia.h"
+
+#include "intercambio/reloj/Escalatiempo.h"
+#include "intercambio/reloj/Solverdadero.h"
+#include "intercambio/sintesis/Soldelanio.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace tesmo {
+
+namespace {
+
+constexpr double GRADO = std::numbers::pi / 180.0;
+constexpr double MINUTOS_POR_HORA = 60.0;
+constexpr double GRADOS_POR_HORA = 15.0;
+
+/// El sol de un sitio a la hora de un reloj.
+class SolDeReloj {
+public:
+  SolDeReloj(const AnioCanonico &anio, const RelojFichero &reloj)
+      : anio_(anio), escala_(reloj, anio.sitio.longitud), latitud_(anio.sitio.latitud * GRADO) {}
+
+  /// Coseno del cenit @p minutos después del centro de la hora de la posición @p i.
+  [[nodiscard]] double Coseno(std::size_t i, double minutos) const {
+    const double instante = escala_.Centro(i) + minutos / MINUTOS_POR_HORA;
+    const SolDeInstante sol = SolVerdadero(anio_.anios[i], escala_.DiaUtc(instante));
+    const double angulo = (escala_.ASolar(instante) - 12.0) * GRADOS_POR_HORA * GRADO;
+    return std::sin(latitud_) * std::sin(sol.declinacion) +
+           std::cos(latitud_) * std::cos(sol.declinacion) * std::cos(angulo);
+  }
+
+private:
+  const AnioCanonico &anio_;
+  EscalaTiempo escala_;
+  double latitud_; ///< [rad]
+};
+
+double DistanciaKm(double latitud, double longitud, const NormalesLocalidad &localidad) {
+  constexpr double KM_POR_GRADO = 111.2; // de meridiano
+  const double este = (longitud - localidad.longitud) * std::cos(latitud * GRADO);
+  return KM_POR_GRADO * std::hypot(latitud - localidad.latitud, este);
+}
+
+} // namespace
+
+const RelojFichero &RelojDeAuditoria(const VeredictoReloj &veredicto) {
+  return veredicto.confianza >= ConfianzaReloj::Media ? veredicto.propuesto.reloj : veredicto.declarado.reloj;
+}
+
+SolDeRegistros CalcularSolDeRegistros(const AnioCanonico &anio, const RelojFichero &reloj) {
+  constexpr double MEDIA_HORA = 30.0;
+  SolDeRegistros sol;
+  const bool solar = reloj.tiempo == TiempoEtiqueta::SolarVerdadero;
+  if (std::isnan(anio.sitio.latitud) || (!solar && std::isnan(anio.sitio.longitud))) return sol;
+  sol.cosenoCentro.resize(HORAS);
+  sol.cosenoMayor.resize(HORAS);
+  sol.extraterrestre.resize(HORAS);
+  const SolDeReloj instante(anio, reloj);
+  for (std::size_t i = 0; i < HORAS; ++i) {
+    sol.cosenoCentro[i] = instante.Coseno(i, 0.0);
+    sol.cosenoMayor[i] =
+        std::max({sol.cosenoCentro[i], instante.Coseno(i, -MEDIA_HORA), instante.Coseno(i, MEDIA_HORA)});
+    sol.extraterrestre[i] = IrradianciaExtraterrestre(i / static_cast<std::size_t>(HORAS_DEL_DIA));
+  }
+  return sol;
+}
+
+MateriaAuditoria PrepararAuditoria(const ResultadoLectura &lectura, const NormalesLocalidad *normales) {
+  MateriaAuditoria materia;
+  materia.errores = lectura.errores;
+  materia.avisos = lectura.avisos;
+  materia.registros = lectura.registros;
+  materia.normales = normales;
+  materia.anio.formato = lectura.formato;
+  if (!lectura.anio) return materia;
+  materia.anio = *lectura.anio;
+  materia.reloj = DetectarReloj(materia.anio);
+  materia.sol = CalcularSolDeRegistros(materia.anio, RelojDeAuditoria(materia.reloj));
+  return materia;
+}
+
+const NormalesLocalidad *NormalesDelSitio(const std::vector<NormalesLocalidad> &localidades,
+                                          const SitioClima &sitio) {
+  constexpr double KM = 15.0, METROS = 150.0;
+  const NormalesLocalidad *cercana = nullptr;
+  double menor = KM;
+  for (const NormalesLocalidad &localidad : localidades) {
+    const double distancia = DistanciaKm(sitio.latitud, sitio.longitud, localidad);
+    if (!(distancia <= menor) || std::abs(sitio.altitud - localidad.altitud) > METROS) continue;
+    menor = distancia;
+    cercana = &localidad;
+  }
+  return cercana;
+}
+
+} // namespace tesmo

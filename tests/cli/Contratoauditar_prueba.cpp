@@ -1,0 +1,69 @@
+#include "tests/cli/Proceso.h"
+#include "tests/comun/Lugares.h"
+
+#include <nlohmann/json.hpp>
+
+namespace tesmo::prueba {
+namespace {
+
+using Json = nlohmann::json;
+
+/// tesmo-cli sobre los años sintéticos, que son .met de quince columnas sin ninguna falta.
+class OrdenAuditar : public LineaDeOrdenes {
+protected:
+  void SetUp() override {
+    LineaDeOrdenes::SetUp();
+    const Ejecucion e =
+        Orden({"sintetizar", "--normales", Raiz() + "/datos/normales.csv", "-o", (raiz_ / "hecho").string()});
+    ASSERT_EQ(e.estado, 0) << e.error;
+    almeria_ = (raiz_ / "hecho/Meteo/Almeria.met").string();
+  }
+  /// Escribe una copia del fichero con el viento de la línea @p linea (desde 1) a 999.
+  [[nodiscard]] std::string ConCodigoEnLaLinea(int linea) const {
+    std::string texto = Contenido(almeria_);
+    std::size_t inicio = 0;
+    for (int i = 1; i < linea; ++i) inicio = texto.find('\n', inicio) + 1;
+    std::size_t campo = inicio;
+    for (int i = 0; i < 9; ++i) campo = texto.find(' ', campo) + 1;
+    texto.replace(campo, texto.find(' ', campo) - campo, "999");
+    return raiz_.Escribir("estropeado.met", texto);
+  }
+  std::string almeria_;
+};
+
+TEST_F(OrdenAuditar, UnAnioSinFaltasEsApto) {
+  const Ejecucion e = Orden({"auditar", almeria_});
+  EXPECT_EQ(e.estado, 0) << e.error;
+  EXPECT_EQ(e.error, "");
+  EXPECT_NE(e.salida.find("Veredicto       apto (0 faltas graves, 0 avisos, "), std::string::npos)
+      << e.salida;
+  EXPECT_NE(e.salida.find(".met de quince columnas"), std::string::npos);
+}
+
+TEST_F(OrdenAuditar, ElJsonDaElVeredictoYLosTramosDeLineas) {
+  const Ejecucion e = Orden({"auditar", ConCodigoEnLaLinea(50), almeria_, "--json"});
+  EXPECT_EQ(e.estado, 0) << e.error;
+  const Json lista = Json::parse(e.salida);
+  ASSERT_EQ(lista.size(), 2U);
+  EXPECT_EQ(lista[0]["veredicto"], "no apto");
+  EXPECT_EQ(lista[1]["veredicto"], "apto");
+  EXPECT_NEAR(lista[1]["sitio"]["latitud"].get<double>(), 36.8464, 1e-9);
+  bool visto = false;
+  for (const Json &comprobacion : lista[0]["comprobaciones"]) {
+    if (comprobacion["clave"] != "codigos" && comprobacion["clave"] != "huecos") continue;
+    visto = visto || comprobacion["lineas"] == Json::parse("[[50,50]]");
+  }
+  EXPECT_TRUE(visto) << e.salida;
+}
+
+TEST_F(OrdenAuditar, UnFicheroQueFaltaDaEstado3YLosDemasSeAuditan) {
+  const Ejecucion e = Orden({"auditar", (raiz_ / "nohay.epw").string(), almeria_});
+  EXPECT_EQ(e.estado, 3);
+  EXPECT_TRUE(e.error.starts_with("Error: ")) << e.error;
+  EXPECT_NE(e.error.find("nohay.epw"), std::string::npos) << e.error;
+  EXPECT_NE(e.salida.find("Veredicto       apto ("), std::string::npos);
+  EXPECT_EQ(Orden({"auditar"}).estado, 2);
+}
+
+} // namespace
+} // namespace tesmo::prueba

@@ -1,0 +1,49 @@
+#include "tests/comun/Datosreales.h"
+#include "tests/intercambio/auditoria/Materiadeprueba.h"
+
+#include "core/Ficheros.h"
+#include "intercambio/auditoria/Materia.h"
+
+#include <gtest/gtest.h>
+
+namespace tesmo::prueba {
+namespace {
+
+/// Un fichero real y lo que de verdad tiene de raro, mirado a mano.
+struct FicheroReal {
+  const char *nombre;
+  const char *faltas;
+  Veredicto veredicto;
+};
+void PrintTo(const FicheroReal &fichero, std::ostream *salida) { *salida << fichero.nombre; }
+
+class AuditoriaDeFicheroReal : public ::testing::TestWithParam<FicheroReal> {};
+
+TEST_P(AuditoriaDeFicheroReal, SoloSeQuejaDeLoQueEsRaro) {
+  TESMO_DATO_REAL(ruta, GetParam().nombre);
+  OpcionesLectura opciones;
+  opciones.paraAuditar = true;
+  const MateriaAuditoria materia = PrepararAuditoria(LeerFicheroClima(ruta, opciones));
+  EXPECT_EQ(Faltas(materia), GetParam().faltas);
+  EXPECT_EQ(Auditar(materia).veredicto, GetParam().veredicto);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cada, AuditoriaDeFicheroReal,
+    ::testing::Values(
+        // tres horas de viento de −0,5 m/s, que no es una velocidad
+        FicheroReal{"PVGIS_TMY_37.095_-2.3585_PSA_Tabernas.epw", "huecos rango", Veredicto::AptoConAvisos},
+        FicheroReal{"PVGIS_tmy_45.000_8.000_2005_2023.epw", "", Veredicto::Apto},
+        FicheroReal{"PVGIS_tmy_45.000_8.000_2005_2023.csv", "", Veredicto::Apto},
+        // la misma presión en las 8760 horas
+        FicheroReal{"TMY3_703165TY_SandPoint_Alaska.csv", "parados", Veredicto::AptoConAvisos}),
+    [](const auto &dato) {
+      std::string nombre;
+      for (char c : std::string(dato.param.nombre)) {
+        if (std::isalnum(static_cast<unsigned char>(c)) != 0) nombre += c;
+      }
+      return nombre;
+    });
+
+} // namespace
+} // namespace tesmo::prueba
