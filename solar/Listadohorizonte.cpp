@@ -157,7 +157,7 @@ bool EsListaDeAlturas(std::string_view texto) {
     const std::string_view campo = SinBlancos(linea);
     double valor = 0.0;
     if (campo.empty()) continue;
-    if (!LeerNumeroDeCampo(campo, true, valor)) return false;
+    if (!LeerNumeroDeCampo(campo, false, valor)) return false; // una coma separa: es un punto del nativo
     ++numeros;
   }
   return numeros >= ALTURAS_MINIMAS;

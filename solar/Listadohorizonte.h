@@ -30,7 +30,8 @@ struct ListadoHorizonte {
 /// Falso y @p fallo si no es un listado de horizonte.
 [[nodiscard]] bool LeerListado(std::string_view texto, ListadoHorizonte &listado, FalloLectura &fallo);
 
-/// ¿Es @p texto una lista de números sueltos, uno por línea, de tres o más?
+/// ¿Es @p texto una lista de números sueltos con punto decimal, uno por línea, de tres o más? Con una coma
+/// no: tras un entero solo, "50,5" es el punto de un perfil nativo, de acimut 50 y altura 5.
 [[nodiscard]] bool EsListaDeAlturas(std::string_view texto);
 
 /// @p perfil con las columnas "A" y "H_hor" de PVGIS, desde el sur.
