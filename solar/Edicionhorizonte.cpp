@@ -21,13 +21,6 @@ bool AntesPorAcimut(const PuntoHorizonte &a, const PuntoHorizonte &b) {
 
 double Distancia(float a, float b) { return std::fabs(static_cast<double>(a) - b); }
 
-PuntosHorizonte PuntosDe(const PerfilHorizonte &perfil) {
-  PuntosHorizonte puntos;
-  puntos.reserve(perfil.X().size());
-  for (std::size_t i = 0; i < perfil.X().size(); ++i) puntos.push_back({perfil.X()[i], perfil.Y()[i]});
-  return puntos;
-}
-
 } // namespace
 
 void EdicionHorizonte::Tomar(const PerfilHorizonte &perfil) {
@@ -48,14 +41,7 @@ bool EdicionHorizonte::CopiarEn(PosicionSolar &sol) {
   return true;
 }
 
-PerfilHorizonte EdicionHorizonte::Perfil() const {
-  PerfilHorizonte perfil;
-  perfil.PonTamano(static_cast<float>(puntos_.size()));
-  for (std::size_t i = 0; i < puntos_.size(); ++i) {
-    perfil.PonPunto(static_cast<int>(i), puntos_[i].acimut, puntos_[i].altura);
-  }
-  return perfil;
-}
+PerfilHorizonte EdicionHorizonte::Perfil() const { return PerfilDe(puntos_); }
 
 bool EdicionHorizonte::PulsarIzquierdo(float acimut, float altura, bool mayusculas, AlcanceRaton alcance) {
   if (!mayusculas) return false;

@@ -1,20 +1,12 @@
 #pragma once
 
-#include "solar/Perfilhorizonte.h"
+#include "solar/Puntoshorizonte.h"
 
 #include <vector>
 
 namespace tesmo {
 
 class PosicionSolar;
-
-/// Un punto del horizonte: acimut [°, 0 al sur, oeste positivo] y altura [°].
-struct PuntoHorizonte {
-  float acimut;
-  float altura;
-  bool operator==(const PuntoHorizonte &) const = default;
-};
-using PuntosHorizonte = std::vector<PuntoHorizonte>;
 
 /// Hasta dónde llega una pulsación alrededor de un punto [° de acimut, ° de altura], lo que mide su marca.
 struct AlcanceRaton {

@@ -1,5 +1,7 @@
 #include "solar/Giroshorizonte.h"
 
+#include "solar/Puntoshorizonte.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -15,43 +17,30 @@ constexpr double CUARTO_DE_VUELTA = 90.0;
 constexpr int CUARTOS_DE_LA_VUELTA = 4;
 constexpr auto NORTE = static_cast<float>(MEDIA_VUELTA);
 
-using Punto = std::pair<float, float>; ///< acimut y altura
-using Puntos = std::vector<Punto>;
-
-Puntos PuntosDe(const PerfilHorizonte &perfil) {
-  Puntos puntos;
-  for (std::size_t i = 0; i < perfil.X().size(); ++i) {
-    if (!std::isfinite(perfil.X()[i]) || !std::isfinite(perfil.Y()[i])) continue;
-    puntos.emplace_back(perfil.X()[i], perfil.Y()[i]);
-  }
+PuntosHorizonte PuntosFinitosDe(const PerfilHorizonte &perfil) {
+  PuntosHorizonte puntos = PuntosDe(perfil);
+  std::erase_if(puntos, [](const PuntoHorizonte &punto) {
+    return !std::isfinite(punto.acimut) || !std::isfinite(punto.altura);
+  });
   return puntos;
 }
 
-PerfilHorizonte PerfilDe(const Puntos &puntos) {
-  PerfilHorizonte perfil;
-  perfil.PonTamano(static_cast<float>(puntos.size()));
-  for (std::size_t i = 0; i < puntos.size(); ++i) {
-    perfil.PonPunto(static_cast<int>(i), puntos[i].first, puntos[i].second);
-  }
-  return perfil;
-}
-
-void Ordenar(Puntos &puntos) {
+void Ordenar(PuntosHorizonte &puntos) {
   std::stable_sort(puntos.begin(), puntos.end(),
-                   [](const Punto &a, const Punto &b) { return a.first < b.first; });
+                   [](const PuntoHorizonte &a, const PuntoHorizonte &b) { return a.acimut < b.acimut; });
 }
 
 /// Ordena y quita los puntos repetidos, que salen de un perfil que traía el norte por los dos lados.
-PerfilHorizonte Recolocar(Puntos puntos) {
+PerfilHorizonte Recolocar(PuntosHorizonte puntos) {
   Ordenar(puntos);
   puntos.erase(std::unique(puntos.begin(), puntos.end()), puntos.end());
   return PerfilDe(puntos);
 }
 
-double MayorHueco(const Puntos &puntos) {
+double MayorHueco(const PuntosHorizonte &puntos) {
   double mayor = 0.0;
   for (std::size_t i = 1; i < puntos.size(); ++i) {
-    mayor = std::max(mayor, static_cast<double>(puntos[i].first) - puntos[i - 1].first);
+    mayor = std::max(mayor, static_cast<double>(puntos[i].acimut) - puntos[i - 1].acimut);
   }
   return mayor;
 }
@@ -59,22 +48,23 @@ double MayorHueco(const Puntos &puntos) {
 } // namespace
 
 PerfilHorizonte GirarPerfil(const PerfilHorizonte &perfil, int cuartos) {
-  Puntos puntos = PuntosDe(perfil);
+  PuntosHorizonte puntos = PuntosFinitosDe(perfil);
   const double giro = cuartos % CUARTOS_DE_LA_VUELTA * CUARTO_DE_VUELTA;
-  for (Punto &punto : puntos) punto.first = static_cast<float>(DentroDeLaVuelta(punto.first + giro));
+  for (PuntoHorizonte &punto : puntos)
+    punto.acimut = static_cast<float>(DentroDeLaVuelta(punto.acimut + giro));
   return Recolocar(std::move(puntos));
 }
 
 PerfilHorizonte ReflejarPerfil(const PerfilHorizonte &perfil) {
-  Puntos puntos = PuntosDe(perfil);
+  PuntosHorizonte puntos = PuntosFinitosDe(perfil);
   std::reverse(puntos.begin(), puntos.end()); // una pared vertical conserva su lado
-  for (Punto &punto : puntos) punto.first = 0.0F - punto.first;
+  for (PuntoHorizonte &punto : puntos) punto.acimut = 0.0F - punto.acimut;
   return Recolocar(std::move(puntos));
 }
 
 PerfilHorizonte CerrarVuelta(const PerfilHorizonte &perfil) {
   constexpr double HOLGURA = 2.0;
-  Puntos puntos = PuntosDe(perfil);
+  PuntosHorizonte puntos = PuntosFinitosDe(perfil);
   Ordenar(puntos);
   if (puntos.size() < 2) return perfil;
   const auto [xUltimo, yUltimo] = puntos.back();
@@ -83,8 +73,8 @@ PerfilHorizonte CerrarVuelta(const PerfilHorizonte &perfil) {
   if (xPrimero < -NORTE || xUltimo > NORTE || !(hueco < HOLGURA * MayorHueco(puntos))) return perfil;
   const double parte = hueco > 0.0 ? (MEDIA_VUELTA - xUltimo) / hueco : 0.0;
   const auto alNorte = static_cast<float>(yUltimo + parte * (static_cast<double>(yPrimero) - yUltimo));
-  if (xPrimero > -NORTE) puntos.insert(puntos.begin(), {-NORTE, alNorte});
-  if (xUltimo < NORTE) puntos.emplace_back(NORTE, alNorte);
+  if (xPrimero > -NORTE) puntos.insert(puntos.begin(), PuntoHorizonte{-NORTE, alNorte});
+  if (xUltimo < NORTE) puntos.push_back({NORTE, alNorte});
   return PerfilDe(puntos);
 }
 
@@ -96,7 +86,7 @@ double DentroDeLaVuelta(double acimut) {
 }
 
 PerfilHorizonte PorAcimut(const PerfilHorizonte &perfil) {
-  Puntos puntos = PuntosDe(perfil);
+  PuntosHorizonte puntos = PuntosFinitosDe(perfil);
   Ordenar(puntos);
   return PerfilDe(puntos);
 }

@@ -1,6 +1,7 @@
 #include "solar/Perfilcompleto.h"
 
 #include "core/Codificacion.h"
+#include "solar/Puntoshorizonte.h"
 
 #include <algorithm>
 #include <array>
@@ -37,10 +38,10 @@ bool LeerReal(std::string_view campo, float &valor) {
   return leido.ec == std::errc() && leido.ptr == fin;
 }
 
-bool LeerPunto(std::string_view linea, float &x, float &y) {
+bool LeerPunto(std::string_view linea, PuntoHorizonte &punto) {
   const char separador = linea.find(';') != std::string_view::npos ? ';' : '\t';
   const std::vector<std::string_view> campos = PartirCampos(linea, separador);
-  return campos.size() == 2 && LeerReal(campos[0], x) && LeerReal(campos[1], y);
+  return campos.size() == 2 && LeerReal(campos[0], punto.acimut) && LeerReal(campos[1], punto.altura);
 }
 
 } // namespace
@@ -54,14 +55,14 @@ bool EsPerfilCompleto(std::string_view texto) {
 }
 
 bool LeerPerfilCompleto(std::string_view texto, PerfilHorizonte &perfil, FalloLectura &fallo) {
-  std::vector<std::array<float, 2>> puntos;
+  PuntosHorizonte puntos;
   bool titulos = true;
   int numero = 0;
   for (const std::string_view linea : PartirLineas(texto)) {
     ++numero;
     if (SinBlancos(linea).empty()) continue;
-    std::array<float, 2> punto{};
-    if (!titulos && !LeerPunto(SinBlancos(linea), punto[0], punto[1])) {
+    PuntoHorizonte punto{};
+    if (!titulos && !LeerPunto(SinBlancos(linea), punto)) {
       fallo = {numero, "se esperaban el acimut y la altura de un punto, separados por punto y coma"};
       return false;
     }
@@ -72,10 +73,7 @@ bool LeerPerfilCompleto(std::string_view texto, PerfilHorizonte &perfil, FalloLe
     fallo = {0, "hay más de " + std::to_string(PerfilHorizonte::PUNTOS_MAXIMOS) + " puntos"};
     return false;
   }
-  perfil.PonTamano(static_cast<float>(puntos.size()));
-  for (std::size_t i = 0; i < puntos.size(); ++i) {
-    perfil.PonPunto(static_cast<int>(i), puntos[i][0], puntos[i][1]);
-  }
+  perfil = PerfilDe(puntos);
   return true;
 }
 

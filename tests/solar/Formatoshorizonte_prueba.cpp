@@ -2,19 +2,19 @@
 
 #include "solar/Giroshorizonte.h"
 #include "tests/comun/Apoyos.h"
-#include "tests/comun/Lugares.h"
+#include "tests/solar/Perfilprueba.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <filesystem>
 #include <limits>
 #include <random>
 
 namespace tesmo {
 namespace {
 
-using Numeros = std::vector<float>;
+using prueba::Numeros;
+using prueba::Perfil;
 
 HorizonteLeido Leer(std::string_view texto) {
   FalloLectura fallo;
@@ -36,13 +36,6 @@ void Espera(std::string_view texto, FormatoHorizonte formato, const Numeros &x, 
   EXPECT_EQ(leido.perfil.Y(), y) << texto;
 }
 
-PerfilHorizonte Perfil(const Numeros &x, const Numeros &y) {
-  PerfilHorizonte perfil;
-  perfil.PonTamano(static_cast<float>(x.size()));
-  for (std::size_t i = 0; i < x.size(); ++i) perfil.PonPunto(static_cast<int>(i), x[i], y[i]);
-  return perfil;
-}
-
 constexpr auto NATIVO = FormatoHorizonte::Nativo;
 constexpr auto COMPLETO = FormatoHorizonte::Completo;
 constexpr auto PVGIS = FormatoHorizonte::Pvgis;
@@ -52,6 +45,8 @@ constexpr auto ALTURAS = FormatoHorizonte::Alturas;
 TEST(FormatosHorizonte, ReconoceElNativoYConservaSuOrden) {
   Espera("3\n60, 1\n-60, 2\n0, 3\n", NATIVO, {60, -60, 0}, {1, 2, 3});
   Espera("5\r\n-10.000000, 4.000000\r\n20.000000, 8.000000\r\n", NATIVO, {-10, 20, 0, 0, 0}, {4, 8, 0, 0, 0});
+  Espera("3\n50,5\n-50,7\n0,9\n", NATIVO, {50, -50, 0}, {5, 7, 9}); // sin blanco no es coma decimal
+  Espera("2\r\n50,5\r\n-50,7\r\n", NATIVO, {50, -50}, {5, 7});
   Espera("0\n", NATIVO, {}, {});
   Espera("\n  2\n1, 2\n", NATIVO, {1, 0}, {2, 0});
   Espera("2 -10, 5 20, 8\n", NATIVO, {-10, 20}, {5, 8}); // los fines de línea no cuentan
@@ -275,47 +270,6 @@ TEST(FormatosHorizonte, LoDeOtroProgramaSeUsaConLaVueltaCerrada) {
   EXPECT_EQ(usado.Y().back(), 0.0F); // el norte es el primer punto
   const HorizonteLeido propio = Leer("2\n-90, 5\n90, 5\n");
   EXPECT_EQ(PerfilParaUsar(propio), propio.perfil);
-}
-
-// ---- Ficheros reales: sólo donde está la carpeta de datos de referencia.
-
-class HorizontesReales : public ::testing::Test {
-protected:
-  HorizonteLeido Abrir(const char *nombre) {
-    const auto ruta =
-        std::filesystem::path(tesmo::prueba::Raiz()) / ".." / "shared" / "datos" / "horizontes" / nombre;
-    FalloLectura fallo;
-    const auto leido = LeerHorizonteDeFichero(ruta.string(), fallo);
-    hay_ = std::filesystem::exists(ruta);
-    EXPECT_TRUE(leido || !hay_) << DescribirFallo(nombre, fallo);
-    return leido.value_or(HorizonteLeido{});
-  }
-  bool hay_ = false;
-};
-
-TEST_F(HorizontesReales, ListadoDePvgisDeSandia) {
-  const HorizonteLeido leido = Abrir("pvgis_35.171_-106.465_sandia.csv");
-  if (!hay_) GTEST_SKIP() << "no está la carpeta ../shared/datos con los horizontes de referencia";
-  ASSERT_EQ(leido.perfil.Tamano(), 48);
-  EXPECT_FALSE(leido.origenSupuesto);
-  EXPECT_EQ(leido.perfil.X().front(), -180.0F);
-  EXPECT_EQ(leido.perfil.Y().front(), 9.9F);
-  EXPECT_EQ(leido.perfil.X()[24], 0.0F);
-  EXPECT_EQ(leido.perfil.Y()[24], 4.6F); // el del acimut 180 del fichero
-  // La sierra está al este: 90 desde el norte es −90 desde el sur.
-  EXPECT_EQ(leido.perfil.X()[12], -90.0F);
-  EXPECT_EQ(leido.perfil.Y()[12], 10.3F);
-  const PerfilHorizonte usado = PerfilParaUsar(leido);
-  ASSERT_EQ(usado.Tamano(), 49);
-  EXPECT_EQ(usado.Y().back(), 9.9F);
-}
-
-TEST_F(HorizontesReales, OchoAlturasDesdeElNorte) {
-  const HorizonteLeido leido = Abrir("ejemplo_userhorizon_8.csv");
-  if (!hay_) GTEST_SKIP() << "no está la carpeta ../shared/datos con los horizontes de referencia";
-  EXPECT_EQ(leido.perfil.X(), (Numeros{-180, -135, -90, -45, 0, 45, 90, 135}));
-  EXPECT_EQ(leido.perfil.Y(), (Numeros{0, 10, 20, 30, 40, 15, 25, 5}));
-  EXPECT_FALSE(leido.origenSupuesto);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "solar/Giroshorizonte.h"
 
+#include "tests/solar/Perfilprueba.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -9,14 +11,8 @@
 namespace tesmo {
 namespace {
 
-using Numeros = std::vector<float>;
-
-PerfilHorizonte Perfil(const Numeros &x, const Numeros &y) {
-  PerfilHorizonte perfil;
-  perfil.PonTamano(static_cast<float>(x.size()));
-  for (std::size_t i = 0; i < x.size(); ++i) perfil.PonPunto(static_cast<int>(i), x[i], y[i]);
-  return perfil;
-}
+using prueba::Numeros;
+using prueba::Perfil;
 
 TEST(GirosHorizonte, UnCuartoHaciaElOeste) {
   const PerfilHorizonte girado = GirarPerfil(Perfil({-90, 0, 100}, {1, 2, 3}), 1);
