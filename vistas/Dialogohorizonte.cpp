@@ -29,9 +29,7 @@ QString Explicacion(const HorizonteLeido &leido, const QString &fichero) {
           : QObject::tr("El fichero dice desde dónde cuenta los acimutes.");
   return QObject::tr("%1: %2 puntos. %3 Compare el perfil con el paisaje: si no coincide, gírelo o "
                      "refléjelo.")
-      .arg(fichero)
-      .arg(leido.perfil.Tamano())
-      .arg(origen);
+      .arg(fichero, QString::number(leido.perfil.Tamano()), origen);
 }
 
 } // namespace
