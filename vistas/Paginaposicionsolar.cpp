@@ -120,7 +120,8 @@ QGroupBox *PaginaPosicionSolar::CrearCalculos() {
   QGroupBox *caja = CrearGrupo("gbCalculos", tr("Calculo Posiciones Solares"));
   QGridLayout *rejilla = RejillaDe(*caja);
   rejilla->addWidget(CrearBoton("btnMomento", tr("Este momento"),
-                                tr("Dónde está el sol a esa hora, sobre el camino de ese día"),
+                                tr("Dónde está el sol a esa hora; si su camino no está a la vista, dibuja el "
+                                   "de ese día"),
                                 &Pagina::momentoPedido),
                      0, 0);
   rejilla->addWidget(
@@ -137,10 +138,12 @@ QGroupBox *PaginaPosicionSolar::CrearCalculos() {
   rejilla->addWidget(CrearBoton("btnGuardarImagen", tr("Guardar imagen…"),
                                 tr("Guarda la carta en PNG, SVG o PDF"), &Pagina::imagenPedida),
                      2, 0);
-  rejilla->addWidget(CrearBoton("btnFichero", tr("GENERAR"),
-                                tr("Escribe FPS.TXT, la posición del sol de cada hora del año"),
-                                &Pagina::ficheroPedido),
-                     2, 1);
+  rejilla->addWidget(
+      CrearBoton("btnFichero", tr("GENERAR"),
+                 tr("Escribe FPS.TXT, la posición del sol en el año: la línea de la hora h es de "
+                    "las h y media (la de la hora 1, de la 1:30)"),
+                 &Pagina::ficheroPedido),
+      2, 1);
   return caja;
 }
 
