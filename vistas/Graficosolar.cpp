@@ -9,6 +9,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace tesmo {
 
 namespace {
@@ -113,12 +115,21 @@ void GraficoSolar::paintEvent(QPaintEvent *suceso) {
 void GraficoSolar::resizeEvent(QResizeEvent *) { ColocarTextos(); }
 
 void GraficoSolar::mousePressEvent(QMouseEvent *suceso) {
+  dobleClic_ = false;
   if (suceso->button() == Qt::LeftButton) emit izquierdoPulsado(Sitio(*suceso));
   if (suceso->button() == Qt::RightButton) emit derechoPulsado(Sitio(*suceso));
 }
 
+void GraficoSolar::mouseDoubleClickEvent(QMouseEvent *suceso) {
+  mousePressEvent(suceso);
+  dobleClic_ = suceso->button() == Qt::LeftButton;
+}
+
 void GraficoSolar::mouseReleaseEvent(QMouseEvent *suceso) {
-  if (suceso->button() == Qt::LeftButton) emit izquierdoSoltado(Sitio(*suceso));
+  if (suceso->button() != Qt::LeftButton) return;
+  SitioRaton sitio = Sitio(*suceso);
+  sitio.repetido = std::exchange(dobleClic_, false);
+  emit izquierdoSoltado(sitio);
 }
 
 void GraficoSolar::mouseMoveEvent(QMouseEvent *suceso) {

@@ -17,7 +17,8 @@ struct SitioRaton {
   float acimut;
   float altura;
   bool mayusculas;
-  AlcanceRaton alcance; ///< lo que mide la marca de un punto
+  AlcanceRaton alcance;  ///< lo que mide la marca de un punto
+  bool repetido = false; ///< al soltar: es la segunda vez de un doble clic
 };
 
 /// La carta solar: acimut en horizontal y altura en vertical, con los caminos del sol y el horizonte. No se
@@ -57,6 +58,7 @@ protected:
   void paintEvent(QPaintEvent *suceso) override;
   void resizeEvent(QResizeEvent *suceso) override;
   void mousePressEvent(QMouseEvent *suceso) override;
+  void mouseDoubleClickEvent(QMouseEvent *suceso) override;
   void mouseReleaseEvent(QMouseEvent *suceso) override;
   void mouseMoveEvent(QMouseEvent *suceso) override;
   void leaveEvent(QEvent *suceso) override;
@@ -73,6 +75,7 @@ private:
   QPixmap dibujo_;
   QLabel *stMeses_ = nullptr;
   QLabel *lbPuntero_ = nullptr;
+  bool dobleClic_ = false; ///< desde la segunda pulsación del izquierdo hasta que se suelta
 };
 
 } // namespace tesmo

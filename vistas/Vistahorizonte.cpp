@@ -50,7 +50,7 @@ void Vistaposicionsolar::AbrirPerfil(const std::string &ruta) {
   CopiarHorizonte(leido->perfil, *sol_);
   horizonte_.Tomar(leido->perfil);
   Editado(true);
-  estado_(QObject::tr("Abierto %1: %2 puntos.").arg(Texto(ruta)).arg(leido->perfil.Tamano()));
+  estado_(QObject::tr("Abierto %1: %2 puntos.").arg(Texto(ruta), QString::number(leido->perfil.Tamano())));
 }
 
 void Vistaposicionsolar::Previsualizar(HorizonteLeido leido, const std::string &ruta) {
@@ -86,7 +86,12 @@ void Vistaposicionsolar::GuardarPerfil(const std::string &ruta, FormatoHorizonte
 void Vistaposicionsolar::EmpezarHorizonte(const SitioRaton &sitio) {
   pagina_.EnsenarGrafico();
   grafico_->setFocus();
-  Editado(horizonte_.SoltarIzquierdo(sitio.acimut, sitio.altura, sitio.mayusculas));
+  Editado(Soltar(sitio));
+}
+
+/// La segunda vez que se suelta un doble clic sólo acaba un arrastre: no pone otro punto encima del primero.
+bool Vistaposicionsolar::Soltar(const SitioRaton &sitio) {
+  return horizonte_.SoltarIzquierdo(sitio.acimut, sitio.altura, sitio.mayusculas || sitio.repetido);
 }
 
 void Vistaposicionsolar::Editado(bool cambio) {
@@ -108,11 +113,10 @@ void Vistaposicionsolar::PonInfluencia() {
   sol_->DameReal("Latitud", latitud);
   const HorasDeSolDelAnio horas = HorasDeSolPerdidas(perfil, latitud);
   const double parte = horas.deSol > 0 ? static_cast<double>(horas.perdidas) / horas.deSol : 0.0;
-  pagina_.PonInfluencia(QObject::tr("Cielo a la vista: %1 %").arg(Porcentaje(ParteDeCielo(perfil))),
-                        QObject::tr("Horas de sol que tapa al año: %1 de %2 (%3 %)")
-                            .arg(horas.perdidas)
-                            .arg(horas.deSol)
-                            .arg(Porcentaje(parte)));
+  pagina_.PonInfluencia(
+      QObject::tr("Cielo a la vista: %1 %").arg(Porcentaje(ParteDeCielo(perfil))),
+      QObject::tr("Horas de sol que tapa al año: %1 de %2 (%3 %)")
+          .arg(QString::number(horas.perdidas), QString::number(horas.deSol), Porcentaje(parte)));
 }
 
 } // namespace tesmo

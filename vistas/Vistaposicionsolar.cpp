@@ -134,9 +134,7 @@ void Vistaposicionsolar::ConectarRaton(const GraficoSolar &grafico) {
     return horizonte_.PulsarIzquierdo(s.acimut, s.altura, s.mayusculas, s.alcance);
   });
   conectar(&GraficoSolar::movido, [this](const SitioRaton &s) { return horizonte_.Mover(s.altura); });
-  conectar(&GraficoSolar::izquierdoSoltado, [this](const SitioRaton &s) {
-    return horizonte_.SoltarIzquierdo(s.acimut, s.altura, s.mayusculas);
-  });
+  conectar(&GraficoSolar::izquierdoSoltado, [this](const SitioRaton &s) { return Soltar(s); });
   conectar(&GraficoSolar::derechoPulsado,
            [this](const SitioRaton &s) { return horizonte_.PulsarDerecho(s.acimut, s.altura); });
 }
@@ -165,15 +163,23 @@ void Vistaposicionsolar::actualizar() {
 void Vistaposicionsolar::localidadCambiada() {
   if (sol_ == nullptr) return;
   sol_->PonTexto("Latitud", panel_.Latitud());
+  VaciarMomento();
   PonInfluencia();
   if (contenido_.dibujo == DibujoSolar::Ninguno) return;
   sol_->DameReal("Latitud", dibujada_.latitud);
-  contenido_.momento.reset();
   if (contenido_.dibujo == DibujoSolar::Dia) {
     DibujarDia(dibujada_);
   } else {
     DibujarMeses(dibujada_);
   }
+}
+
+/// Lo que se leyó de un momento era de otro sitio.
+void Vistaposicionsolar::VaciarMomento() {
+  pagina_.PonTexto(Casilla::Acimut, QString());
+  pagina_.PonTexto(Casilla::Altura, QString());
+  pagina_.PonMomento(QString());
+  contenido_.momento.reset();
 }
 
 Vistaposicionsolar::Fecha Vistaposicionsolar::LeerFecha() const {
@@ -213,13 +219,17 @@ void Vistaposicionsolar::AsegurarCurvaDe(const Fecha &fecha) {
   const bool mismoSitio = fecha.latitud == dibujada_.latitud && fecha.dia == dibujada_.dia;
   const bool todos = contenido_.dibujo == DibujoSolar::Meses;
   const bool esteDia = contenido_.dibujo == DibujoSolar::Dia && fecha.mes == dibujada_.mes;
-  if (!mismoSitio || !(todos || esteDia)) DibujarDia(fecha);
+  if (mismoSitio && (todos || esteDia)) return;
+  DibujarDia(fecha);
+  DecirSalidaYPuesta(fecha);
 }
 
 void Vistaposicionsolar::btnDiaClick() {
   CopiarCasillas();
   contenido_.momento.reset();
-  DibujarDia(LeerFecha());
+  const Fecha fecha = LeerFecha();
+  DibujarDia(fecha);
+  DecirSalidaYPuesta(fecha);
 }
 
 void Vistaposicionsolar::DibujarDia(const Fecha &fecha) {
@@ -227,7 +237,6 @@ void Vistaposicionsolar::DibujarDia(const Fecha &fecha) {
   dibujada_ = fecha;
   grafico_->PonOrdenDeMeses({});
   EnsenarDibujo();
-  DecirSalidaYPuesta(fecha);
 }
 
 void Vistaposicionsolar::DecirSalidaYPuesta(const Fecha &fecha) const {
@@ -246,7 +255,10 @@ void Vistaposicionsolar::DecirSalidaYPuesta(const Fecha &fecha) const {
 void Vistaposicionsolar::btnMesesClick() {
   CopiarCasillas();
   contenido_.momento.reset();
-  DibujarMeses(LeerFecha());
+  const Fecha fecha = LeerFecha();
+  DibujarMeses(fecha);
+  estado_(
+      QObject::tr("El día %1 de cada mes; las líneas de puntos unen la misma hora solar.").arg(fecha.dia));
 }
 
 void Vistaposicionsolar::DibujarMeses(const Fecha &fecha) {
@@ -255,8 +267,6 @@ void Vistaposicionsolar::DibujarMeses(const Fecha &fecha) {
   dibujada_ = fecha;
   grafico_->PonOrdenDeMeses(Texto(curvas.orden));
   EnsenarDibujo();
-  estado_(
-      QObject::tr("El día %1 de cada mes; las líneas de puntos unen la misma hora solar.").arg(fecha.dia));
 }
 
 void Vistaposicionsolar::EnsenarDibujo() {

@@ -35,7 +35,7 @@ public:
   /// Entrega lo que está a medio editar: las casillas y, si se ha editado, el horizonte pasan al
   /// PosicionSolar, y la superficie a la selección. Se llama sola antes de cargar o derivar.
   void actualizar();
-  /// La latitud ha cambiado: se rehace lo que se esté viendo.
+  /// La latitud ha cambiado: se rehace lo que se esté viendo y se vacía el momento, sin decir nada.
   void localidadCambiada();
 
   void btnMomentoClick();
@@ -70,10 +70,12 @@ private:
   void DibujarDia(const Fecha &fecha);
   void DecirSalidaYPuesta(const Fecha &fecha) const;
   void DibujarMeses(const Fecha &fecha);
+  void VaciarMomento();
   void AsegurarCurvaDe(const Fecha &fecha);
   void EnsenarDibujo();
   void Previsualizar(HorizonteLeido leido, const std::string &ruta);
   void EmpezarHorizonte(const SitioRaton &sitio);
+  bool Soltar(const SitioRaton &sitio);
   void Editado(bool cambio);
   void RedibujarHorizonte();
   void PonInfluencia();

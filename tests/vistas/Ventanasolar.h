@@ -80,6 +80,19 @@ struct VentanaSolar {
               Qt::KeyboardModifiers teclas = {}) const {
     QTest::mouseClick(&Carta(), boton, teclas, Pixel(acimut, altura));
   }
+  /// Enseña la carta y pulsa en cada punto.
+  void Dibujar(const PuntosHorizonte &puntos) const {
+    if (Carta().isHidden()) ventana.Pulsar("btnDia");
+    QApplication::processEvents();
+    for (const PuntoHorizonte &punto : puntos) Pulsar(punto.acimut, punto.altura);
+  }
+  /// Con Mayúsculas, de un píxel a otro.
+  void Arrastrar(const QPoint &desde, const QPoint &hasta) const {
+    QTest::mousePress(&Carta(), Qt::LeftButton, Qt::ShiftModifier, desde);
+    QTest::mouseMove(&Carta(), (desde + hasta) / 2);
+    QTest::mouseMove(&Carta(), hasta);
+    QTest::mouseRelease(&Carta(), Qt::LeftButton, Qt::ShiftModifier, hasta);
+  }
 
   DatosPrueba datos;
   MensajesApuntados mensajes;

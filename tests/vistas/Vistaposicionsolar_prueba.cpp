@@ -274,6 +274,26 @@ private slots:
     QCOMPARE(v_->Vista().Contenido().dibujo, DibujoSolar::Meses);
   }
 
+  void cambiarDeLocalidadVaciaElMomentoSinDecirNada() {
+    v_->ventana.Localidad("Almería");
+    v_->PonFecha("6", "21", "12");
+    v_->ventana.Pulsar("btnMomento");
+    QVERIFY(!v_->Casilla("edAltura").isEmpty());
+    const QSignalSpy estado(&v_->controlador.DameFormulario(), &TforProgramas::estado);
+    v_->PonLatitud("40");
+    v_->Vista().localidadCambiada();
+    QCOMPARE(v_->Casilla("edAcimut"), QString());
+    QCOMPARE(v_->Casilla("edAltura"), QString());
+    QCOMPARE(v_->Rotulo("lbMomento"), QString());
+    QVERIFY(!v_->Vista().Contenido().momento.has_value());
+    QVERIFY(v_->Vista().Contenido().titulo.starts_with("Latitud = 40.00")); // se rehace, callando
+    QCOMPARE(estado.size(), 0);
+    v_->ventana.Pulsar("btnMeses");
+    QCOMPARE(estado.size(), 1);
+    v_->Vista().localidadCambiada();
+    QCOMPARE(estado.size(), 1);
+  }
+
   void generarEscribeElAnioEnElDirectorioBase() {
     v_->PonLatitud("36.84");
     v_->ventana.Pulsar("btnFichero");
