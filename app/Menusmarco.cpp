@@ -14,6 +14,9 @@ namespace tesmo {
 std::vector<TforPrincipal::Orden> TforPrincipal::OrdenesDeArchivo() {
   return {
       {"mnuNuevo", tr("&Nuevo"), QKeySequence::New, [this] { mnuNuevoClick(); }},
+      {"mnuImportar", tr("&Importar fichero climático…"), QKeySequence(tr("Ctrl+I")),
+       [this] { mnuImportarClick(); }},
+      {},
       {"mnuCerrar", tr("&Cerrar"), QKeySequence(tr("Ctrl+W")), [this] { mnuCerrarClick(); }},
       {"mnuCerrarTodo", tr("Cerrar &todo"), QKeySequence(tr("Ctrl+Shift+W")),
        [this] { mnuCerrarTodoClick(); }},
@@ -25,6 +28,7 @@ std::vector<TforPrincipal::Orden> TforPrincipal::OrdenesDeArchivo() {
 std::vector<TforPrincipal::Orden> TforPrincipal::OrdenesDeHerramienta() {
   return {
       {"mnuColores", tr("&Colores"), {}, [this] { mnuColoresClick(); }},
+      {"mnuAuditar", tr("&Auditar fichero climático…"), {}, [this] { mnuAuditarClick(); }},
   };
 }
 

@@ -55,6 +55,7 @@ TforPrincipal::TforPrincipal(QWidget *padre) : QMainWindow(padre) {
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setCentralWidget(area_);
+  setAcceptDrops(true);
   statusBar()->setSizeGripEnabled(false);
   CrearMenus();
   imagen_ = std::make_unique<Presentacion>();
@@ -123,6 +124,8 @@ void TforPrincipal::AbrirVentana(const Programa &programa) {
   for (QAction *orden : ventana->systemMenu()->actions()) orden->setShortcuts(QList<QKeySequence>());
   connect(&formulario, &TforProgramas::estado, statusBar(),
           [this](const QString &texto) { statusBar()->showMessage(texto); });
+  connect(&formulario, &TforProgramas::importarPedido, this, &TforPrincipal::OfrecerImportar,
+          Qt::QueuedConnection);
   // El formulario no puede morir dentro de su propio suceso de cierre.
   connect(
       &formulario, &TforProgramas::cerrada, this, [this, este] { Retirar(este); }, Qt::QueuedConnection);

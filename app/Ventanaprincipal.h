@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <functional>
 #include <memory>
@@ -14,6 +15,7 @@ class QTimer;
 
 namespace tesmo {
 
+class DialogoImportar;
 class Presentacion;
 class Programa;
 class TforProgramas;
@@ -47,6 +49,8 @@ public:
 
 public slots:
   void mnuNuevoClick();
+  void mnuImportarClick();
+  void mnuAuditarClick();
   void mnuCerrarClick();
   void mnuCerrarTodoClick();
   void mnuColoresClick();
@@ -58,6 +62,9 @@ private slots:
 
 protected:
   void closeEvent(QCloseEvent *suceso) override;
+  /// Ficheros soltados sobre el marco: se importan.
+  void dragEnterEvent(QDragEnterEvent *suceso) override;
+  void dropEvent(QDropEvent *suceso) override;
 
 private:
   /// Una orden de un menú; sin nombre es una raya.
@@ -76,6 +83,8 @@ private:
   [[nodiscard]] std::vector<Orden> OrdenesDeAyuda();
   void ListarVentanas(QMenu &menu);
   void AbrirManual();
+  DialogoImportar &AbrirImportar();
+  void OfrecerImportar(const QString &ruta, const QString &localidad, const QString &provincia);
   [[nodiscard]] TforProgramas *VentanaDelante() const;
   Programa &CrearPrograma();
   void AbrirVentana(const Programa &programa);
@@ -88,8 +97,9 @@ private:
   std::string ayuda_;
   QString avisoArranque_; ///< lo que falló al arrancar sin que nadie lo dijera
   QMdiArea *area_ = nullptr;
-  VentanaAyuda *manual_ = nullptr; ///< nula hasta que se abre por primera vez
-  QList<QAction *> listaVentanas_; ///< las del menú, rehechas cada vez que se abre
+  QPointer<DialogoImportar> importar_; ///< nulo si no está abierto
+  VentanaAyuda *manual_ = nullptr;     ///< nula hasta que se abre por primera vez
+  QList<QAction *> listaVentanas_;     ///< las del menú, rehechas cada vez que se abre
   std::vector<std::unique_ptr<Programa>> programas_;
   std::vector<std::unique_ptr<VistaPrograma>> controladores_;
 };

@@ -60,6 +60,8 @@ signals:
   void cerrada();
   /// Algo que decir en la línea de estado.
   void estado(const QString &texto);
+  /// La localidad elegida tiene un fichero que hay que importar antes de usarlo.
+  void importarPedido(const QString &ruta, const QString &localidad, const QString &provincia);
 
 protected:
   void closeEvent(QCloseEvent *suceso) override;

@@ -3,6 +3,9 @@
 #include "app/Accion.h"
 #include "app/Carga.h"
 #include "app/Ventanaprogramas.h"
+#include "core/Ficheros.h"
+#include "core/Rutas.h"
+#include "intercambio/formatos/Lectura.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
 #include "vistas/Configuracion.h"
@@ -77,7 +80,38 @@ void VistaPrograma::Abrir() {
   formulario_->DamePanel().PonProvincias(provincias);
   RellenarLocalidades();
   PonTitulo();
+  avisoBase_ =
+      DameLocalidades()->AlCambiar([this](const ObjetoCiudad &registro) { AltaDeLocalidad(registro); });
   formulario_->show();
+}
+
+void VistaPrograma::AltaDeLocalidad(const ObjetoCiudad &registro) {
+  if (!formulario_) return;
+  PanelSeleccion &panel = formulario_->DamePanel();
+  std::vector<std::string> provincias;
+  DameLocalidades()->ListaDe("Provincias", provincias);
+  panel.ActualizarProvincias(provincias);
+  if (panel.Provincia() != seleccion_.DameProvincia()) { // la lista estaba vacía
+    RellenarLocalidades();
+    return;
+  }
+  std::vector<std::string> localidades;
+  DameLocalidades()->ListaDe("Localidades", panel.Provincia(), localidades);
+  panel.ActualizarLocalidades(localidades);
+  const bool esLaElegida = seleccion_.HayLocalidad() && registro.localidad == seleccion_.DameLocalidad() &&
+                           registro.provincia == seleccion_.DameProvincia();
+  if (esLaElegida) CambiarLocalidad(); // su fichero es otro
+}
+
+/// Un fichero de trece columnas se lee sin rechistar y mal: se ofrece pasarlo a quince. Uno de quince
+/// completo no llega aquí, así que no se lee dos veces.
+void VistaPrograma::OfrecerImportar() const {
+  const std::string fichero = DameLocalidades()->DameTextoDe(seleccion_.DameLocalidad(), "Fichero");
+  const std::string ruta = DameConfiguracion().RutaMeteo(fichero);
+  const auto texto = LeerFicheroEntero(BuscarSinMayusculas(RutaDesdeTexto(ruta)));
+  if (texto && EsMetDeTreceColumnas(*texto))
+    emit formulario_->importarPedido(Texto(ruta), Texto(seleccion_.DameLocalidad()),
+                                     Texto(seleccion_.DameProvincia()));
 }
 
 void VistaPrograma::RellenarLocalidades() {
@@ -132,6 +166,7 @@ bool VistaPrograma::Cargar() {
   if (resultado != ResultadoCarga::Cargada) return false;
   vistaPsicrometrico_->redibujar();
   DecirCarga();
+  if (!DameLeerMet()->Resumen().Completa()) OfrecerImportar();
   return true;
 }
 

@@ -11,6 +11,7 @@
 
 namespace tesmo {
 
+class ObjetoCiudad;
 class TforProgramas;
 class VistaDiasExtremos;
 class Vistaentorno;
@@ -63,11 +64,15 @@ private:
   std::unique_ptr<VistaDiasExtremos> CrearVistaDiasExtremos();
   std::unique_ptr<Vistaposicionsolar> CrearVistaPosicionSolar();
   void RellenarLocalidades();
+  /// La base tiene un registro nuevo o cambiado: los selectores lo enseñan sin perder lo elegido.
+  void AltaDeLocalidad(const ObjetoCiudad &registro);
+  void OfrecerImportar() const;
   bool Cargar();
   void DecirCarga() const;
   void Decir(const QString &texto) const;
 
   std::string nombre_;
+  std::shared_ptr<void> avisoBase_; ///< mientras vive, la base avisa de las altas
   Seleccion seleccion_;
   QPointer<TforProgramas> formulario_; ///< nulo si su ventana murió antes
   std::unique_ptr<VistaDiasExtremos> vistaDiasExtremos_;

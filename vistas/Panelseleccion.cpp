@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include <algorithm>
 namespace tesmo {
 
 namespace {
@@ -152,6 +153,20 @@ void PanelSeleccion::PonLocalidades(const std::vector<std::string> &localidades)
   cbLocalidades_->clear();
   cbLocalidades_->addItem(Texto(SIN_LOCALIDAD));
   for (const std::string &localidad : localidades) cbLocalidades_->addItem(Texto(localidad));
+}
+
+void PanelSeleccion::ActualizarProvincias(const std::vector<std::string> &provincias) {
+  const QSignalBlocker sinAvisos(cbProvincias_);
+  const QString elegida = cbProvincias_->currentText();
+  PonProvincias(provincias);
+  cbProvincias_->setCurrentIndex(std::max(0, cbProvincias_->findText(elegida)));
+}
+
+void PanelSeleccion::ActualizarLocalidades(const std::vector<std::string> &localidades) {
+  const QSignalBlocker sinAvisos(cbLocalidades_);
+  const QString elegida = cbLocalidades_->currentText();
+  PonLocalidades(localidades);
+  cbLocalidades_->setCurrentIndex(std::max(0, cbLocalidades_->findText(elegida)));
 }
 
 std::string PanelSeleccion::Provincia() const { return cbProvincias_->currentText().toStdString(); }

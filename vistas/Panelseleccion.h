@@ -30,6 +30,9 @@ public:
   /// elegida.
   void PonProvincias(const std::vector<std::string> &provincias);
   void PonLocalidades(const std::vector<std::string> &localidades);
+  /// Lo mismo sin cambiar lo elegido, si sigue en la lista.
+  void ActualizarProvincias(const std::vector<std::string> &provincias);
+  void ActualizarLocalidades(const std::vector<std::string> &localidades);
   [[nodiscard]] std::string Provincia() const;
   [[nodiscard]] std::string Localidad() const;
 

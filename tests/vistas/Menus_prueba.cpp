@@ -57,8 +57,10 @@ private slots:
   void cadaMenuTieneSusOrdenesYSusAtajos_data() {
     QTest::addColumn<QString>("menu");
     QTest::addColumn<QStringList>("ordenes");
-    QTest::newRow("Archivo") << "mnuArchivo" << QStringList{"Nuevo", "Cerrar", "Cerrar todo", "Salir"};
-    QTest::newRow("Herramienta") << "mnuHerramienta" << QStringList{"Colores"};
+    QTest::newRow("Archivo") << "mnuArchivo"
+                             << QStringList{"Nuevo", "Importar fichero climático…", "Cerrar", "Cerrar todo",
+                                            "Salir"};
+    QTest::newRow("Herramienta") << "mnuHerramienta" << QStringList{"Colores", "Auditar fichero climático…"};
     QTest::newRow("Ventana") << "mnuVentana"
                              << QStringList{"Cascada", "Mosaico horizontal", "Mosaico vertical",
                                             "Minimizar todo", "Organizar iconos"};
