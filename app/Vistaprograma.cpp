@@ -3,7 +3,6 @@
 #include "app/Accion.h"
 #include "app/Carga.h"
 #include "app/Ventanaprogramas.h"
-#include "core/Ficheros.h"
 #include "core/Rutas.h"
 #include "intercambio/formatos/Lectura.h"
 #include "localidades/Ciudad.h"
@@ -108,8 +107,7 @@ void VistaPrograma::AltaDeLocalidad(const ObjetoCiudad &registro) {
 void VistaPrograma::OfrecerImportar() const {
   const std::string fichero = DameLocalidades()->DameTextoDe(seleccion_.DameLocalidad(), "Fichero");
   const std::string ruta = DameConfiguracion().RutaMeteo(fichero);
-  const auto texto = LeerFicheroEntero(BuscarSinMayusculas(RutaDesdeTexto(ruta)));
-  if (texto && EsMetDeTreceColumnas(*texto))
+  if (EsFicheroMetDeTreceColumnas(ruta))
     emit formulario_->importarPedido(Texto(ruta), Texto(seleccion_.DameLocalidad()),
                                      Texto(seleccion_.DameProvincia()));
 }

@@ -27,7 +27,6 @@ namespace {
 /// Columnas de la tabla del diálogo.
 enum { NUMERO, ROTULO, MUESTRA, PAPEL, UNIDAD };
 constexpr std::size_t COLUMNAS_MAXIMAS = 60;
-constexpr std::size_t BYTES_DE_MUESTRA = 64 * 1024;
 
 template <typename T, std::size_t N>
 int SitioDe(const std::array<Palabra<T>, N> &palabras, T valor) {
@@ -130,8 +129,10 @@ void DialogoMapa::ElegirColumna(const std::string &columna, int papel, const std
 MapaColumnas DialogoMapa::Mapa() const {
   MapaColumnas mapa;
   mapa.nombre = edNombre_->text().trimmed().toStdString();
-  mapa.latitud = csLatitud_->value();
-  mapa.longitud = csLongitud_->value();
+  // El cruce del ecuador con el meridiano 0 está en el mar: es que no se ha dicho dónde es.
+  const bool dicho = csLatitud_->value() != 0.0 || csLongitud_->value() != 0.0;
+  mapa.latitud = dicho ? csLatitud_->value() : AUSENTE;
+  mapa.longitud = dicho ? csLongitud_->value() : AUSENTE;
   mapa.altitud = csAltitud_->value();
   mapa.separador = ValorDe(SEPARADORES, *cbSeparador_);
   mapa.comaDecimal = ValorDe(DECIMALES, *cbDecimal_);
@@ -200,6 +201,7 @@ bool DialogoMapa::GuardarMapa(const QString &ruta) {
 void DialogoMapa::accept() {
   // Lo que el lector no entendería se dice aquí, con el diálogo abierto.
   const ResultadoMapa leido = LeerMapa(EscribirMapa(Mapa()));
+  if (leido.mapa && std::isnan(leido.mapa->latitud)) return Decir("Diga la latitud y la longitud del sitio.");
   if (leido.mapa) return QDialog::accept();
   Decir(leido.errores.empty() ? "El mapa no está completo." : leido.errores.front().texto);
 }

@@ -90,10 +90,10 @@ QWidget *DialogoMapa::CrearTexto() {
   edSinDato_->setObjectName(QStringLiteral("edSinDato"));
   edSinDato_->setPlaceholderText(tr("ninguno"));
   forma->addRow(tr("&Separador"), cbSeparador_);
-  forma->addRow(tr("&Decimales con"), cbDecimal_);
+  forma->addRow(tr("Decimal&es con"), cbDecimal_);
   forma->addRow(tr("&Líneas de cabecera"), csCabecera_);
   forma->addRow(tr("&Orden de la fecha"), cbOrden_);
-  forma->addRow(tr("&Código de sin dato"), edSinDato_);
+  forma->addRow(tr("Código de sin &dato"), edSinDato_);
   connect(cbSeparador_, &QComboBox::currentIndexChanged, this, &DialogoMapa::LeerFilas);
   connect(csCabecera_, &QSpinBox::valueChanged, this, &DialogoMapa::LeerFilas);
   return grupo;
@@ -110,7 +110,7 @@ QWidget *DialogoMapa::CrearSitio() {
   csLongitud_->setToolTip(tr("Este, positiva"));
   csAltitud_ = CrearReal("csAltitud", -450.0, 9000.0, 1, tr(" m"));
   forma->addRow(tr("&Nombre"), edNombre_);
-  forma->addRow(tr("L&atitud"), csLatitud_);
+  forma->addRow(tr("Lat&itud"), csLatitud_);
   forma->addRow(tr("Lon&gitud"), csLongitud_);
   forma->addRow(tr("Al&titud"), csAltitud_);
   AnadirReloj(*forma);
@@ -126,7 +126,9 @@ void DialogoMapa::AnadirReloj(QFormLayout &forma) {
   fila->addWidget(cbTiempo_, 1);
   fila->addWidget(csDesfase_);
   fila->addWidget(csHuso_);
-  forma.addRow(tr("&Reloj, desfase y huso"), fila);
+  auto *rotulo = new QLabel(tr("&Reloj, desfase y huso"));
+  rotulo->setBuddy(cbTiempo_);
+  forma.addRow(rotulo, fila);
 }
 
 QWidget *DialogoMapa::CrearBotones() {

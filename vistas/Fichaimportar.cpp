@@ -11,6 +11,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -74,7 +75,9 @@ QWidget *FichaImportar::CrearDatos(const std::vector<std::string> &provincias) {
   cbRellenar_ = new QCheckBox(tr("Rellenar los huecos largos con los días vecinos"));
   cbRellenar_->setObjectName(QStringLiteral("cbRellenar"));
   forma->addRow(tr("&Nombre"), edLocalidad_);
-  forma->addRow(tr("&Provincia"), fila);
+  auto *rotuloProvincia = new QLabel(tr("&Provincia"));
+  rotuloProvincia->setBuddy(cbProvincia_);
+  forma->addRow(rotuloProvincia, fila);
   forma->addRow(tr("&Zona"), cbZona_);
   forma->addRow(cbReemplazar_);
   forma->addRow(cbRellenar_);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "intercambio/formatos/Mapacolumnas.h"
+#include "intercambio/formatos/Clavesmapa.h"
 
 #include <array>
 #include <optional>
@@ -35,7 +35,7 @@ inline constexpr int PRIMER_PAPEL_DE_CAMPO = 1 + static_cast<int>(PAPELES_DE_FEC
   std::vector<std::string> nombres{"—"};
   for (const PapelDeFecha &papel : PAPELES_DE_FECHA) nombres.emplace_back(papel.nombre);
   for (std::size_t campo = 0; campo < NUMERO_CAMPOS; ++campo)
-    nombres.emplace_back(NombreCampo(static_cast<Campo>(campo)));
+    nombres.emplace_back(ClaveDeCampo(static_cast<Campo>(campo)));
   return nombres;
 }
 

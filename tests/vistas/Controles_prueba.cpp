@@ -9,6 +9,9 @@
 #include "tests/comun/Lugares.h"
 #include "tests/vistas/Manejo.h"
 #include "vistas/Configuracion.h"
+#include "vistas/Dialogoauditar.h"
+#include "vistas/Dialogoimportar.h"
+#include "vistas/Dialogomapa.h"
 #include "vistas/Ventanacolores.h"
 
 #include <QAbstractItemView>
@@ -104,10 +107,16 @@ private slots:
     acercade_.emplace();
     ayuda_.emplace(&marco_->marco);
     colores_.emplace(DameTablaDeColores());
+    importar_.emplace(ServiciosImportar{});
+    mapa_.emplace(QString(), nullptr);
+    auditar_.emplace(std::vector<NormalesLocalidad>{});
     pruebas_ = CodigoDeLasPruebas();
     QVERIFY(pruebas_.size() > 10000); // si no se leyó nada, lo demás no probaría nada
   }
   void cleanupTestCase() {
+    auditar_.reset();
+    mapa_.reset();
+    importar_.reset();
     colores_.reset();
     ayuda_.reset();
     acercade_.reset();
@@ -164,21 +173,29 @@ private slots:
 
   void lasTeclasDeAccesoNoChocanEnNingunaPestana() {
     auto &pestanas = marco_->Numero(0).Buscar<QTabWidget>("pcProgramas");
+    QStringList menus;
+    for (const QAction *menu : marco_->marco.menuBar()->actions()) menus << menu->text();
     for (int i = 0; i < pestanas.count(); ++i) {
       pestanas.setTabVisible(i, true);
       pestanas.setCurrentIndex(i);
-      QMap<QString, QStringList> duenos;
-      for (const QString &texto : TextosConTecla()) {
-        if (const QString tecla = TeclaDeAcceso(texto); !tecla.isEmpty()) duenos[tecla] << texto;
-      }
-      for (const QStringList &textos : duenos)
-        QVERIFY2(textos.size() == 1,
-                 qPrintable(pestanas.tabText(i) + QStringLiteral(": ") + textos.join(QStringLiteral(" y "))));
+      ComprobarTeclas(pestanas.tabText(i), menus + TextosConTecla(marco_->marco));
+    }
+  }
+
+  void lasTeclasDeAccesoNoChocanEnNingunDialogo() {
+    for (QWidget *dialogo : {static_cast<QWidget *>(&*importar_), static_cast<QWidget *>(&*mapa_)}) {
+      dialogo->show();
+      const QStringList textos = TextosConTecla(*dialogo);
+      QVERIFY(textos.size() > 5);
+      ComprobarTeclas(dialogo->windowTitle(), textos);
+      dialogo->hide();
     }
   }
 
 private:
-  [[nodiscard]] QList<QWidget *> Ventanas() { return {&marco_->marco, &*acercade_, &*ayuda_, &*colores_}; }
+  [[nodiscard]] QList<QWidget *> Ventanas() {
+    return {&marco_->marco, &*acercade_, &*ayuda_, &*colores_, &*importar_, &*mapa_, &*auditar_};
+  }
 
   [[nodiscard]] QList<QWidget *> Controles() {
     QList<QWidget *> controles;
@@ -223,15 +240,26 @@ private:
              qPrintable(QStringLiteral("sin prueba: ") + olvidados.join(QStringLiteral(", "))));
   }
 
-  [[nodiscard]] QStringList TextosConTecla() const {
+  static void ComprobarTeclas(const QString &donde, const QStringList &textos) {
+    QMap<QString, QStringList> duenos;
+    for (const QString &texto : textos) {
+      if (const QString tecla = TeclaDeAcceso(texto); !tecla.isEmpty()) duenos[tecla] << texto;
+    }
+    for (const QStringList &iguales : duenos)
+      QVERIFY2(iguales.size() == 1,
+               qPrintable(donde + QStringLiteral(": ") + iguales.join(QStringLiteral(" y "))));
+  }
+
+  [[nodiscard]] static QStringList TextosConTecla(const QWidget &ventana) {
     QStringList textos;
-    for (const QAction *menu : marco_->marco.menuBar()->actions()) textos << menu->text();
-    for (const QWidget *control : marco_->marco.findChildren<QWidget *>()) {
+    for (const QWidget *control : ventana.findChildren<QWidget *>()) {
       if (!control->isVisible()) continue;
       if (const auto *boton = qobject_cast<const QAbstractButton *>(control)) textos << boton->text();
       if (const auto *caja = qobject_cast<const QGroupBox *>(control)) textos << caja->title();
-      if (const auto *rotulo = qobject_cast<const QLabel *>(control); rotulo && rotulo->buddy())
-        textos << rotulo->text();
+      const auto *rotulo = qobject_cast<const QLabel *>(control);
+      if (!rotulo || TeclaDeAcceso(rotulo->text()).isEmpty()) continue;
+      if (!rotulo->buddy()) qFatal("«%s» enseña su &: no es de ningún control", qPrintable(rotulo->text()));
+      textos << rotulo->text();
     }
     return textos;
   }
@@ -240,6 +268,9 @@ private:
   std::optional<TforAcercade> acercade_;
   std::optional<VentanaAyuda> ayuda_;
   std::optional<TforColores> colores_;
+  std::optional<DialogoImportar> importar_;
+  std::optional<DialogoMapa> mapa_;
+  std::optional<DialogoAuditar> auditar_;
   QString pruebas_;
 };
 

@@ -6,24 +6,24 @@
 #include "tests/vistas/Manejo.h"
 #include "vistas/Dialogoauditar.h"
 #include "vistas/Dialogoimportar.h"
-#include "vistas/Dialogomapa.h"
 #include "vistas/Dibujoreloj.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QDropEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTimer>
 #include <QUrl>
 
 #include <cmath>
+#include <functional>
 #include <optional>
 
 using namespace tesmo;
@@ -149,32 +149,38 @@ private slots:
              qPrintable(Pagina(dialogo, "meResumen")));
   }
 
-  void elMapaSeEscribeYSeVuelveAUsar() {
-    const QString texto = Escribir("delimitado.txt", LineasDelimitado());
-    const QString mapa = Ruta("uno.mapa");
-    marco_->datos.Directorio().Escribir("uno.mapa", MapaDePrueba());
-    DialogoMapa dialogo(texto, nullptr);
-    QVERIFY(dialogo.AbrirMapa(mapa));
-    const MapaColumnas leido = dialogo.Mapa();
-    QCOMPARE(leido.columnas.size(), LeerMapa(MapaDePrueba()).mapa->columnas.size());
-    QVERIFY(dialogo.GuardarMapa(Ruta("dos.mapa")));
-    DialogoMapa otro(texto, nullptr);
-    QVERIFY(otro.AbrirMapa(Ruta("dos.mapa")));
-    QCOMPARE(EscribirMapa(otro.Mapa()), EscribirMapa(leido));
-    otro.accept();
-    QCOMPARE(otro.result(), static_cast<int>(QDialog::Accepted));
-    const FicheroImportable fichero =
-        PrepararFichero(texto.toStdString(), {}, std::make_shared<MapaColumnas>(otro.Mapa()));
-    QVERIFY(fichero.legible);
-    QCOMPARE(fichero.materia.registros, 8760);
+  void zonaHuecosYHusoLleganAlFichero() {
+    DialogoImportar &dialogo = Abrir();
+    dialogo.Anadir({Escribir("prueba.epw", LineasEpw())});
+    QTRY_VERIFY_WITH_TIMEOUT(!dialogo.Trabajando(), ESPERA);
+    const FicheroImportable &fichero = dialogo.Ficheros()[0];
+    auto &zona = Control<QComboBox>(dialogo, "cbZona");
+    zona.setCurrentIndex(1);
+    QCOMPARE(fichero.peticion.zona, std::string(ZONA_COSTA));
+    zona.setCurrentIndex(0);
+    QCOMPARE(fichero.peticion.zona, std::string(ZONA_INTERIOR));
+    QTest::keyClick(&Control<QWidget>(dialogo, "cbRellenar"), Qt::Key_Space);
+    QVERIFY(fichero.huecosLargos == HuecosLargos::RellenarVecinos);
+    Control<QComboBox>(dialogo, "cbReloj").setCurrentIndex(3); // hora oficial, a mano
+    auto &huso = Control<QDoubleSpinBox>(dialogo, "csHuso");
+    QVERIFY(huso.isEnabled());
+    huso.setValue(2.5);
+    QCOMPARE(fichero.reloj.husoHoras, 2.5);
+    Control<QComboBox>(dialogo, "cbReloj").setCurrentIndex(2); // en hora solar no hay huso que valga
+    QVERIFY(!huso.isEnabled());
   }
 
-  void unMapaSinColumnasNoSeAcepta() {
-    DialogoMapa dialogo(Escribir("delimitado.txt", LineasDelimitado()), nullptr);
-    dialogo.accept();
-    QCOMPARE(dialogo.result(), static_cast<int>(QDialog::Rejected));
-    QVERIFY(!dialogo.findChild<QLabel *>(QStringLiteral("lbAviso"))->text().isEmpty());
-    QVERIFY(!dialogo.AbrirMapa(Ruta("nohay.mapa")));
+  void losBotonesPreguntanPorFicherosYPorElMapaYCierran() {
+    DialogoImportar &dialogo = Abrir();
+    dialogo.Anadir({Escribir("nada.txt", {"esto no es un año"})});
+    QTRY_VERIFY_WITH_TIMEOUT(!dialogo.Trabajando(), ESPERA);
+    QCOMPARE(AlRechazar([&] { Pulsar(dialogo, "btnAnadir"); }), QStringLiteral("QFileDialog"));
+    QCOMPARE(AlRechazar([&] { Pulsar(dialogo, "btnMapa"); }), QStringLiteral("forMapa"));
+    QCOMPARE(dialogo.Ficheros().size(), 1U);
+    QVERIFY(!dialogo.Ficheros()[0].legible);
+    QCOMPARE(Control<QTabWidget>(dialogo, "fichasImportar").count(), 2);
+    Pulsar(dialogo, "btnCerrar");
+    QVERIFY(!dialogo.isVisible());
   }
 
   void soltarFicherosSobreElMarcoAbreElDialogo() {
@@ -215,15 +221,7 @@ private slots:
   }
 
   void auditarPreguntaPorLosFicheros() {
-    bool preguntado = false;
-    QTimer::singleShot(0, &marco_->marco, [&preguntado] {
-      auto *dialogo = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-      if (dialogo == nullptr) return;
-      preguntado = true;
-      dialogo->reject();
-    });
-    marco_->Orden("mnuAuditar").trigger();
-    QVERIFY(preguntado);
+    QCOMPARE(AlRechazar([this] { marco_->Orden("mnuAuditar").trigger(); }), QStringLiteral("QFileDialog"));
     QVERIFY(marco_->marco.findChild<DialogoAuditar *>() == nullptr);
   }
 

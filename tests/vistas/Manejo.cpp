@@ -4,9 +4,11 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QDialog>
 #include <QMenu>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTimer>
 
 namespace tesmo::prueba {
 
@@ -79,6 +81,19 @@ QAction &MarcoPrueba::Orden(const char *nombre) const {
   auto *orden = marco.findChild<QAction *>(QString::fromLatin1(nombre));
   if (!orden) qFatal("falta la orden %s", nombre);
   return *orden;
+}
+
+QString AlRechazar(const std::function<void()> &accion) {
+  QString abierto;
+  QTimer::singleShot(0, qApp, [&abierto] {
+    auto *dialogo = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    if (!dialogo) return;
+    abierto = dialogo->objectName();
+    if (abierto.isEmpty()) abierto = QString::fromLatin1(dialogo->metaObject()->className());
+    dialogo->reject();
+  });
+  accion();
+  return abierto;
 }
 
 void ElegirEnMenu(QWidget &control, const QPoint &donde, const char *accion) {

@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QTest>
 
+#include <functional>
+
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -61,6 +63,10 @@ struct MarcoPrueba {
   MensajesApuntados mensajes;
   TforPrincipal marco;
 };
+
+/// Hace @p accion, que abre un diálogo y lo espera, y lo rechaza. Su objectName o, si no tiene, su clase;
+/// vacío si no se abrió ninguno.
+[[nodiscard]] QString AlRechazar(const std::function<void()> &accion);
 
 /// Abre el menú contextual de @p control en @p donde, elige la orden @p accion por su nombre y lo cierra.
 void ElegirEnMenu(QWidget &control, const QPoint &donde, const char *accion);
