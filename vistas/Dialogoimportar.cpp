@@ -55,7 +55,7 @@ void DialogoImportar::Anadir(const QStringList &rutas) {
     EnsenarFila(ficheros_.size() - 1);
   }
   if (!Elegido() && !ficheros_.empty()) tabla_->selectRow(0);
-  if (!Trabajando()) Empezar(Trabajo::Preparar);
+  if (!Trabajando() && Contar(Estado::SinLeer) > 0) Empezar(Trabajo::Preparar);
 }
 
 void DialogoImportar::AnadirParaReemplazar(const QString &ruta, const PeticionImportacion &peticion) {

@@ -51,7 +51,7 @@ private slots:
     Control<CasillaReal>(dialogo, "csHusoMapa").setValue(1.0);
     Control<CasillaReal>(dialogo, "csDesfaseMapa").setValue(-30.0);
     QCOMPARE(Control<QTableWidget>(dialogo, "tablaColumnas").rowCount(), 8);
-    Elegir(dialogo, "cbPapel", "Fecha", 1);
+    ElegirEnFila(dialogo, 1, PAPEL, "Fecha");
     ElegirConUnidad(dialogo, 2, Campo::TemperaturaSeca, "°C");
     ElegirConUnidad(dialogo, 3, Campo::HumedadRelativa, "%");
     ElegirConUnidad(dialogo, 4, Campo::Presion, "hPa");
@@ -72,10 +72,10 @@ private slots:
   void cambiarLaCabeceraConservaLoElegido() {
     DialogoMapa dialogo(Delimitado(), nullptr);
     Elegir(dialogo, "cbSeparador", "punto y coma");
-    Elegir(dialogo, "cbPapel", "Fecha", 1);
+    ElegirEnFila(dialogo, 1, PAPEL, "Fecha");
     Control<CasillaEntera>(dialogo, "csCabecera").setValue(0);
-    QCOMPARE(Control<QComboBox>(dialogo, "cbPapel1").currentText(), QStringLiteral("Fecha"));
-    auto &tabla = Control<QTableWidget>(dialogo, "tablaColumnas");
+    QCOMPARE(EnFila(dialogo, 1, PAPEL).currentText(), QStringLiteral("Fecha"));
+    const auto &tabla = Control<QTableWidget>(dialogo, "tablaColumnas");
     QCOMPARE(tabla.item(1, 2)->text(), QStringLiteral("Temp")); // sin cabecera, la primera línea es de datos
     QCOMPARE(dialogo.Mapa().lineasCabecera, 0);
   }
@@ -123,17 +123,27 @@ private:
     return *control;
   }
   static void Pulsar(QPushButton &boton) { QTest::mouseClick(&boton, Qt::LeftButton); }
-  /// En la lista @p nombre, o en la de su fila desde 1.
-  static void Elegir(const QWidget &dialogo, std::string nombre, const char *texto, int fila = 0) {
-    if (fila > 0) nombre += std::to_string(fila);
-    auto &lista = Control<QComboBox>(dialogo, nombre.c_str());
+  static void Elegir(QComboBox &lista, const char *texto) {
     const int sitio = lista.findText(QString::fromUtf8(texto));
-    if (sitio < 0) qFatal("%s no ofrece %s", nombre.c_str(), texto);
+    if (sitio < 0) qFatal("%s no ofrece %s", qPrintable(lista.objectName()), texto);
     lista.setCurrentIndex(sitio);
   }
+  static void Elegir(const QWidget &dialogo, const char *nombre, const char *texto) {
+    Elegir(Control<QComboBox>(dialogo, nombre), texto);
+  }
+  /// Columnas de la tabla con una lista en cada fila.
+  enum { PAPEL = 3, UNIDAD };
+  /// La lista de una fila, desde 1.
+  [[nodiscard]] static QComboBox &EnFila(const QWidget &dialogo, int fila, int columna) {
+    QWidget *lista = Control<QTableWidget>(dialogo, "tablaColumnas").cellWidget(fila - 1, columna);
+    return *qobject_cast<QComboBox *>(lista);
+  }
+  static void ElegirEnFila(const QWidget &dialogo, int fila, int columna, const char *texto) {
+    Elegir(EnFila(dialogo, fila, columna), texto);
+  }
   static void ElegirConUnidad(const QWidget &dialogo, int fila, Campo campo, const char *unidad) {
-    Elegir(dialogo, "cbPapel", std::string(ClaveDeCampo(campo)).c_str(), fila);
-    Elegir(dialogo, "cbUnidad", unidad, fila);
+    ElegirEnFila(dialogo, fila, PAPEL, std::string(ClaveDeCampo(campo)).c_str());
+    ElegirEnFila(dialogo, fila, UNIDAD, unidad);
   }
   void ComprobarQueSeLee(DialogoMapa &dialogo) const {
     dialogo.accept();

@@ -186,6 +186,9 @@ private slots:
   void soltarFicherosSobreElMarcoAbreElDialogo() {
     QMimeData datos;
     datos.setUrls({QUrl::fromLocalFile(Escribir("prueba.epw", LineasEpw()))});
+    QDragEnterEvent entra(QPoint(50, 50), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&marco_->marco, &entra);
+    QVERIFY(entra.isAccepted());
     QDropEvent suceso(QPointF(50.0, 50.0), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&marco_->marco, &suceso);
     auto *dialogo = marco_->marco.findChild<DialogoImportar *>();
