@@ -106,8 +106,8 @@ double LeerNumero(const std::string &texto, const std::string &que, double minim
 }
 
 float LeerLatitud(const std::string &texto) {
-  constexpr double POLO = 90.0;
-  return static_cast<float>(LeerNumero(texto, "LAT", -POLO, POLO));
+  constexpr double MAXIMA = 89.0; // la de PosicionSolar
+  return static_cast<float>(LeerNumero(texto, "LAT", -MAXIMA, MAXIMA));
 }
 
 int LeerEntero(const std::string &texto, const std::string &que, int minimo, int maximo) {

@@ -1,4 +1,5 @@
 #include "cli/Argumentos.h"
+#include "cli/Latitud.h"
 #include "cli/Opcionesseleccion.h"
 #include "cli/Ordenes.h"
 #include "cli/Perfildehorizonte.h"
@@ -163,7 +164,7 @@ void RegistrarEfecto(CLI::App &horizonte, Contexto &contexto) {
        "el horizonte tapa.",
        "horizonte efecto sierra.csv 36.84"},
       Efecto);
-  AnadirArgumento(orden, "LAT", datos->latitud, "Latitud [º], norte positivo")->required();
+  AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD)->required();
   AnadirJson(orden, datos->json);
 }
 

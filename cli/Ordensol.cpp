@@ -1,6 +1,7 @@
 #include "cli/Ordenes.h"
 
 #include "cli/Argumentos.h"
+#include "cli/Latitud.h"
 #include "cli/Opcionesseleccion.h"
 #include "cli/Tabla.h"
 #include "solar/Posicionsolar.h"
@@ -29,7 +30,6 @@ Momento LeerMomento(const Datos &datos) {
   m.latitud = LeerLatitud(*datos.latitud);
   m.mes = LeerEntero(*datos.mes, "MES", 1, 12);
   m.dia = LeerEntero(*datos.dia, "DIA", 1, 31);
-  ComprobarDia(m.mes, m.dia, "DIA");
   if (datos.hora) m.hora = static_cast<float>(LeerNumero(*datos.hora, "HORA", 0.0, HORAS_DEL_DIA));
   return m;
 }
@@ -64,9 +64,10 @@ void RegistrarUna(CLI::App &sol, Contexto &contexto, const std::string &nombre, 
                   Tabla (*calcular)(const Momento &), bool conHora) {
   const auto datos = std::make_shared<Datos>();
   CLI::App &orden = NuevaOrden(sol, nombre, ayuda);
-  AnadirArgumento(orden, "LAT", datos->latitud, "Latitud [º], norte positivo")->required();
+  AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD)->required();
   AnadirArgumento(orden, "MES", datos->mes, "1 a 12")->required();
-  AnadirArgumento(orden, "DIA", datos->dia, "Día del mes, sin 29 de febrero")->required();
+  AnadirArgumento(orden, "DIA", datos->dia, "1 a 31; uno que el mes no tiene cuenta en el siguiente")
+      ->required();
   if (conHora) AnadirArgumento(orden, "HORA", datos->hora, "Hora solar verdadera, 0 a 24")->required();
   AnadirRegistro(orden, datos->registro);
   AnadirJson(orden, datos->json);
@@ -80,10 +81,12 @@ void RegistrarUna(CLI::App &sol, Contexto &contexto, const std::string &nombre, 
 } // namespace
 
 void RegistrarSol(CLI::App &raiz, Contexto &contexto) {
-  CLI::App &sol = NuevaOrden(raiz, "sol",
-                             {"Geometría solar de un lugar y un momento",
-                              "Horas en tiempo solar verdadero: 12 es el mediodía. Año de 365 días.",
-                              "sol salida 36.84 6 21\nsol posicion -33.5 12 21 9.5"});
+  CLI::App &sol = NuevaOrden(
+      raiz, "sol",
+      {"Geometría solar de un lugar y un momento",
+       "Horas en tiempo solar verdadero: 12 es el mediodía. Año de 365 días: un día que el mes no tiene "
+       "cuenta en el siguiente, y el 29 de febrero es el 1 de marzo.",
+       "sol salida 36.84 6 21\nsol posicion -33.5 12 21 9.5"});
   sol.require_subcommand(1);
   RegistrarUna(
       sol, contexto, "salida",

@@ -1,4 +1,5 @@
 #include "cli/Argumentos.h"
+#include "cli/Latitud.h"
 #include "cli/Ordenes.h"
 #include "solar/Ficheroanual.h"
 
@@ -28,7 +29,7 @@ void RegistrarSolAnual(CLI::App &sol, Contexto &contexto) {
                                 "cenit [º] a la hora más media; "
                                 "de noche, 0, 0 y 90.",
                                 "sol anual 36.84 -o FPS.TXT"});
-  AnadirArgumento(orden, "LAT", datos->latitud, "Latitud [º], norte positivo")->required();
+  AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD)->required();
   AnadirValor(orden, "-o,--salida", datos->salida, "FICHERO", "Fichero que se escribe (obligatorio)")
       ->required();
   AlEjecutar(orden, contexto, datos, Ejecutar);

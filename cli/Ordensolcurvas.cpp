@@ -1,4 +1,5 @@
 #include "cli/Argumentos.h"
+#include "cli/Latitud.h"
 #include "cli/Opcionesseleccion.h"
 #include "cli/Ordenes.h"
 #include "cli/Secciones.h"
@@ -23,7 +24,6 @@ Celda Real(float valor) { return static_cast<double>(valor); }
 std::string CurvasDelDia(const Datos &datos) {
   const int mes = LeerEntero(*datos.mes, "MES", 1, MESES);
   const int dia = LeerEntero(*datos.dia, "DIA", 1, DIAS_MAXIMOS);
-  ComprobarDia(mes, dia, "DIA");
   const auto curvas = CurvasDeDia(LeerLatitud(*datos.latitud), mes, dia);
   Tabla curva(Tabla::Forma::SinCabecera, {"t", "acimut", "altura"});
   for (const PuntoSolar &p : curvas.curva) curva.Anadir({Real(p.t), Real(p.acimut), Real(p.altura)});
@@ -56,9 +56,10 @@ void RegistrarUna(CLI::App &sol, Contexto &contexto, const std::string &nombre, 
                   std::string (*calcular)(const Datos &), bool conMes) {
   const auto datos = std::make_shared<Datos>();
   CLI::App &orden = NuevaOrden(sol, nombre, ayuda);
-  AnadirArgumento(orden, "LAT", datos->latitud, "Latitud [º], norte positivo")->required();
+  AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD)->required();
   if (conMes) AnadirArgumento(orden, "MES", datos->mes, "1 a 12")->required();
-  AnadirArgumento(orden, "DIA", datos->dia, conMes ? "Día del mes, sin 29 de febrero" : "1 a 31")->required();
+  AnadirArgumento(orden, "DIA", datos->dia, "1 a 31; uno que el mes no tiene cuenta en el siguiente")
+      ->required();
   AnadirJson(orden, datos->json);
   AlEjecutar(orden, contexto, datos,
              [calcular](const Datos &pedido, Contexto &donde) { donde.salida << calcular(pedido); });

@@ -56,16 +56,15 @@ TEST_F(OrdenSol, LatitudNegativa) {
 
 TEST_F(OrdenSol, FechaOHoraQueNoValenEstado2) {
   for (const std::vector<std::string> &momento :
-       std::vector<std::vector<std::string>>{{"36", "2", "30", "10"},
-                                             {"36", "2", "29", "10"},
-                                             {"36", "13", "1", "10"},
+       std::vector<std::vector<std::string>>{{"36", "13", "1", "10"},
                                              {"36", "0", "1", "10"},
                                              {"36", "1", "32", "10"},
                                              {"36", "1", "1", "25"},
                                              {"36", "1", "1", "-1"},
                                              {"36", "1", "1", "x"},
                                              {"36", "1.5", "1", "10"},
-                                             {"91", "1", "1", "10"},
+                                             {"90", "1", "1", "10"},
+                                             {"-89.1", "1", "1", "10"},
                                              {"norte", "1", "1", "10"}}) {
     std::vector<std::string> argumentos{"sol", "posicion"};
     argumentos.insert(argumentos.end(), momento.begin(), momento.end());
@@ -73,6 +72,15 @@ TEST_F(OrdenSol, FechaOHoraQueNoValenEstado2) {
     EXPECT_EQ(e.estado, 2) << e.error;
     EXPECT_EQ(e.salida, "");
   }
+}
+
+TEST_F(OrdenSol, UnDiaQueElMesNoTieneCuentaEnElSiguiente) {
+  const std::string tresDeMarzo = Orden({"sol", "posicion", "36.84", "3", "3", "10"}).salida;
+  const Ejecucion e = Orden({"sol", "posicion", "36.84", "2", "31", "10"});
+  EXPECT_EQ(e.estado, 0) << e.error;
+  EXPECT_EQ(e.salida, tresDeMarzo);
+  EXPECT_EQ(Orden({"sol", "salida", "36.84", "2", "29"}).salida,
+            Orden({"sol", "salida", "36.84", "3", "1"}).salida);
 }
 
 TEST_F(OrdenSol, Json) {

@@ -17,7 +17,8 @@ TEST_F(OrdenSolCurvas, MomentoEsPosicion) {
   EXPECT_EQ(dia.estado, 0) << dia.error;
   EXPECT_EQ(dia.salida, Orden({"sol", "posicion", "36.84", "3", "21", "15"}).salida);
   EXPECT_EQ(Orden({"sol", "momento", "36.84", "3", "21", "2"}).salida, "0\t0\t90\t0\n");
-  EXPECT_EQ(Orden({"sol", "momento", "36.84", "2", "29", "2"}).estado, 2);
+  EXPECT_EQ(Orden({"sol", "momento", "36.84", "2", "29", "15"}).salida,
+            Orden({"sol", "posicion", "36.84", "3", "1", "15"}).salida);
 }
 
 TEST_F(OrdenSolCurvas, DiaEscribeLaCurvaYDespuesLasHoras) {
@@ -37,6 +38,12 @@ TEST_F(OrdenSolCurvas, DiaEscribeLaCurvaYDespuesLasHoras) {
   ASSERT_EQ(ultima.size(), 4U);
   EXPECT_EQ(ultima[0], "hora");
   EXPECT_EQ(ultima[1], "19");
+}
+
+TEST_F(OrdenSolCurvas, UnDiaQueElMesNoTieneCuentaEnElSiguiente) {
+  const Ejecucion e = Orden({"sol", "dia", "36.84", "2", "31"});
+  EXPECT_EQ(e.estado, 0) << e.error;
+  EXPECT_EQ(e.salida, Orden({"sol", "dia", "36.84", "3", "3"}).salida);
 }
 
 TEST_F(OrdenSolCurvas, EnElPoloElDiaEsVacioODeVeintiseisHoras) {
@@ -82,14 +89,14 @@ TEST_F(OrdenSolCurvas, Json) {
 
 TEST_F(OrdenSolCurvas, LoQueNoValeEstado2) {
   for (const std::vector<std::string> &argumentos :
-       std::vector<std::vector<std::string>>{{"sol", "dia", "36", "2", "30"},
+       std::vector<std::vector<std::string>>{{"sol", "dia", "36", "2", "32"},
                                              {"sol", "dia", "36", "13", "1"},
-                                             {"sol", "dia", "91", "1", "1"},
+                                             {"sol", "dia", "90", "1", "1"},
                                              {"sol", "dia", "36", "1"},
                                              {"sol", "meses", "36", "0"},
                                              {"sol", "meses", "36", "32"},
                                              {"sol", "meses", "x", "1"},
-                                             {"sol", "anual", "91", "-o", "x"},
+                                             {"sol", "anual", "90", "-o", "x"},
                                              {"sol", "anual", "36"}}) {
     const Ejecucion e = Orden(argumentos);
     EXPECT_EQ(e.estado, 2) << argumentos[1];
