@@ -1,4 +1,5 @@
 #include "core/Calendario.h"
+#include "core/Codificacion.h"
 #include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/formatos/Filas.h"
 #include "intercambio/formatos/Lectura.h"
@@ -31,11 +32,15 @@ std::string_view PrimerasLineas(std::string_view texto, int numero) {
   return texto.substr(0, static_cast<std::size_t>(ultima.data() + ultima.size() - texto.data()));
 }
 
-/// PVGIS no se nombra en sus EPW: se le conoce por el desfase que anota o por su fuente sin ciudad.
-bool EsEpwDePvgis(std::string_view texto) {
-  const std::string_view cabecera = PrimerasLineas(texto, LINEAS_DE_CABECERA_EPW);
-  return Contiene(cabecera, "irradiance time offset") || Contiene(cabecera, "pvgis") ||
-         Contiene(PrimerasLineas(texto, 1), "unknown,-,unknown,ecmwf/era");
+/// PVGIS no se nombra en sus EPW: se le conoce por el desfase que anota o por su fuente sin ciudad. Su
+/// nombre en una cabecera no dice nada: el fichero puede estar ya puesto en hora oficial.
+bool EsEpwDePvgis(std::string_view texto, std::string_view location) {
+  enum : std::size_t { CIUDAD = 1, FUENTE = 4, CAMPOS };
+  if (Contiene(PrimerasLineas(texto, LINEAS_DE_CABECERA_EPW), "irradiance time offset")) return true;
+  CamposLinea campos;
+  PartirLinea(location, ',', CAMPOS, campos);
+  return campos.size() == CAMPOS && PlegarMinusculas(campos[CIUDAD]) == "unknown" &&
+         EmpiezaPor(campos[FUENTE], "ecmwf/era");
 }
 
 /// ¿Tiene @p linea exactamente @p cuantos campos, y todos son números?
@@ -101,7 +106,7 @@ FormatoClima ReconocerFormato(std::string_view texto) {
   std::string_view segunda;
   (void)lineas.Siguiente(segunda);
   if (EmpiezaPor(Recortado(primera), "location"))
-    return EsEpwDePvgis(texto) ? FormatoClima::PvgisEpw : FormatoClima::Epw;
+    return EsEpwDePvgis(texto, primera) ? FormatoClima::PvgisEpw : FormatoClima::Epw;
   if (EmpiezaPor(primera, "latitude (decimal degrees)") || EmpiezaPor(primera, "time(utc)"))
     return FormatoClima::PvgisCsv;
   if (Contiene(segunda, "date (mm/dd/yyyy)") && Contiene(segunda, "time (hh:mm)")) return FormatoClima::Tmy3;

@@ -31,6 +31,17 @@ TEST(Reconocimiento, UnPvgisSinDesfaseSeConocePorSuFuente) {
   EXPECT_EQ(ReconocerFormato(Unir(lineas)), FormatoClima::PvgisEpw);
 }
 
+TEST(Reconocimiento, ElNombreDePvgisEnLaCabeceraNoHaceUnEpwDePvgis) {
+  LineasFichero lineas = LineasEpw();
+  lineas[0] = "LOCATION,PVGIS_TMY_Tabernas,-,-,Tesmo,-,37.18,-3.78,1,567";
+  lineas[5] = "COMMENTS 1,Escrito desde un fichero de PVGIS";
+  EXPECT_EQ(ReconocerFormato(Unir(lineas)), FormatoClima::Epw);
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.anio->reloj.tiempo, TiempoEtiqueta::OficialEstandar);
+  EXPECT_EQ(resultado.anio->reloj.desfaseMin, -30.0);
+}
+
 TEST(Reconocimiento, UnaSolaLineaDeQuinceBastaParaNoSerDeTrece) {
   LineasFichero lineas = LineasMetTrece();
   EXPECT_TRUE(EsMetDeTreceColumnas(Unir(lineas)));
