@@ -38,6 +38,7 @@ bool Igual(std::string_view a, std::string_view b) { return Llana(a) == Llana(b)
 class LectorMapa {
 public:
   void Leer(std::string_view texto) {
+    mapa_.husoDeLongitud = true;
     Lineas lineas(texto);
     for (std::string_view linea; lineas.Siguiente(linea);) {
       numero_ = lineas.Numero();
@@ -100,6 +101,7 @@ private:
     }
     if (Igual(clave, CLAVE_HUSO)) {
       mapa_.reloj.husoHoras = Numero(clave, valor, -HUSO_MAXIMO, HUSO_MAXIMO);
+      mapa_.husoDeLongitud = false;
     } else if (Igual(clave, CLAVE_DESFASE_MAPA)) {
       mapa_.reloj.desfaseMin = Numero(clave, valor, -DESFASE_MAXIMO_MIN, DESFASE_MAXIMO_MIN);
     } else if (Igual(clave, CLAVE_CABECERA)) {
@@ -197,7 +199,7 @@ std::string EscribirMapa(const MapaColumnas &mapa) {
   linea(CLAVE_CABECERA, std::to_string(mapa.lineasCabecera));
   linea(CLAVE_ORDEN, TextoDe(mapa.orden, ORDENES));
   linea(CLAVE_RELOJ, TextoDe(mapa.reloj.tiempo, RELOJES));
-  linea(CLAVE_HUSO, numero(mapa.reloj.husoHoras));
+  if (!mapa.husoDeLongitud) linea(CLAVE_HUSO, numero(mapa.reloj.husoHoras));
   linea(CLAVE_DESFASE_MAPA, numero(mapa.reloj.desfaseMin));
   for (const ColumnaMapa &columna : mapa.columnas)
     linea(ClaveDeCampo(columna.campo),

@@ -33,6 +33,7 @@ struct MapaColumnas {
   double sinDato = AUSENTE; ///< código de «sin dato», en la unidad del fichero; AUSENTE si no lo hay
   /// desfaseMin cuenta desde la etiqueta de 1 a 24: si el fichero las escribe de 0 a 23, desde la siguiente.
   RelojFichero reloj;
+  bool husoDeLongitud = false; ///< no se sabe el huso: reloj.husoHoras no vale y se toma el de la longitud
   OrdenFecha orden = OrdenFecha::AnioMesDia;
   std::string columnaFecha; ///< "AAAA-MM-DD", con la hora detrás si se quiere ("… hh:mm")
   std::string columnaAnio;

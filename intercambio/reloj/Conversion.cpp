@@ -16,7 +16,6 @@ namespace tesmo {
 namespace {
 
 constexpr double GRADO = std::numbers::pi / 180.0;
-constexpr double GRADOS_POR_HORA = 15.0;
 /// El desfase de un fichero que ya está en la hora de los motores [min].
 constexpr double DESFASE_DE_LOS_MOTORES = -30.0;
 
@@ -30,11 +29,6 @@ std::string FaltaDeSitio(const AnioCanonico &anio, const RelojFichero &reloj) {
     return "no se conoce la longitud del sitio, o no está entre −180 y 180";
   if (!std::isfinite(reloj.desfaseMin) || !std::isfinite(reloj.husoHoras)) return "el reloj no es un número";
   return {};
-}
-
-double HusoDe(const SitioClima &sitio, const RelojFichero &reloj) {
-  if (reloj.tiempo == TiempoEtiqueta::OficialEstandar || reloj.husoHoras != 0.0) return reloj.husoHoras;
-  return std::isfinite(sitio.longitud) ? std::round(sitio.longitud / GRADOS_POR_HORA) : 0.0;
 }
 
 void PonerCalculada(SerieCanonica &serie, const SerieHoras &valores) {
@@ -163,7 +157,7 @@ ResultadoConversion LlevarAHoraSolar(const AnioCanonico &anio, const RelojFicher
     resultado.anio = Mover(completo, escala, sol, cortes, radiacion);
   }
   resultado.anio->sitio = anio.sitio;
-  resultado.anio->husoHoras = HusoDe(anio.sitio, reloj);
+  resultado.anio->husoHoras = reloj.husoHoras;
   Informar(informe, {anio, completo, escala, *resultado.anio, radiacion});
   return resultado;
 }
