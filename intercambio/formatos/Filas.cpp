@@ -39,7 +39,10 @@ void PartirBlancos(std::string_view linea, std::size_t maximo, CamposLinea &camp
   }
 }
 
-bool EsCodigoAusente(double valor, double codigo) { return codigo > 0 ? valor >= codigo : valor <= codigo; }
+bool EsCodigoAusente(double valor, const ColumnaClima &columna) {
+  if (columna.exacto) return valor == columna.ausente;
+  return columna.ausente > 0 ? valor >= columna.ausente : valor <= columna.ausente;
+}
 
 bool EsImposible(Campo campo, double valor) { return campo == Campo::VelocidadViento && valor < 0; }
 
@@ -52,9 +55,6 @@ public:
   }
 
   void Leer(std::string_view linea, int numero, std::vector<FilaClima> &filas) {
-    ResultadoLectura &resultado = cuaderno_.Resultado();
-    ++resultado.registros;
-    if (filas.size() == FILAS_MAXIMAS) return;
     PartirLinea(linea, esquema_.separador, maximo_, campos_);
     FilaClima fila;
     fila.linea = numero;
@@ -63,6 +63,8 @@ public:
       AvisarDeFila(linea, numero);
       return;
     }
+    ++cuaderno_.Resultado().registros;
+    if (filas.size() == FILAS_MAXIMAS) return;
     for (const ColumnaClima &columna : esquema_.columnas) Poner(columna, fila);
     filas.push_back(fila);
   }
@@ -85,7 +87,7 @@ private:
     const std::string_view texto = campos_[columna.posicion];
     const std::optional<double> leido = Numero(texto);
     if (!leido) return AvisarDeTexto(columna, texto, fila.linea);
-    if (EsCodigoAusente(*leido, columna.ausente)) return Contar(columna.campo, fila.linea);
+    if (EsCodigoAusente(*leido, columna)) return Contar(columna.campo, fila.linea);
     const double valor = *leido * columna.factor + columna.sumando;
     if (EsImposible(columna.campo, valor)) return AvisarDeImposible(columna, texto, fila.linea);
     fila.valores[static_cast<std::size_t>(columna.campo)] = valor + 0.0; // el −0 de algunos ficheros es 0

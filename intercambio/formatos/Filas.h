@@ -31,6 +31,7 @@ struct ColumnaClima {
   /// Código de «sin dato» en la unidad del fichero: si es positivo, desde él hacia arriba; si es negativo,
   /// desde él hacia abajo; si no es un número, no lo hay.
   double ausente = std::numeric_limits<double>::quiet_NaN();
+  bool exacto = false; ///< sólo el propio código, y no lo que haya más allá de él
 };
 
 /// Los campos de una línea, partida por un separador; un campo entre comillas puede llevarlo dentro.

@@ -30,7 +30,7 @@ public:
   void Leer() {
     anio_.sitio.nombre = mapa_.nombre;
     PonerSitio(SiHay(mapa_.latitud), SiHay(mapa_.longitud), SiHay(mapa_.altitud), 0, anio_.sitio, cuaderno_);
-    anio_.reloj = mapa_.reloj;
+    PonerReloj();
     LeerRotulos();
     EsquemaFilas esquema{.separador = mapa_.separador, .comaDecimal = mapa_.comaDecimal};
     for (const ColumnaMapa &columna : mapa_.columnas) AnadirColumna(columna, esquema);
@@ -41,6 +41,14 @@ public:
   }
 
 private:
+  void PonerReloj() {
+    anio_.reloj = mapa_.reloj;
+    if (!mapa_.husoDeLongitud) return;
+    anio_.reloj.husoHoras = HusoDeLongitud(anio_.sitio.longitud);
+    cuaderno_.Aviso({.clase = ClaseNota::Cabecera,
+                     .texto = "el mapa no da el huso horario («huso»); se toma el de su longitud"});
+  }
+
   void LeerRotulos() {
     std::string_view linea;
     for (int i = 0; i < mapa_.lineasCabecera; ++i) (void)lineas_.Siguiente(linea);
@@ -70,7 +78,8 @@ private:
     const UnidadClima *unidad = columna.unidad.empty() ? &UnidadesDe(columna.campo).front()
                                                        : BuscarUnidad(columna.campo, columna.unidad);
     if (posicion == SIN_COLUMNA || unidad == nullptr) return;
-    esquema.columnas.push_back({posicion, columna.campo, unidad->factor, unidad->sumando, mapa_.sinDato});
+    esquema.columnas.push_back(
+        {posicion, columna.campo, unidad->factor, unidad->sumando, mapa_.sinDato, true});
   }
 
   void ElegirFecha(EsquemaFilas &esquema) {
@@ -96,7 +105,7 @@ private:
         fila.anio = entero(anio);
         fila.mes = entero(mes);
         fila.dia = entero(dia);
-        return LeerHoraTexto(campos[hora], fila);
+        return fila.mes >= 0 && fila.dia >= 0 && LeerHoraTexto(campos[hora], fila);
       };
     } else {
       NumerarPorOrden(esquema);
@@ -104,7 +113,15 @@ private:
   }
 
   void NumerarPorOrden(EsquemaFilas &esquema) const {
-    esquema.fecha = [posicion = 0](const CamposLinea &, FilaClima &fila) mutable {
+    // Tras el año entero, una nota al pie no es un registro que sobre.
+    const auto esNota = [](const CamposLinea &campos) {
+      const auto empiezaNumero = [](std::string_view c) {
+        return !c.empty() && std::string_view("0123456789+-.,").find(c.front()) != std::string_view::npos;
+      };
+      return std::none_of(campos.begin(), campos.end(), empiezaNumero);
+    };
+    esquema.fecha = [posicion = 0, esNota](const CamposLinea &campos, FilaClima &fila) mutable {
+      if (posicion >= HORAS_DEL_ANIO && esNota(campos)) return false;
       FechaDePosicion(posicion++ % HORAS_DEL_ANIO, fila.mes, fila.dia, fila.hora);
       return true;
     };

@@ -44,9 +44,11 @@ bool LeerFecha(const CamposLinea &campos, FilaClima &fila) {
   return true;
 }
 
-/// La leyenda que sigue a los datos: «T2m: 2-m air temperature…», y el titular de los derechos.
+/// La leyenda que sigue a los datos («T2m: 2-m air temperature…», el titular de los derechos): lo primero
+/// que no empieza por la cifra de una fecha.
 bool EsLeyenda(std::string_view linea) {
-  return linea.find(": ") != std::string_view::npos || linea.starts_with("PVGIS");
+  linea = Recortado(linea);
+  return !linea.empty() && (linea.front() < '0' || linea.front() > '9');
 }
 
 class LectorPvgis {

@@ -80,7 +80,7 @@ struct ResultadoLectura {
   std::vector<NotaLectura> errores;
   std::vector<NotaLectura> avisos;
   std::array<CuentaAusentes, NUMERO_CAMPOS> ausentes; ///< indizada por Campo
-  int registros = 0;                                  ///< líneas de datos leídas
+  int registros = 0;                                  ///< líneas de datos con su fecha
 
   [[nodiscard]] bool SinErrores() const { return errores.empty() && anio.has_value(); }
 };

@@ -116,6 +116,7 @@ private:
   }
 
   void AvisarDeFecha(const FilaClima &fila) {
+    --cuaderno_.Resultado().registros;
     cuaderno_.Aviso({.clase = ClaseNota::Registro,
                      .linea = fila.linea,
                      .texto = "línea " + std::to_string(fila.linea) + ": no hay mes " +

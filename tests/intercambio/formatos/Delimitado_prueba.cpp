@@ -53,6 +53,52 @@ TEST(Delimitado, SuCodigoDeSinDatoEsElDelMapa) {
   EXPECT_DOUBLE_EQ(Valor(*resultado.anio, Campo::TemperaturaSeca, 10), -9.0); // entre −9,1 y −8,9
 }
 
+TEST(Delimitado, LoQuePasaDelCodigoDeSinDatoEsUnDato) {
+  // Con «sin dato = 0» o «= -1» una desigualdad se llevaría el año entero.
+  for (const char *codigo : {"-1", "99"}) {
+    LineasFichero lineas = LineasDelimitado();
+    CambiarCampo(lineas[CABECERA_DELIMITADO + 10], 1, std::string(codigo) + ",0", ';');
+    CambiarCampo(lineas[CABECERA_DELIMITADO + 20], 1, "-8,0", ';');
+    const ResultadoLectura resultado =
+        Leer(lineas, Cambiar(MapaDePrueba(), "sin dato = -9999", std::string("sin dato = ") + codigo));
+    ASSERT_TRUE(resultado.SinErrores()) << codigo << Textos(resultado.errores);
+    EXPECT_GE(resultado.ausentes[static_cast<std::size_t>(Campo::TemperaturaSeca)].veces, 1) << codigo;
+    EXPECT_EQ(Valor(*resultado.anio, Campo::TemperaturaSeca, 20), -8.0) << codigo;
+    EXPECT_EQ(Valor(*resultado.anio, Campo::Presion, 36), 95600.0) << codigo;
+  }
+}
+
+TEST(Delimitado, SinHusoEnElMapaSeTomaElDeLaLongitud) {
+  std::string mapa = Cambiar(MapaDePrueba(), "huso = 1\n", "");
+  mapa = Cambiar(mapa, "longitud = -3.78", "longitud = -63.78");
+  const ResultadoLectura resultado = Leer(LineasDelimitado(), mapa);
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.anio->reloj.husoHoras, -4.0);
+  EXPECT_NE(Textos(resultado.avisos).find("huso"), std::string::npos);
+  // Un huso 0 escrito es tan huso como otro.
+  const ResultadoLectura cero = Leer(LineasDelimitado(), Cambiar(MapaDePrueba(), "huso = 1", "huso = 0"));
+  ASSERT_TRUE(cero.SinErrores());
+  EXPECT_EQ(cero.anio->reloj.husoHoras, 0.0);
+}
+
+TEST(Delimitado, LasNotasYLasLineasDeSeparadoresDelFinalNoSonRegistros) {
+  LineasFichero lineas = LineasDelimitado();
+  lineas.insert(lineas.end(), {";;;;;;;", "Nota;del;observador;;;;;", ";;;;;;;", "Total;365;;;;;;"});
+  const ResultadoLectura resultado = Leer(lineas, MapaDePrueba());
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.registros, HORAS_DEL_ANIO);
+  EXPECT_EQ(CuantasDe(resultado.avisos, ClaseNota::Registro), 4) << Textos(resultado.avisos);
+}
+
+TEST(Delimitado, SinFechasTampocoSobraUnaNotaAlPie) {
+  const std::string mapa = Cambiar(MapaDePrueba(), "fecha = 1\norden de la fecha = dia mes año\n", "");
+  LineasFichero lineas = LineasDelimitado();
+  lineas.insert(lineas.end(), {"", "Fin de los datos"});
+  EXPECT_TRUE(Leer(lineas, mapa).SinErrores());
+  lineas.push_back(lineas[1]);
+  EXPECT_EQ(CuantasDe(Leer(lineas, mapa).errores, ClaseNota::SobranRegistros), 1);
+}
+
 TEST(Delimitado, UnRotuloQueNoEstaEsUnError) {
   const ResultadoLectura resultado =
       Leer(LineasDelimitado(), Cambiar(MapaDePrueba(), "= Temp", "= Temperatura"));

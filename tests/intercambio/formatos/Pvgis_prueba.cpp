@@ -82,5 +82,14 @@ TEST(PvgisCsv, SinSitioNoHayAnio) {
   EXPECT_NE(NotaDe(resultado.errores, ClaseNota::Cabecera).texto.find("longitud"), std::string::npos);
 }
 
+TEST(PvgisCsv, LaLeyendaEmpiezaEnLaPrimeraLineaSinCifra) {
+  LineasFichero lineas = LineasPvgisCsv();
+  lineas.resize(CABECERA_PVGIS + HORAS_DEL_ANIO);
+  lineas.insert(lineas.end(), {"Legend", "T2m - temperature", "2005-2023, period", "(c) European Union"});
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.registros, HORAS_DEL_ANIO);
+}
+
 } // namespace
 } // namespace tesmo
