@@ -101,13 +101,18 @@ void Calificar(VeredictoReloj &veredicto, double residuo) {
                                                              : ConfianzaReloj::Baja;
 }
 
+bool ConcuerdaDesfase(MetodoReloj metodo, double diferencia) {
+  if (metodo == MetodoReloj::Simetria) return std::fabs(diferencia) < TOLERANCIA_SIMETRIA_MIN;
+  return std::fabs(diferencia) <= TOLERANCIA_RELOJ_MIN;
+}
+
 /// El reloj declarado si casa; si no, el hallado al minuto.
 void Proponer(VeredictoReloj &veredicto, const Medida &elegida, const Medida &otra) {
   const RelojFichero &declarado = veredicto.declarado.reloj;
   RelojFichero hallado = elegida.mejor.reloj;
   veredicto.desfaseHallado = hallado.desfaseMin;
   veredicto.concuerda = hallado.tiempo == declarado.tiempo &&
-                        std::fabs(hallado.desfaseMin - declarado.desfaseMin) <= TOLERANCIA_RELOJ_MIN;
+                        ConcuerdaDesfase(veredicto.metodo, hallado.desfaseMin - declarado.desfaseMin);
   hallado.desfaseMin = std::round(hallado.desfaseMin);
   veredicto.propuesto.reloj = veredicto.concuerda ? declarado : hallado;
   veredicto.propuesto.residuo = elegida.evidencia->Residuo(veredicto.propuesto.reloj.desfaseMin);

@@ -34,7 +34,8 @@ struct RelojMedido {
 struct VeredictoReloj {
   MetodoReloj metodo = MetodoReloj::Ninguno;
   RelojMedido declarado; ///< el del formato
-  /// El mejor con los datos: el declarado si casa (a TOLERANCIA_RELOJ_MIN o menos) o si nada se puede medir.
+  /// El mejor con los datos: el declarado si casa (a TOLERANCIA_RELOJ_MIN o menos; por simetría,
+  /// TOLERANCIA_SIMETRIA_MIN) o si nada se puede medir.
   RelojMedido propuesto;
   /// El segundo: otro tiempo de etiqueta, o el declarado si se propone otro.
   std::optional<RelojMedido> alternativa;
@@ -52,6 +53,8 @@ struct VeredictoReloj {
 
 /// Diferencia con lo declarado que se tiene por ninguna [min].
 inline constexpr double TOLERANCIA_RELOJ_MIN = 3.0;
+/// Lo mismo cuando sólo la simetría de los días claros juzga: con menos se dice, pero no se cambia [min].
+inline constexpr double TOLERANCIA_SIMETRIA_MIN = 20.0;
 
 /// Busca el desfase d, de −90 a 90 min, con que el sol casa con los datos de @p anio en el tiempo de etiqueta
 /// que declara y en el otro (solar frente a civil), que sólo se propone si casa bastante mejor. Si lo mejor

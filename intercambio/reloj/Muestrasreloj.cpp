@@ -82,6 +82,17 @@ double MediaDeBuenos(std::span<const MuestraReloj> muestras, double minutos, Pot
   return suma / static_cast<double>(desvios.size());
 }
 
+/// Falso si de la hora @p i se conoce alguna radiación solar y ninguna es positiva.
+bool PuedeHaberSol(const AnioCanonico &anio, std::size_t i) {
+  bool conocida = false;
+  for (const Campo campo : {Campo::GlobalHorizontal, Campo::DirectaHorizontal, Campo::DifusaHorizontal}) {
+    const double valor = anio[campo].valores[i];
+    if (valor > 0.0) return true;
+    conocida = conocida || !std::isnan(valor);
+  }
+  return !conocida;
+}
+
 } // namespace
 
 bool SitioBasta(const AnioCanonico &anio, TiempoEtiqueta tiempo) {
@@ -102,7 +113,9 @@ std::vector<MuestraReloj> MuestrasDeHaz(const AnioCanonico &anio, const RelojFic
 std::vector<MuestraReloj> MuestrasDeCenit(const AnioCanonico &anio, const RelojFichero &reloj) {
   const std::vector<double> &cenit = anio[Campo::CenitSolar].valores;
   return Muestras(anio, reloj, [&](std::size_t i) {
-    return cenit[i] >= 0.0 && cenit[i] < CENIT_MAXIMO ? std::cos(cenit[i] * GRADO) : AUSENTE;
+    // Hay quien escribe un cenit 0 de noche.
+    const bool vale = cenit[i] > 0.0 && cenit[i] < CENIT_MAXIMO && PuedeHaberSol(anio, i);
+    return vale ? std::cos(cenit[i] * GRADO) : AUSENTE;
   });
 }
 

@@ -58,6 +58,12 @@ std::string TextoDeLoMedido(const VeredictoReloj &veredicto) {
   const std::string medido = TextoMetodo(veredicto);
   const std::string confianza = " Confianza " + TextoConfianza(veredicto.confianza) + ".";
   const std::string residuo = TextoResiduo(veredicto, veredicto.propuesto.residuo);
+  const double diferencia = veredicto.desfaseHallado - veredicto.declarado.reloj.desfaseMin;
+  if (veredicto.concuerda && std::fabs(diferencia) > TOLERANCIA_RELOJ_MIN) {
+    return "Se toma el reloj que declara el fichero, " + declarado + "; " + medido + " da " +
+           Cifra(veredicto.desfaseHallado, "0") + " min, " + residuo + ", y por menos de " +
+           Cifra(TOLERANCIA_SIMETRIA_MIN, "0") + " min no basta para cambiarlo." + confianza;
+  }
   if (veredicto.concuerda) {
     return "El reloj que declara el fichero, " + declarado + ", casa con " + medido +
            ": el mejor desfase es " + Cifra(veredicto.desfaseHallado, "0.0") + " min, " + residuo + "." +

@@ -100,6 +100,40 @@ TEST(DetectorReloj, SinDirectaNormalUsaElCenitEscrito) {
   EXPECT_TRUE(veredicto.concuerda);
 }
 
+TEST(DetectorReloj, UnCenitCeroDeNocheNoDiceNada) {
+  AnioCanonico anio = Anio(SOLAR);
+  for (std::size_t i = 0; i < 8760; ++i) {
+    const double normal = anio[Campo::DirectaNormal].valores[i];
+    const double haz = anio[Campo::GlobalHorizontal].valores[i] - anio[Campo::DifusaHorizontal].valores[i];
+    const bool deDia = normal > 0.0 && haz > 0.0;
+    const double cenit = deDia ? std::acos(std::min(1.0, haz / normal)) * 180.0 / 3.14159265358979 : 0.0;
+    anio[Campo::CenitSolar].Poner(i, i % 2 == 0 || deDia ? cenit : 10.0, Procedencia::Copiada);
+  }
+  Quitar(anio, Campo::DirectaNormal);
+  const VeredictoReloj veredicto = DetectarReloj(anio);
+  EXPECT_EQ(veredicto.metodo, MetodoReloj::Cenit);
+  EXPECT_NEAR(veredicto.desfaseHallado, -30.0, 1.0) << veredicto.texto;
+  EXPECT_LT(veredicto.declarado.residuo, 0.02);
+  EXPECT_LT(veredicto.horas, 4500);
+}
+
+TEST(DetectorReloj, LaSimetriaSolaNoCorrigePorMenosDeVeinteMinutos) {
+  for (const double corrimiento : {-12.0, 12.0, 35.0}) {
+    AnioCanonico anio = Anio({TiempoEtiqueta::OficialEstandar, 1.0, -30.0 + corrimiento});
+    anio.reloj = PENINSULA;
+    Quitar(anio, Campo::DirectaNormal);
+    Quitar(anio, Campo::DifusaHorizontal);
+    const VeredictoReloj veredicto = DetectarReloj(anio);
+    ASSERT_EQ(veredicto.metodo, MetodoReloj::Simetria);
+    EXPECT_NEAR(veredicto.desfaseHallado, -30.0 + corrimiento, 3.0);
+    const bool basta = corrimiento > 20.0;
+    EXPECT_EQ(veredicto.propuesto.reloj.desfaseMin != -30.0, basta) << veredicto.texto;
+    EXPECT_EQ(veredicto.concuerda, !basta);
+    EXPECT_EQ(veredicto.texto.find("no basta para cambiarlo") != std::string::npos, !basta)
+        << veredicto.texto;
+  }
+}
+
 TEST(DetectorReloj, ConSoloLaGlobalUsaLosDiasClaros) {
   for (const double desfase : {-50.0, -30.0, 0.0}) {
     AnioCanonico anio = Anio({TiempoEtiqueta::OficialEstandar, 1.0, desfase});
