@@ -26,13 +26,16 @@ std::size_t Buscar(std::string_view texto, std::string_view clave) {
                                                   : static_cast<std::size_t>(hallado - texto.begin());
 }
 
+std::string Donde(int linea) { return linea == 0 ? "mapa" : "línea " + std::to_string(linea); }
+
 double Angulo(std::optional<double> valor, double maximo, const char *nombre, int linea, Cuaderno &cuaderno) {
   if (valor && std::fabs(*valor) <= maximo) return *valor;
   cuaderno.Error({.clase = ClaseNota::Cabecera,
                   .linea = linea,
-                  .texto = "línea " + std::to_string(linea) + ": la " + nombre +
+                  .texto = Donde(linea) + ": la " + nombre +
                            (valor ? " no cabe en un círculo" : " falta o no es un número") +
-                           "; escríbala en grados con punto decimal"});
+                           "; escríbala en grados con punto decimal" +
+                           (linea == 0 ? " («" + std::string(nombre) + " = 37.5»)" : "")});
   return AUSENTE;
 }
 
@@ -49,13 +52,21 @@ void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, s
   cuaderno.Aviso(
       {.clase = ClaseNota::Cabecera,
        .linea = linea,
-       .texto = "línea " + std::to_string(linea) +
+       .texto = Donde(linea) +
                 ": no da una altitud creíble; indíquela al importar, porque de ella sale la presión "
                 "de las horas que no la traen"});
 }
 
 double HusoDeLongitud(double longitud) {
   return std::isfinite(longitud) ? std::round(longitud / GRADOS_POR_HORA) + 0.0 : 0.0;
+}
+
+double HusoCreible(std::optional<double> huso, double longitud, int linea, Cuaderno &cuaderno) {
+  if (huso && std::fabs(*huso) <= HUSO_MAXIMO) return *huso;
+  cuaderno.Aviso({.clase = ClaseNota::Cabecera,
+                  .linea = linea,
+                  .texto = Donde(linea) + ": no da un huso horario creíble; se toma el de su longitud"});
+  return HusoDeLongitud(longitud);
 }
 
 std::optional<double> NumeroTras(std::string_view texto, std::string_view clave) {

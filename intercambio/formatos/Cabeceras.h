@@ -10,12 +10,18 @@ namespace tesmo {
 /// Piezas comunes de las cabeceras.
 
 /// Pone latitud y longitud, que han de estar, y altitud, que puede faltar (con aviso). Un valor ausente o que
-/// no cabe en su ángulo es un error de la @p linea.
+/// no cabe en su ángulo es un error de la @p linea; con 0, del mapa de columnas.
 void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, std::optional<double> altitud,
                 int linea, SitioClima &sitio, Cuaderno &cuaderno);
 
 /// Huso [h] que le toca a una longitud [°] cuando el fichero no lo dice; 0 si no se conoce.
 [[nodiscard]] double HusoDeLongitud(double longitud);
+
+/// El @p huso [h] que da la @p linea si es creíble; si falta o pasa de HUSO_MAXIMO, el de la longitud, con
+/// aviso.
+[[nodiscard]] double HusoCreible(std::optional<double> huso, double longitud, int linea, Cuaderno &cuaderno);
+/// Mayor adelanto o atraso [h] de una hora oficial sobre UTC.
+inline constexpr double HUSO_MAXIMO = 14.0;
 
 /// El número que sigue a @p clave en @p texto, sin distinguir mayúsculas ni contar los ':' y blancos de en
 /// medio; vacío si la clave no está o no la sigue un número.

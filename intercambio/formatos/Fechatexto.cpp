@@ -31,9 +31,10 @@ std::array<std::string_view, 3> Repartir(std::string_view ocho, OrdenFecha orden
 } // namespace
 
 bool LeerHoraTexto(std::string_view texto, FilaClima &fila) {
+  constexpr std::size_t CIFRAS_HMM = 3;
   constexpr std::size_t CIFRAS_HHMM = 4;
   std::string_view grupo = TomarGrupo(texto);
-  if (grupo.size() == CIFRAS_HHMM) grupo = grupo.substr(0, 2);
+  if (grupo.size() == CIFRAS_HMM || grupo.size() == CIFRAS_HHMM) grupo.remove_suffix(2);
   const std::optional<int> hora = LeerEntero(grupo);
   if (!hora) return false;
   fila.hora = *hora;

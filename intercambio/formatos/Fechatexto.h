@@ -12,7 +12,7 @@ namespace tesmo {
 /// "1300" o "13"). Falso si no hay una fecha entera.
 [[nodiscard]] bool LeerFechaTexto(std::string_view texto, OrdenFecha orden, FilaClima &fila);
 
-/// La hora de "13", "13:00" o "1300" en @p fila; falso si no la hay.
+/// La hora de "13", "13:00", "1300" o "930" en @p fila; falso si no la hay.
 [[nodiscard]] bool LeerHoraTexto(std::string_view texto, FilaClima &fila);
 
 } // namespace tesmo

@@ -55,15 +55,20 @@ private:
     if (mapa_.lineasCabecera > 0) PartirLinea(linea, mapa_.separador, COLUMNAS_MAXIMAS, rotulos_);
   }
 
+  [[nodiscard]] std::size_t PosicionDeRotulo(const std::string &rotulo) const {
+    const std::string buscado = PlegarMinusculas(rotulo);
+    for (std::size_t i = 0; i < rotulos_.size(); ++i) {
+      if (PlegarMinusculas(AUtf8(rotulos_[i])) == buscado) return i;
+    }
+    return SIN_COLUMNA;
+  }
+
   /// Posición, desde 0, de una columna nombrada por su número o por su rótulo.
   std::size_t Posicion(const std::string &columna, std::string_view para) {
     if (columna.empty()) return SIN_COLUMNA;
     const std::optional<int> numero = LeerEntero(columna);
     if (numero && *numero >= 1 && *numero <= COLUMNAS_MAXIMAS) return static_cast<std::size_t>(*numero - 1);
-    const std::string buscado = PlegarMinusculas(columna);
-    for (std::size_t i = 0; i < rotulos_.size(); ++i) {
-      if (PlegarMinusculas(AUtf8(rotulos_[i])) == buscado) return i;
-    }
+    if (const std::size_t i = PosicionDeRotulo(columna); i != SIN_COLUMNA) return i;
     cuaderno_.Error(
         {.clase = ClaseNota::Cabecera,
          .linea = mapa_.lineasCabecera,
@@ -74,7 +79,12 @@ private:
   }
 
   void AnadirColumna(const ColumnaMapa &columna, EsquemaFilas &esquema) {
-    const std::size_t posicion = Posicion(columna.columna, NombreCampo(columna.campo));
+    // "T [°C]" puede ser el rótulo entero.
+    const std::size_t entero = columna.unidad.empty() || PosicionDeRotulo(columna.columna) != SIN_COLUMNA
+                                   ? SIN_COLUMNA
+                                   : PosicionDeRotulo(columna.columna + " [" + columna.unidad + "]");
+    const std::size_t posicion =
+        entero != SIN_COLUMNA ? entero : Posicion(columna.columna, NombreCampo(columna.campo));
     const UnidadClima *unidad = columna.unidad.empty() ? &UnidadesDe(columna.campo).front()
                                                        : BuscarUnidad(columna.campo, columna.unidad);
     if (posicion == SIN_COLUMNA || unidad == nullptr) return;

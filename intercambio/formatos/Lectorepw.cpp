@@ -43,7 +43,6 @@ enum : std::size_t {
 constexpr int LINEAS_DE_CABECERA = 8;
 constexpr std::string_view CLAVE_DESFASE = "irradiance time offset (h)";
 constexpr double MINUTOS_POR_HORA = 60.0;
-constexpr double HUSO_MAXIMO = 14.0;
 
 /// Los minutos se pasan por alto: a un registro por hora no dicen nada, y cada programa escribe los suyos.
 bool LeerFecha(const CamposLinea &campos, FilaClima &fila) {
@@ -89,10 +88,7 @@ public:
       : lineas_(texto), anio_(anio), cuaderno_(cuaderno) {}
 
   void Leer() {
-    std::string_view linea;
-    while (lineas_.Siguiente(linea) && EsLineaVacia(linea)) {
-    }
-    LeerSitio(linea);
+    LeerSitio(SiguienteConTexto(lineas_));
     LeerCabecera();
     AnioClimatico();
   }
@@ -117,15 +113,8 @@ private:
   }
 
   void PonerHuso(std::optional<double> huso) {
-    anio_.reloj = {TiempoEtiqueta::OficialEstandar, HusoDeLongitud(anio_.sitio.longitud), -30.0};
-    if (huso && std::fabs(*huso) <= HUSO_MAXIMO) {
-      anio_.reloj.husoHoras = *huso;
-      return;
-    }
-    cuaderno_.Aviso({.clase = ClaseNota::Cabecera,
-                     .linea = lineas_.Numero(),
-                     .texto = "línea " + std::to_string(lineas_.Numero()) +
-                              ": no da el huso horario; se toma el de su longitud"});
+    anio_.reloj = {TiempoEtiqueta::OficialEstandar,
+                   HusoCreible(huso, anio_.sitio.longitud, lineas_.Numero(), cuaderno_), -30.0};
   }
 
   /// Se buscan los datos por su aspecto: ninguna línea de cabecera, salvo la primera, hace fallar.

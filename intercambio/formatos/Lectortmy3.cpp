@@ -53,7 +53,7 @@ bool LeerFecha(const CamposLinea &campos, FilaClima &fila) {
   return true;
 }
 
-void LeerSitio(std::string_view linea, AnioCanonico &anio, Cuaderno &cuaderno) {
+void LeerSitio(std::string_view linea, int numeroDeLinea, AnioCanonico &anio, Cuaderno &cuaderno) {
   CamposLinea campos;
   PartirLinea(linea, ',', CAMPOS_SITIO, campos);
   const auto texto = [&](std::size_t i) { return i < campos.size() ? AUtf8(campos[i]) : std::string(); };
@@ -62,24 +62,18 @@ void LeerSitio(std::string_view linea, AnioCanonico &anio, Cuaderno &cuaderno) {
   anio.sitio.nombre = texto(NOMBRE);
   anio.sitio.region = texto(ESTADO);
   anio.sitio.pais = "USA";
-  PonerSitio(numero(LATITUD), numero(LONGITUD), numero(ALTITUD), 1, anio.sitio, cuaderno);
-  const std::optional<double> huso = numero(HUSO);
-  if (!huso) {
-    cuaderno.Aviso({.clase = ClaseNota::Cabecera,
-                    .linea = 1,
-                    .texto = "línea 1: no da el huso horario; se toma el de su longitud"});
-  }
-  anio.reloj = {TiempoEtiqueta::OficialEstandar, huso.value_or(HusoDeLongitud(anio.sitio.longitud)), -30.0};
+  PonerSitio(numero(LATITUD), numero(LONGITUD), numero(ALTITUD), numeroDeLinea, anio.sitio, cuaderno);
+  anio.reloj = {TiempoEtiqueta::OficialEstandar,
+                HusoCreible(numero(HUSO), anio.sitio.longitud, numeroDeLinea, cuaderno), -30.0};
 }
 
 } // namespace
 
 void LeerTmy3(std::string_view texto, AnioCanonico &anio, Cuaderno &cuaderno) {
   Lineas lineas(texto);
-  std::string_view linea;
-  (void)lineas.Siguiente(linea);
-  LeerSitio(linea, anio, cuaderno);
-  (void)lineas.Siguiente(linea);
+  std::string_view linea = SiguienteConTexto(lineas);
+  LeerSitio(linea, lineas.Numero(), anio, cuaderno);
+  linea = SiguienteConTexto(lineas);
   EsquemaFilas esquema{.camposMinimos = 3, .fecha = LeerFecha};
   esquema.columnas = ColumnasPorRotulo(linea, esquema.separador, ROTULOS, lineas.Numero(), cuaderno);
   MontarAnio(LeerFilas(lineas, esquema, cuaderno), anio, cuaderno);

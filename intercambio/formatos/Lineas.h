@@ -26,4 +26,7 @@ private:
 /// ¿Sin nada que leer? Blancos, bytes nulos y la marca de fin de texto (0x1A) no son nada.
 [[nodiscard]] bool EsLineaVacia(std::string_view linea);
 
+/// La siguiente que no está vacía; vacía al acabarse.
+[[nodiscard]] std::string_view SiguienteConTexto(Lineas &lineas);
+
 } // namespace tesmo

@@ -17,7 +17,6 @@ namespace tesmo {
 
 namespace {
 
-constexpr double HUSO_MAXIMO = 14.0;
 constexpr int LINEAS_DE_CABECERA_MAXIMAS = 1000;
 
 /// Minúsculas y sin acentos agudos.
@@ -136,7 +135,8 @@ private:
            Elegir(clave, CLAVE_ORDEN, valor, ORDENES, mapa_.orden);
   }
 
-  /// "columna [unidad]", o la columna sola.
+  /// "columna [unidad]", o la columna sola. Un rótulo puede acabar también en corchetes: entonces lo de
+  /// dentro no es una unidad, o lo siguen otros corchetes con la suya o vacíos.
   bool AtenderCampo(std::string_view clave, std::string_view valor) {
     for (std::size_t c = 0; c < NUMERO_CAMPOS; ++c) {
       const auto campo = static_cast<Campo>(c);
@@ -144,8 +144,11 @@ private:
       ColumnaMapa columna{campo, std::string(valor), {}};
       const std::size_t corchete = valor.rfind('[');
       if (corchete != std::string_view::npos && valor.ends_with(']')) {
-        columna.columna = std::string(Recortado(valor.substr(0, corchete)));
-        columna.unidad = std::string(Recortado(valor.substr(corchete + 1, valor.size() - corchete - 2)));
+        const std::string_view delante = Recortado(valor.substr(0, corchete));
+        const std::string_view dentro = Recortado(valor.substr(corchete + 1, valor.size() - corchete - 2));
+        const bool esRotulo = !delante.empty() && !LeerEntero(delante) && !dentro.empty() &&
+                              BuscarUnidad(campo, dentro) == nullptr;
+        if (!esRotulo) columna = {campo, std::string(delante), std::string(dentro)};
       }
       if (columna.columna.empty()) Falta(std::string(clave) + ": falta el número o el rótulo de la columna");
       if (!columna.unidad.empty() && BuscarUnidad(campo, columna.unidad) == nullptr) FaltaUnidad(columna);
@@ -201,9 +204,10 @@ std::string EscribirMapa(const MapaColumnas &mapa) {
   linea(CLAVE_RELOJ, TextoDe(mapa.reloj.tiempo, RELOJES));
   if (!mapa.husoDeLongitud) linea(CLAVE_HUSO, numero(mapa.reloj.husoHoras));
   linea(CLAVE_DESFASE_MAPA, numero(mapa.reloj.desfaseMin));
-  for (const ColumnaMapa &columna : mapa.columnas)
-    linea(ClaveDeCampo(columna.campo),
-          columna.columna + (columna.unidad.empty() ? "" : " [" + columna.unidad + "]"));
+  for (const ColumnaMapa &columna : mapa.columnas) {
+    const bool conCorchetes = !columna.unidad.empty() || columna.columna.ends_with(']');
+    linea(ClaveDeCampo(columna.campo), columna.columna + (conCorchetes ? " [" + columna.unidad + "]" : ""));
+  }
   return texto;
 }
 

@@ -100,11 +100,8 @@ bool EsMetDeTreceColumnas(std::string_view texto) {
 
 FormatoClima ReconocerFormato(std::string_view texto) {
   Lineas lineas(texto);
-  std::string_view primera;
-  while (lineas.Siguiente(primera) && EsLineaVacia(primera)) {
-  }
-  std::string_view segunda;
-  (void)lineas.Siguiente(segunda);
+  const std::string_view primera = SiguienteConTexto(lineas);
+  const std::string_view segunda = SiguienteConTexto(lineas);
   if (EmpiezaPor(Recortado(primera), "location"))
     return EsEpwDePvgis(texto, primera) ? FormatoClima::PvgisEpw : FormatoClima::Epw;
   if (EmpiezaPor(primera, "latitude (decimal degrees)") || EmpiezaPor(primera, "time(utc)"))

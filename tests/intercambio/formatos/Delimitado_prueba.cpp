@@ -99,6 +99,22 @@ TEST(Delimitado, SinFechasTampocoSobraUnaNotaAlPie) {
   EXPECT_EQ(CuantasDe(Leer(lineas, mapa).errores, ClaseNota::SobranRegistros), 1);
 }
 
+TEST(Delimitado, LosRotulosPuedenAcabarEnCorchetes) {
+  LineasFichero lineas = LineasDelimitado();
+  lineas[0] = "fecha;T [°C];HR [pct];P;G;D;viento [km/h];rumbo [grados]";
+  std::string mapa = Cambiar(MapaDePrueba(), "= Temp [°C]", "= T [°C]");
+  mapa = Cambiar(mapa, "= HR [%]", "= HR [pct] [%]");
+  mapa = Cambiar(mapa, "= viento [km/h]", "= viento [km/h]");
+  mapa = Cambiar(mapa, "= rumbo", "= rumbo [grados]");
+  mapa = Cambiar(mapa, "= G [W/m2]", "= 5 [W/m2]");
+  const ResultadoLectura resultado = Leer(lineas, mapa);
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(Valor(*resultado.anio, Campo::TemperaturaSeca, 36), -6.4);
+  EXPECT_EQ(Valor(*resultado.anio, Campo::HumedadRelativa, 36), 66.0);
+  EXPECT_NEAR(Valor(*resultado.anio, Campo::VelocidadViento, 36), 36.0, 1e-12);
+  EXPECT_EQ(Valor(*resultado.anio, Campo::DireccionViento, 36), 252.0);
+}
+
 TEST(Delimitado, UnRotuloQueNoEstaEsUnError) {
   const ResultadoLectura resultado =
       Leer(LineasDelimitado(), Cambiar(MapaDePrueba(), "= Temp", "= Temperatura"));
@@ -132,7 +148,10 @@ TEST(Delimitado, SinPosicionNoHayAnio) {
   const ResultadoLectura resultado =
       Leer(LineasDelimitado(), Cambiar(MapaDePrueba(), "latitud = 37.18\n", ""));
   EXPECT_FALSE(resultado.anio);
-  EXPECT_EQ(CuantasDe(resultado.errores, ClaseNota::Cabecera), 1);
+  ASSERT_EQ(CuantasDe(resultado.errores, ClaseNota::Cabecera), 1);
+  EXPECT_EQ(
+      NotaDe(resultado.errores, ClaseNota::Cabecera).texto,
+      "mapa: la latitud falta o no es un número; escríbala en grados con punto decimal («latitud = 37.5»)");
 }
 
 TEST(Delimitado, SinRadiacionNoHayAnioYSeDiceCual) {
@@ -153,7 +172,8 @@ TEST(FechaTexto, EnLosTresOrdenesYSeguida) {
   const std::vector<CasoFecha> casos{
       {"2014-03-05 07:00", AnioMesDia, 2014, 3, 5, 7}, {"05/03/2014 07:00", DiaMesAnio, 2014, 3, 5, 7},
       {"3/5/2014 7", MesDiaAnio, 2014, 3, 5, 7},       {"20140305:0710", AnioMesDia, 2014, 3, 5, 7},
-      {"05032014 2300", DiaMesAnio, 2014, 3, 5, 23},   {"2014-03-05T24:00:00Z", AnioMesDia, 2014, 3, 5, 24}};
+      {"05032014 2300", DiaMesAnio, 2014, 3, 5, 23},   {"05/03/2014 930", DiaMesAnio, 2014, 3, 5, 9},
+      {"2014-03-05 100", AnioMesDia, 2014, 3, 5, 1},   {"2014-03-05T24:00:00Z", AnioMesDia, 2014, 3, 5, 24}};
   for (const CasoFecha &caso : casos) {
     FilaClima fila;
     ASSERT_TRUE(LeerFechaTexto(caso.texto, caso.orden, fila)) << caso.texto;

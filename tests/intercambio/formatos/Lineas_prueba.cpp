@@ -27,6 +27,12 @@ TEST(Lineas, AcabanEnLfCrlfOCr) {
   EXPECT_EQ(Partidas("a\rb\r\nc\nd"), (Textos{"a", "b", "c", "d"}));
 }
 
+TEST(Lineas, ElCrlfEscritoDosVecesEsUnSoloFin) {
+  EXPECT_EQ(Partidas("a\r\r\nb\r\r\n"), (Textos{"a", "b"}));
+  EXPECT_EQ(Partidas("\r\r\na"), (Textos{"", "a"}));
+  EXPECT_EQ(Partidas("a\r\rb"), (Textos{"a", "", "b"})); // con CR solo, la de en medio está vacía
+}
+
 TEST(Lineas, LasVaciasCuentanYLaMarcaDeOrdenDeBytesNo) {
   EXPECT_EQ(Partidas("\xEF\xBB\xBF"
                      "a\n\nb"),

@@ -79,6 +79,17 @@ TEST(Mapa, TodosLosCamposYSusUnidadesSeEscribenYSeLeen) {
   }
 }
 
+TEST(Mapa, UnRotuloEntreCorchetesVaYVuelve) {
+  MapaColumnas mapa;
+  mapa.columnas = {{Campo::TemperaturaSeca, "T [°C]", ""},
+                   {Campo::HumedadRelativa, "HR [pct]", "%"},
+                   {Campo::Presion, "P [mb]", ""},
+                   {Campo::VelocidadViento, "V", "km/h"}};
+  const ResultadoMapa resultado = LeerMapa(EscribirMapa(mapa));
+  ASSERT_TRUE(resultado.mapa) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.mapa->columnas, mapa.columnas);
+}
+
 TEST(Mapa, LosErroresDicenLaLineaYLoQueVale) {
   EXPECT_EQ(ErrorDe("temperatura seca = 1\nlatitud = norte\n"),
             "mapa, línea 2: latitud: «norte» no es un número entre -90 y 90");

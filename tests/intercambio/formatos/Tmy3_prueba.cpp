@@ -34,6 +34,23 @@ TEST(Tmy3, LosValoresElSitioYElReloj) {
   EXPECT_EQ(anio.anios[36], 2006);
 }
 
+TEST(Tmy3, LasLineasEnBlancoDelPrincipioSeSaltan) {
+  const ResultadoLectura resultado = LeerTextoClima("\n \n" + Unir(LineasTmy3()));
+  EXPECT_EQ(resultado.formato, FormatoClima::Tmy3);
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.anio->sitio.latitud, 37.18);
+  EXPECT_EQ(resultado.anio->lineas[0], 5);
+}
+
+TEST(Tmy3, UnHusoImposibleSeCambiaPorElDeLaLongitud) {
+  LineasFichero lineas = LineasTmy3();
+  lineas[0] = "723456,\"ALMENA, EAST\",GR,-60.0,37.180,-93.780,567";
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.anio->reloj.husoHoras, -6.0);
+  EXPECT_NE(Textos(resultado.avisos).find("línea 1: no da un huso"), std::string::npos);
+}
+
 TEST(Tmy3, LaPresionVieneEnMilibares) {
   const ResultadoLectura resultado = LeerTextoClima(Unir(LineasTmy3()));
   ASSERT_TRUE(resultado.SinErrores());
