@@ -48,6 +48,7 @@ public:
 
   void Tapar() {
     InterpolarCortos();
+    if (PonerCalmas()) InterpolarCortos();
     for (const Requisito &requisito : Requisitos()) AtenderRequisito(requisito);
     for (std::size_t c = 0; c < NUMERO_CAMPOS; ++c) AvisarDeAusentes(static_cast<Campo>(c));
   }
@@ -90,6 +91,35 @@ private:
       for (const TramoSinDato &tramo : tramos[c]) Interpolar(anio_, static_cast<Campo>(c), tramo);
       AvisarDeInterpolados(static_cast<Campo>(c), tramos[c]);
     }
+  }
+
+  /// En calma, la dirección que falta es la última conocida, como en una veleta parada.
+  bool PonerCalmas() {
+    SerieCanonica &direccion = anio_[Campo::DireccionViento];
+    const std::vector<double> &velocidad = anio_[Campo::VelocidadViento].valores;
+    if (!HayAlguno(anio_, Campo::DireccionViento)) return false;
+    std::size_t primera = 0;
+    while (std::isnan(direccion.valores[primera])) ++primera;
+    int horas = 0;
+    double ultima = direccion.valores[primera];
+    for (std::size_t k = 1; k < HORAS; ++k) {
+      const std::size_t hora = (primera + k) % HORAS;
+      if (!std::isnan(direccion.valores[hora])) ultima = direccion.valores[hora];
+      if (!std::isnan(direccion.valores[hora]) || velocidad[hora] != 0.0) continue;
+      direccion.Poner(hora, ultima, Procedencia::Calculada);
+      ++horas;
+    }
+    if (horas > 0) AvisarDeCalmas(horas);
+    return horas > 0;
+  }
+
+  void AvisarDeCalmas(int horas) {
+    cuaderno_.Aviso({.clase = ClaseNota::HuecoInterpolado,
+                     .campo = Campo::DireccionViento,
+                     .veces = horas,
+                     .texto = std::string(NombreCampo(Campo::DireccionViento)) + ": " +
+                              std::to_string(horas) +
+                              " horas sin dato y en calma; se deja la última dirección"});
   }
 
   void AvisarDeInterpolados(Campo campo, const std::vector<TramoSinDato> &tramos) {

@@ -29,6 +29,10 @@ const Requisito *RequisitoDe(Campo campo) {
 
 bool SeCumple(const Requisito &requisito, const AnioCanonico &anio, std::size_t hora) {
   const auto tiene = [&](Campo campo) { return !std::isnan(anio[campo].valores[hora]); };
+  // En calma el viento no viene de ningún sitio.
+  const bool calma = requisito.campos.front() == Campo::DireccionViento && tiene(Campo::VelocidadViento) &&
+                     anio[Campo::VelocidadViento].valores[hora] == 0.0;
+  if (calma) return true;
   auto cuantos = std::count_if(requisito.campos.begin(), requisito.campos.end(), tiene);
   // Las dos directas dicen lo mismo: juntas cuentan una vez.
   const bool lasDosDirectas =

@@ -68,6 +68,21 @@ TEST(Huecos, CuatroHorasSeRechazanConLaPrimeraYLaUltimaLinea) {
       << resultado.errores[0].texto;
 }
 
+TEST(Huecos, SinDireccionDondeNoHayViento) {
+  LineasFichero lineas = LineasEpw();
+  Quitar(lineas, DIRECCION, 50, 10);
+  CambiarCampo(lineas[CABECERA_EPW + 49], DIRECCION.campo, "77");
+  for (std::size_t i = 50; i < 60; ++i) CambiarCampo(lineas[CABECERA_EPW + i], VIENTO.campo, "0.0");
+  const ResultadoLectura resultado = Leer(lineas);
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(Valor(*resultado.anio, Campo::DireccionViento, 55), 77.0);
+  EXPECT_EQ(De(resultado, Campo::DireccionViento, 55), Procedencia::Calculada);
+  EXPECT_NE(Textos(resultado.avisos).find("10 horas sin dato y en calma"), std::string::npos);
+
+  for (std::size_t i = 52; i < 57; ++i) CambiarCampo(lineas[CABECERA_EPW + i], VIENTO.campo, "2.0");
+  EXPECT_EQ(CuantasDe(Leer(lineas).errores, ClaseNota::HuecoLargo), 1);
+}
+
 TEST(Huecos, CuatroHorasSeRellenanDeLosDiasVecinosSiSeAcepta) {
   LineasFichero lineas = LineasEpw();
   Quitar(lineas, TEMPERATURA, 50, 4);
