@@ -44,7 +44,43 @@ bool EsCodigoAusente(double valor, const ColumnaClima &columna) {
   return columna.ausente > 0 ? valor >= columna.ausente : valor <= columna.ausente;
 }
 
-bool EsImposible(Campo campo, double valor) { return campo == Campo::VelocidadViento && valor < 0; }
+/// Lo que un campo puede valer, con holgura sobre los récords de la Tierra (Organización Meteorológica
+/// Mundial, World Weather and Climate Extremes Archive). Fuera de ello suele haber un código de «sin dato» de
+/// otro formato (−99, −999, −9999).
+struct Limites {
+  double minimo;
+  double maximo;
+};
+
+Limites LimitesDe(Campo campo) {
+  constexpr double SIN_LIMITE = std::numeric_limits<double>::infinity();
+  constexpr Limites RADIACION{-50.0, 2000.0}; // de noche, los piranómetros dan algo negativo
+  switch (campo) {
+  case Campo::TemperaturaSeca:
+  case Campo::TemperaturaRocio:
+    return {-90.0, 70.0};
+  case Campo::Presion:
+    return {30e3, 115e3};
+  case Campo::GlobalHorizontal:
+  case Campo::DirectaNormal:
+  case Campo::DirectaHorizontal:
+  case Campo::DifusaHorizontal:
+    return RADIACION;
+  case Campo::DireccionViento:
+    return {0.0, 360.0};
+  case Campo::TemperaturaCielo:
+  case Campo::AcimutSolar:
+  case Campo::CenitSolar:
+    return {-SIN_LIMITE, SIN_LIMITE};
+  default:
+    return {0.0, SIN_LIMITE};
+  }
+}
+
+bool EsImposible(Campo campo, double valor) {
+  const Limites limites = LimitesDe(campo);
+  return valor < limites.minimo || valor > limites.maximo;
+}
 
 /// Lee los valores de cada línea según las columnas de un esquema.
 class LectorDeFilas {

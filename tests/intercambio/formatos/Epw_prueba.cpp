@@ -236,6 +236,38 @@ TEST(Epw, UnTextoDondeVaUnNumeroSeDiceConSuLinea) {
   EXPECT_NE(nota.texto.find("«húmedo»"), std::string::npos) << nota.texto;
 }
 
+TEST(Epw, LoQueNoPuedeSerEsSinDatoYSeAvisa) {
+  struct Caso {
+    std::size_t columna;
+    Campo campo;
+    std::vector<const char *> imposibles;
+    std::vector<const char *> posibles;
+  };
+  const std::vector<Caso> casos{
+      {6, Campo::TemperaturaSeca, {"-99", "-999", "-9999", "-90.1", "71"}, {"-89.2", "56.7"}},
+      {7, Campo::TemperaturaRocio, {"-99", "-999"}, {"-80"}},
+      {8, Campo::HumedadRelativa, {"-99", "-1"}, {"0", "101"}},
+      {9, Campo::Presion, {"-9999", "0", "1013", "200000"}, {"33700", "108000"}},
+      {12, Campo::InfrarrojaHorizontal, {"-99"}, {"0"}},
+      {13, Campo::GlobalHorizontal, {"-99", "-999", "-9999", "2001"}, {"-3", "1400"}},
+      {20, Campo::DireccionViento, {"-99"}, {"0", "360"}},
+      {21, Campo::VelocidadViento, {"-99"}, {"0"}}};
+  const LineasFichero buenas = LineasEpw();
+  for (const Caso &caso : casos) {
+    LineasFichero lineas = buenas;
+    std::size_t i = CABECERA_EPW + 100;
+    for (const char *texto : caso.imposibles) CambiarCampo(lineas[i += 10], caso.columna, texto);
+    for (const char *texto : caso.posibles) CambiarCampo(lineas[i += 10], caso.columna, texto);
+    const ResultadoLectura resultado = Leer(lineas);
+    ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+    EXPECT_EQ(CuantasDe(resultado.avisos, ClaseNota::ValorImposible),
+              static_cast<int>(caso.imposibles.size()))
+        << NombreCampo(caso.campo);
+    EXPECT_EQ(resultado.ausentes[static_cast<std::size_t>(caso.campo)].veces,
+              static_cast<int>(caso.imposibles.size()));
+  }
+}
+
 TEST(Epw, UnaLineaInmensaNoImpideLeerLasDemas) {
   LineasFichero lineas = LineasEpw();
   lineas[CABECERA_EPW + 50] = std::string(3'000'000, ',');
