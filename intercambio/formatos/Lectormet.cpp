@@ -1,4 +1,3 @@
-#include "core/Codificacion.h"
 #include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/formatos/Filas.h"
 #include "intercambio/formatos/Lectores.h"
@@ -42,8 +41,7 @@ bool LeerFecha(const CamposLinea &campos, FilaClima &fila) {
 /// Las dos primeras líneas. Devuelve cuántos números del sitio trae la segunda, cuatro como mucho.
 std::size_t LeerCabecera(Lineas &lineas, AnioCanonico &anio, Cuaderno &cuaderno) {
   std::string_view linea;
-  (void)lineas.Siguiente(linea);
-  anio.sitio.nombre = AUtf8(Recortado(linea));
+  (void)lineas.Siguiente(linea); // un comentario libre: el nombre del sitio es el del fichero
   linea = {};
   (void)lineas.Siguiente(linea);
   CamposLinea campos;
