@@ -76,7 +76,9 @@ bool RegistroAbierto() {
 
 void EscribirRegistro(std::string_view texto) {
   const std::lock_guard guarda(Cerrojo());
-  if (RegistroAbierto()) Destino()(texto);
+  // Una copia: el destino puede cerrar o cambiar el registro mientras escribe.
+  const std::function<void(std::string_view)> destino = Destino();
+  if (destino) destino(texto);
 }
 
 void ErrorNumerico(int codigo, std::string_view texto) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <memory>
 
 using namespace tesmo;
 using namespace tesmo::prueba;
@@ -82,6 +83,18 @@ TEST(Error, UnRegistroQueNoSePuedeAbrirQuedaCerradoYCallado) {
   AbrirRegistro(TextoDeRuta(directorio / "falta/registro.txt"));
   EXPECT_FALSE(RegistroAbierto());
   EscribirRegistro("nada");
+}
+
+TEST(Error, UnDestinoPuedeCerrarElRegistroMientrasEscribe) {
+  auto escrito = std::make_shared<std::string>();
+  AbrirRegistroEn([escrito](std::string_view texto) {
+    CerrarRegistro();
+    *escrito += texto;
+  });
+  EscribirRegistro("uno");
+  EscribirRegistro("dos");
+  EXPECT_EQ(*escrito, "uno");
+  EXPECT_FALSE(RegistroAbierto());
 }
 
 TEST(Error, ErrorNumericoEscribeElEncabezamientoDeSuCodigo) {
