@@ -25,7 +25,7 @@ std::string LineaDeLocalidad(const FichaLocalidad &ficha) {
   return ficha.nombre + ',' + ficha.corto + ',' + ficha.provincia + ',' + ficha.cuarto + ',' +
          ficha.referencia + ',' + ficha.fichero + ',' + NumeroDeFichero(ficha.latitud) + ',' +
          NumeroDeFichero(ficha.longitud) + ',' + NumeroDeFichero(ficha.meridiano) + ',' +
-         NumeroDeFichero(ficha.altitud) + ",0";
+         NumeroDeFichero(ficha.altitud) + ',' + ficha.undecimo;
 }
 
 std::string TextoRegistroGdr(const FichaGdr &ficha, std::string_view fin) {

@@ -16,10 +16,11 @@ struct FichaLocalidad {
   std::string cuarto; ///< cuarto campo, que nadie lee
   std::string referencia;
   std::string fichero;
-  double latitud = 0;   ///< [°, norte positivo]
-  double longitud = 0;  ///< [°, este positivo]
-  double meridiano = 0; ///< el de la hora oficial [°, este positivo]
-  double altitud = 0;   ///< [m]
+  double latitud = 0;         ///< [°, norte positivo]
+  double longitud = 0;        ///< [°, este positivo]
+  double meridiano = 0;       ///< el de la hora oficial [°, este positivo]
+  double altitud = 0;         ///< [m]
+  std::string undecimo = "0"; ///< último número, que nadie lee
 };
 
 /// La línea de @p ficha, sin su fin.

@@ -23,7 +23,14 @@ constexpr const char *LISTA = "LocalidadesCC";
 constexpr const char *REGISTROS = "GDR.TXT";
 constexpr const char *EXTENSION = ".met";
 constexpr double GRADOS_POR_HORA = 15.0;
-enum Campo : std::size_t { CAMPO_NOMBRE = 0, CAMPO_CORTO = 1, CAMPO_FICHERO = 5 };
+enum Campo : std::size_t {
+  CAMPO_NOMBRE = 0,
+  CAMPO_CORTO = 1,
+  CAMPO_CUARTO = 3,
+  CAMPO_REFERENCIA = 4,
+  CAMPO_FICHERO = 5,
+  CAMPO_UNDECIMO = 10
+};
 
 /// El nombre con que está en el disco el fichero @p nombre de @p directorio.
 std::string NombreEnDisco(const fs::path &directorio, const std::string &nombre) {
@@ -92,6 +99,7 @@ private:
     ficha_.altitud = std::isfinite(sitio.altitud) ? sitio.altitud : 0.0;
     ficha_.meridiano = anio_.husoHoras * GRADOS_POR_HORA;
     ficha_.referencia = ficha_.nombre;
+    ConservarLoAjeno();
     for (std::size_t i = 0; i < NUMERO_SERIES_LEIDAS; ++i) {
       const std::vector<double> &valores = anio_.series[i].valores;
       if (valores.size() == HORAS && std::ranges::all_of(valores, [](double v) { return std::isfinite(v); }))
@@ -100,6 +108,14 @@ private:
                     "la columna " + std::to_string(i + 4) + " del año no está entera");
     }
     return true;
+  }
+
+  /// De la localidad que se reemplaza queda lo que el año nuevo no sabe.
+  void ConservarLoAjeno() {
+    if (!anterior_) return;
+    ficha_.cuarto = (*anterior_)[CAMPO_CUARTO];
+    if (!(*anterior_)[CAMPO_REFERENCIA].empty()) ficha_.referencia = (*anterior_)[CAMPO_REFERENCIA];
+    if (!(*anterior_)[CAMPO_UNDECIMO].empty()) ficha_.undecimo = (*anterior_)[CAMPO_UNDECIMO];
   }
 
   /// Las localidades de la lista que no son la que se reemplaza.

@@ -8,7 +8,8 @@
 namespace tesmo {
 
 ListaGdr::ListaGdr(std::string contenido)
-    : contenido_(std::move(contenido)), sitios_(extremos::SituarRegistrosGdr(contenido_)) {}
+    : contenido_(std::move(contenido)), utf8_(EsUtf8(contenido_)),
+      sitios_(extremos::SituarRegistrosGdr(contenido_)) {}
 
 const extremos::SitioRegistroGdr *ListaGdr::Sitio(std::string_view corto) const {
   const auto sitio =
@@ -25,7 +26,7 @@ std::string ListaGdr::ZonaDe(std::string_view corto) const {
 }
 
 VistaDeGdr ListaGdr::Poner(const FichaGdr &ficha) {
-  const std::string texto = TextoRegistroGdr(ficha, FinDeLineaDe(contenido_));
+  const std::string texto = EnBytes(TextoRegistroGdr(ficha, FinDeLineaDe(contenido_)), utf8_);
   if (const extremos::SitioRegistroGdr *sitio = Sitio(ficha.corto)) {
     contenido_.replace(sitio->inicio, sitio->fin - sitio->inicio, texto);
   } else {

@@ -35,6 +35,7 @@ private:
   [[nodiscard]] VistaDeGdr Comprobar(const FichaGdr &ficha) const;
 
   std::string contenido_;
+  bool utf8_; ///< si no, Windows-1252
   std::vector<extremos::SitioRegistroGdr> sitios_;
 };
 

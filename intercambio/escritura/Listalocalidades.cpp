@@ -1,6 +1,5 @@
 #include "intercambio/escritura/Listalocalidades.h"
 
-#include "core/Codificacion.h"
 #include "intercambio/escritura/Lineastexto.h"
 #include "localidades/Lineaslocalidades.h"
 
@@ -32,12 +31,8 @@ std::optional<CamposLocalidad> ListaLocalidades::Buscar(std::string_view nombre)
   return bloques_[sitio->bloque].lineas[sitio->linea].campos;
 }
 
-std::string ListaLocalidades::EnBytes(std::string_view texto) const {
-  return utf8_ ? std::string(texto) : AWindows1252(texto);
-}
-
 std::string ListaLocalidades::ComoSeLeera(std::string_view texto) const {
-  return CampoDeLocalidades(EnBytes(texto), utf8_);
+  return CampoDeLocalidades(EnBytes(texto, utf8_), utf8_);
 }
 
 std::optional<ListaLocalidades::Sitio> ListaLocalidades::SitioDeNombre(std::string_view nombre) const {
@@ -96,7 +91,7 @@ void ListaLocalidades::Insertar(const std::string &linea, const std::string &pro
 }
 
 bool ListaLocalidades::Poner(const FichaLocalidad &ficha) {
-  const std::string linea = EnBytes(LineaDeLocalidad(ficha));
+  const std::string linea = EnBytes(LineaDeLocalidad(ficha), utf8_);
   if (linea.size() > BYTES_LINEA_LOCALIDADES) return false;
   const std::string nombre = ComoSeLeera(ficha.nombre);
   const std::string provincia = ComoSeLeera(ficha.provincia);

@@ -44,7 +44,6 @@ private:
   void CorregirUltimaCuenta();
   void Quitar(Sitio sitio);
   void Insertar(const std::string &linea, const std::string &provincia);
-  [[nodiscard]] std::string EnBytes(std::string_view texto) const;
 
   std::string contenido_;
   std::vector<BloqueDeLocalidades> bloques_;

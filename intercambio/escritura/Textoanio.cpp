@@ -46,10 +46,16 @@ std::string TextoDeAnio(const AnioSolar &anio, FormatoSalida formato) {
 
 double HusoDeSitio(double meridiano, double longitud) {
   constexpr double MEDIA_HORA = GRADOS_POR_HUSO / 2.0;
-  constexpr double LEJOS = 2.5 * GRADOS_POR_HUSO;
+  constexpr double CUARTO_DE_HORA = GRADOS_POR_HUSO / 4.0; // Nepal, Eucla, Chatham
+  constexpr double LEJOS = 3.5 * GRADOS_POR_HUSO;
+  constexpr double EL_SUYO = 0.01;
+  constexpr double VUELTA = 360.0;
   const double grados = std::isfinite(longitud) ? longitud : 0.0;
-  const bool deUnHuso = std::isfinite(meridiano) && std::remainder(meridiano, MEDIA_HORA) == 0.0;
-  if (deUnHuso && std::fabs(meridiano - grados) <= LEJOS) return meridiano / GRADOS_POR_HUSO;
+  const double distancia = std::fabs(std::remainder(meridiano - grados, VUELTA));
+  // Un meridiano de cuarto de hora que es el del propio sitio no es el de un huso: es casualidad.
+  const bool deUnHuso = std::remainder(meridiano, MEDIA_HORA) == 0.0 ||
+                        (std::remainder(meridiano, CUARTO_DE_HORA) == 0.0 && distancia > EL_SUYO);
+  if (deUnHuso && distancia <= LEJOS) return meridiano / GRADOS_POR_HUSO;
   return std::round(grados / GRADOS_POR_HUSO);
 }
 

@@ -23,8 +23,8 @@ inline constexpr double GRADOS_POR_HUSO = 15.0;
 [[nodiscard]] std::string TextoDeAnio(const AnioSolar &anio, FormatoSalida formato);
 
 /// Huso [h, este positivo] de la hora oficial de un sitio a @p longitud [°] cuyo fichero dice que su
-/// meridiano es @p meridiano [°]: ése, si es de un huso (múltiplo de media hora) y está a dos horas y media o
-/// menos; si no, el de su longitud.
+/// meridiano es @p meridiano [°]: ése, si es de un huso (múltiplo de un cuarto de hora) y está a tres horas y
+/// media o menos; si no, el de su longitud.
 [[nodiscard]] double HusoDeSitio(double meridiano, double longitud);
 
 } // namespace tesmo

@@ -104,10 +104,12 @@ TEST_F(Importacion, UnaQueYaEstaSoloSeReemplazaSiSePide) {
 
 TEST_F(Importacion, LaReemplazadaConservaSusNombresSiSonSuyos) {
   raiz_.Escribir("LocalidadesCC",
-                 "2\nRota,rt,Cádiz,c,r,OTRO.MET,1,2,3,4,0\nJerez,jz,Cádiz,c,r,j.met,1,2,3,4,0\n");
+                 "2\nRota,rt,Cádiz,c,r,OTRO.MET,1,2,3,4,7\nJerez,jz,Cádiz,c,r,j.met,1,2,3,4,0\n");
   ASSERT_EQ(Importar("Rota", "Cádiz", true).error, "");
   EXPECT_EQ(EnElDirectorio(), (std::vector<std::string>{"GDR.TXT", "LocalidadesCC", "OTRO.MET"}));
   EXPECT_TRUE(Leer("GDR.TXT").starts_with("rt "));
+  EXPECT_TRUE(Leer("LocalidadesCC").starts_with("2\nRota,rt,Cádiz,c,r,OTRO.MET,37.25,-3.5,15,680,7\n"))
+      << Leer("LocalidadesCC");
 }
 
 TEST_F(Importacion, LaReemplazadaNoPisaElFicheroQueComparte) {

@@ -62,6 +62,22 @@ TEST(ListaDeGdr, LosFinesDeLineaSonLosDelFichero) {
   EXPECT_TRUE(lista.Contenido().ends_with(Doce("15000", "\r\n") + Doce("60", "\r\n")));
 }
 
+TEST(ListaDeGdr, LaClaveVaEnLaCodificacionDelFichero) {
+  std::string viejo = Registro("Jaen");
+  viejo.replace(0, 4, "Ja\xE9n");
+  ListaGdr lista(viejo + Registro("Una"));
+  FichaGdr nueva = Ficha("Jaén");
+  nueva.altitud = 570;
+  EXPECT_EQ(lista.Poner(nueva), VistaDeGdr::Encontrado);
+  EXPECT_TRUE(lista.Contenido().starts_with("Ja\xE9n COSTA 36.5 -6.25 15 10 ALT=570"));
+  EXPECT_EQ(lista.Registros().size(), 2U);
+  EXPECT_EQ(lista.Poner(Ficha("Níjar")), VistaDeGdr::Encontrado);
+  EXPECT_NE(lista.Contenido().find("N\xEDjar"), std::string::npos);
+  ListaGdr utf8(Registro("Jaén"));
+  EXPECT_EQ(utf8.Poner(Ficha("Níjar")), VistaDeGdr::Encontrado);
+  EXPECT_EQ(utf8.Contenido(), Registro("Jaén") + Registro("Níjar"));
+}
+
 TEST(ListaDeGdr, ElRegistro177SeEncuentraYEl178No) {
   std::string contenido;
   for (int i = 0; i < 176; ++i) contenido += Registro("L" + std::to_string(i));

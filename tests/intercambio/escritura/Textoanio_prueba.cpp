@@ -27,6 +27,10 @@ TEST(SalidaDeUnAnio, ElHusoEsElDelMeridianoSiEsDeUnHusoYNoEstaLejos) {
   EXPECT_EQ(HusoDeSitio(-3.7, -3.7), 0.0); // su propio meridiano no es el de un huso
   EXPECT_EQ(HusoDeSitio(0.0, -100.0), -7.0);
   EXPECT_EQ(HusoDeSitio(AUSENTE, 139.7), 9.0);
+  EXPECT_EQ(HusoDeSitio(86.25, 85.3), 5.75);     // Nepal
+  EXPECT_EQ(HusoDeSitio(120.0, 75.99), 8.0);     // Kasgar, con la hora de Pekín
+  EXPECT_EQ(HusoDeSitio(191.25, -176.5), 12.75); // Chatham, al otro lado del cambio de fecha
+  EXPECT_EQ(HusoDeSitio(-3.75, -3.75), 0.0);
   EXPECT_EQ(HusoDeSitio(15.0, AUSENTE), 1.0);
 }
 
