@@ -1,17 +1,41 @@
 #include "cli/Opcionesreloj.h"
 
 #include "cli/Argumentos.h"
+#include "core/Ficheros.h"
+#include "intercambio/formatos/Cabeceras.h"
 
 #include <array>
 #include <utility>
 
 namespace tesmo::cli {
 
+void AnadirMapa(CLI::App &orden, std::optional<std::string> &mapa) {
+  AnadirValor(orden, "--mapa", mapa, "MAPA",
+              "Mapa de columnas con que se leen los ficheros (docs/formatos.md)");
+}
+
+std::shared_ptr<const MapaColumnas> InterpretarMapa(const std::optional<std::string> &mapa) {
+  if (!mapa) return nullptr;
+  const std::optional<std::string> texto =
+      mapa->empty() ? std::nullopt
+                    : LeerFicheroEntero(BuscarSinMayusculas(RutaDesdeTexto(RutaAbsoluta(*mapa))));
+  if (!texto) throw Fallo(Estado::FaltaEntrada, "--mapa: no se puede abrir: " + *mapa);
+  ResultadoMapa leido = LeerMapa(*texto);
+  if (leido.mapa) return std::make_shared<const MapaColumnas>(std::move(*leido.mapa));
+  std::string errores = "--mapa: " + *mapa;
+  for (const NotaLectura &nota : leido.errores) errores += "\n  " + nota.texto;
+  throw Fallo(Estado::FaltaEntrada, errores);
+}
+
 void AnadirReloj(CLI::App &orden, OpcionesReloj &opciones) {
   AnadirValor(orden, "--reloj", opciones.reloj, "CUAL",
               "Tiempo de las etiquetas: auto, solar, oficial o utc (auto: el que dicen los datos)");
   AnadirValor(orden, "--desfase", opciones.desfase, "MIN",
-              "Del centro de la hora a su etiqueta, -90 a 90 (-30: la etiqueta es el final)");
+              "De la etiqueta al centro de su hora, -90 a 90 (-30: la etiqueta es el final)");
+  AnadirValor(
+      orden, "--huso", opciones.huso, "H",
+      "Huso de la hora oficial de invierno, -14 a 14 (si no se da, el del fichero o el de la longitud)");
+  AnadirMapa(orden, opciones.mapa);
   orden.add_flag("--rellenar", opciones.rellenar,
                  "Llena los huecos de más de tres horas con los días vecinos");
 }
@@ -26,6 +50,7 @@ EleccionReloj InterpretarReloj(const OpcionesReloj &opciones) {
   EleccionReloj eleccion;
   if (opciones.desfase)
     eleccion.desfaseMin = LeerNumero(*opciones.desfase, "--desfase", -MAXIMO_MIN, MAXIMO_MIN);
+  if (opciones.huso) eleccion.husoHoras = LeerNumero(*opciones.huso, "--huso", -HUSO_MAXIMO, HUSO_MAXIMO);
   const std::string nombre = opciones.reloj.value_or("auto");
   for (const auto &[texto, tiempo] : RELOJES) {
     if (nombre != texto) continue;
@@ -37,6 +62,7 @@ EleccionReloj InterpretarReloj(const OpcionesReloj &opciones) {
 
 OpcionesLectura InterpretarLectura(const OpcionesReloj &opciones) {
   OpcionesLectura lectura;
+  lectura.mapa = InterpretarMapa(opciones.mapa);
   if (opciones.rellenar) lectura.huecosLargos = HuecosLargos::RellenarVecinos;
   return lectura;
 }

@@ -1,6 +1,7 @@
 #include "cli/Ordenes.h"
 
 #include "cli/Argumentos.h"
+#include "cli/Opcionesreloj.h"
 #include "cli/Opcionesseleccion.h"
 #include "intercambio/auditoria/Textoauditoria.h"
 #include "intercambio/sintesis/Normalesprograma.h"
@@ -18,6 +19,7 @@ using Json = nlohmann::ordered_json;
 
 struct Datos {
   std::vector<std::string> ficheros;
+  std::optional<std::string> mapa;
   bool json = false;
 };
 
@@ -75,10 +77,8 @@ Json AuditadoJson(const Auditado &auditado) {
 }
 
 /// Audita @p fichero; si no se puede ni abrir o no es de ningún formato, lo dice y devuelve nada.
-std::optional<Auditado> AuditarFichero(const std::string &fichero,
+std::optional<Auditado> AuditarFichero(const std::string &fichero, const OpcionesLectura &opciones,
                                        const std::vector<NormalesLocalidad> &normales, Contexto &contexto) {
-  OpcionesLectura opciones;
-  opciones.paraAuditar = true;
   const ResultadoLectura lectura = LeerFicheroClima(RutaAbsoluta(fichero), opciones);
   if (!lectura.anio && !lectura.errores.empty() && lectura.errores.front().clase == ClaseNota::Fichero) {
     contexto.error << "Error: " << fichero << ": " << lectura.errores.front().texto << '\n';
@@ -93,10 +93,11 @@ std::optional<Auditado> AuditarFichero(const std::string &fichero,
 
 void Ejecutar(const Datos &datos, Contexto &contexto) {
   const std::vector<NormalesLocalidad> normales = NormalesDelPrograma();
+  const OpcionesLectura opciones{.paraAuditar = true, .mapa = InterpretarMapa(datos.mapa)};
   Json lista = Json::array();
   bool falta = false, primera = true;
   for (const std::string &fichero : datos.ficheros) {
-    const std::optional<Auditado> auditado = AuditarFichero(fichero, normales, contexto);
+    const std::optional<Auditado> auditado = AuditarFichero(fichero, opciones, normales, contexto);
     falta = falta || !auditado;
     if (!auditado) continue;
     if (datos.json) {
@@ -123,6 +124,7 @@ void RegistrarAuditar(CLI::App &raiz, Contexto &contexto) {
        "por fichero; las líneas,\nparejas de la primera y la última de cada tramo.",
        "auditar Almeria.epw\nauditar *.epw --json"});
   AnadirArgumentos(orden, "FICHERO", datos->ficheros, "Ficheros que se auditan")->required();
+  AnadirMapa(orden, datos->mapa);
   AnadirJson(orden, datos->json);
   orden.callback(
       [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });

@@ -49,8 +49,7 @@ AnioSolar Leer(const Datos &datos, const EleccionReloj &eleccion, const Opciones
   AnioSolar anio = std::move(*leido.conversion.anio);
   anio.sitio.nombre = datos.localidad ? sitio.nombre : NombreDeLocalidad(ruta, anio.sitio);
   if (datos.localidad) anio.sitio.region = sitio.region;
-  anio.husoHoras =
-      HusoDeSitio(datos.localidad ? meridiano : anio.husoHoras * GRADOS_POR_HUSO, anio.sitio.longitud);
+  if (datos.localidad && !eleccion.husoHoras) anio.husoHoras = HusoDeSitio(meridiano, anio.sitio.longitud);
   for (const std::string &linea : TextoInforme(leido.conversion.informe)) contexto.salida << linea << '\n';
   return anio;
 }

@@ -129,8 +129,8 @@ void Ejecutar(const Datos &datos, Contexto &contexto) {
   for (const std::string &dado : datos.ficheros) {
     if (dado.empty()) throw Fallo(Estado::FaltaEntrada, "FICHERO: la ruta está vacía");
     const std::vector<std::string> desplegados = Desplegar(RutaAbsoluta(dado));
-    opciones.saltarDesconocidos = opciones.saltarDesconocidos || desplegados.front() != RutaAbsoluta(dado);
     rutas.insert(rutas.end(), desplegados.begin(), desplegados.end());
+    opciones.saltarDesconocidos.resize(rutas.size(), desplegados.front() != RutaAbsoluta(dado));
   }
   if (datos.localidad && rutas.size() > 1)
     throw Fallo(Estado::UsoIncorrecto,

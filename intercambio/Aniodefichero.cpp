@@ -1,5 +1,7 @@
 #include "intercambio/Aniodefichero.h"
 
+#include "intercambio/escritura/Textoanio.h"
+
 #include <utility>
 
 namespace tesmo {
@@ -26,13 +28,27 @@ AnioDeFichero LeerAnioDeFichero(const std::string &ruta, const EleccionReloj &el
     if (leido.errores.empty()) leido.errores.emplace_back("no tiene ningún registro");
     return leido;
   }
-  const AnioCanonico anio = std::move(*leido.lectura.anio);
+  AnioCanonico anio = std::move(*leido.lectura.anio);
   leido.lectura.anio.reset();
+  if (eleccion.husoHoras) {
+    anio.reloj.husoHoras = *eleccion.husoHoras;
+  } else if (anio.formato == FormatoClima::PvgisCsv) {
+    leido.lectura.avisos.push_back(
+        {.clase = ClaseNota::Cabecera,
+         .texto =
+             "el fichero no dice el huso de la hora oficial del sitio; se toma el de su longitud, y si no "
+             "es ése hay que decirlo"});
+  }
   leido.sitio = anio.sitio;
   leido.veredicto = DetectarReloj(anio);
   leido.reloj = ElegirReloj(leido.veredicto, eleccion);
   leido.conversion = LlevarAHoraSolar(anio, leido.reloj);
-  if (!leido.conversion.anio) leido.errores.push_back(leido.conversion.error);
+  if (!leido.conversion.anio) {
+    leido.errores.push_back(leido.conversion.error);
+    return leido;
+  }
+  double &huso = leido.conversion.anio->husoHoras;
+  huso = eleccion.husoHoras.value_or(HusoDeSitio(huso * GRADOS_POR_HUSO, anio.sitio.longitud));
   return leido;
 }
 

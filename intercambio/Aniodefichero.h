@@ -12,8 +12,11 @@ namespace tesmo {
 
 /// Con qué reloj se pasa un fichero a hora solar; lo que no se diga sale del propio fichero.
 struct EleccionReloj {
-  std::optional<TiempoEtiqueta> tiempo; ///< vacío: el que dicen los datos
-  std::optional<double> desfaseMin;     ///< del centro de la hora a su etiqueta [min, −90 a 90]
+  std::optional<TiempoEtiqueta> tiempo = std::nullopt; ///< vacío: el que dicen los datos
+  std::optional<double> desfaseMin = std::nullopt; ///< de la etiqueta al centro de su hora [min, −90 a 90]
+  /// De la hora oficial de invierno del sitio [h, este positivo]; vacío: el del fichero si es creíble
+  /// (HusoDeSitio).
+  std::optional<double> husoHoras = std::nullopt;
 };
 
 /// Un fichero llevado hasta el año de los motores, con lo que se supo por el camino.

@@ -127,7 +127,8 @@ void ImportarLote(const std::string &directorio, const std::vector<std::string> 
     FicheroDeLote fichero;
     fichero.ruta = rutas[i];
     fichero.anio = lecturas.Recoger();
-    fichero.saltado = opciones.saltarDesconocidos && EsDeOtraCosa(fichero.anio);
+    const bool saltable = i < opciones.saltarDesconocidos.size() && opciones.saltarDesconocidos[i];
+    fichero.saltado = saltable && EsDeOtraCosa(fichero.anio);
     if (fichero.anio.errores.empty()) Importar(directorio, opciones, hechos, fichero);
     if (alImportar) alImportar(i, fichero);
   }

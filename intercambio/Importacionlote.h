@@ -15,8 +15,10 @@ struct OpcionesLote {
   PeticionImportacion peticion; ///< la de todos; sin nombre, el de cada uno (NombreDeLocalidad)
   EleccionReloj reloj;
   OpcionesLectura lectura;
-  unsigned hilos = 0;              ///< 0: uno por núcleo
-  bool saltarDesconocidos = false; ///< los de formato desconocido no son errores: se saltan
+  unsigned hilos = 0; ///< 0: uno por núcleo
+  /// Por la posición de cada fichero: si es de formato desconocido, no es un error y se salta. Los que no
+  /// están, no se saltan.
+  std::vector<bool> saltarDesconocidos = {};
 };
 
 /// Lo que pasó con un fichero de un lote.

@@ -67,9 +67,6 @@ public:
     ProponerReloj();
     EsquemaFilas esquema{.camposMinimos = 2, .fecha = LeerFecha, .fin = EsLeyenda};
     esquema.columnas = ColumnasPorRotulo(linea, esquema.separador, ROTULOS, lineas_.Numero(), cuaderno_);
-    cuaderno_.Aviso({.clase = ClaseNota::Cabecera,
-                     .texto = "el fichero no dice el huso de la hora oficial del sitio; se toma el de su "
-                              "longitud, y si no es ése indíquelo al importar"});
     MontarAnio(LeerFilas(lineas_, esquema, cuaderno_), anio_, cuaderno_);
   }
 

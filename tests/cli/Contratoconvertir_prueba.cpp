@@ -29,6 +29,25 @@ TEST_F(OrdenConvertir, UnaLocalidadDeLaBaseEnSuHoraOficial) {
   EXPECT_EQ(ConBase({"convertir", "--localidad", "Nadie", "-o", "x.epw"}).estado, 3);
 }
 
+TEST_F(OrdenConvertir, UnTextoConSuMapaYElHusoQueSeDiga) {
+  const std::string csv = raiz_.Escribir("x.csv", Unir(LineasDelimitado()));
+  const std::string mapa = raiz_.Escribir("x.mapa", MapaDePrueba());
+  const std::string salida = (raiz_ / "y.epw").string();
+  EXPECT_EQ(Orden({"convertir", csv, "-o", salida}).estado, 3);
+  const Ejecucion e = Orden({"convertir", csv, "--mapa", mapa, "--huso", "0", "-o", salida});
+  ASSERT_EQ(e.estado, 0) << e.error;
+  EXPECT_TRUE(Contenido(salida).starts_with("LOCATION,Almena,-,-,Tesmo,-,37.18,-3.78,0,567\n"))
+      << Contenido(salida).substr(0, 80);
+  const Ejecucion sin = Orden({"convertir", csv, "--mapa", (raiz_ / "nohay").string(), "-o", salida});
+  EXPECT_EQ(sin.estado, 3);
+  const std::string malo = raiz_.Escribir("malo.mapa", "sabor = 3\n");
+  const Ejecucion mal = Orden({"convertir", csv, "--mapa", malo, "-o", salida});
+  EXPECT_EQ(mal.estado, 3);
+  EXPECT_NE(mal.error.find("línea 1: no se conoce la clave «sabor»"), std::string::npos) << mal.error;
+  EXPECT_EQ(Orden({"convertir", csv, "--mapa", mapa, "--huso", "15", "-o", salida}).estado, 2);
+  EXPECT_EQ(Orden({"auditar", csv, "--mapa", mapa}).estado, 0);
+}
+
 TEST_F(OrdenConvertir, UsoIncorrectoEstado2YEntradaOSalidaQueFaltan) {
   const std::string epw = raiz_.Escribir("x.epw", Unir(LineasEpw()));
   EXPECT_EQ(Orden({"convertir", epw, "-o", "y.txt"}).estado, 2);

@@ -74,6 +74,16 @@ TEST_F(OrdenImportar, ElRelojSePuedeElegir) {
   EXPECT_NE(e.salida.find("  Reloj: UTC, etiqueta − 50 min"), std::string::npos) << e.salida;
 }
 
+TEST_F(OrdenImportar, LoDesconocidoSeSaltaEnUnaCarpetaYNoSiSeNombra) {
+  static_cast<void>(Epw("c/a.epw", "Uno"));
+  raiz_.Escribir("c/normales.csv", "a,b\n1,2\n");
+  const std::string suelto = raiz_.Escribir("suelto.csv", "a,b\n1,2\n");
+  const Ejecucion e = ConBase({"importar", (raiz_ / "c").string(), suelto, "--provincia", "P"});
+  EXPECT_EQ(e.estado, 3);
+  EXPECT_NE(e.error.find("Aviso: normales.csv: no es de ningún"), std::string::npos) << e.error;
+  EXPECT_NE(e.error.find("Error: suelto.csv: "), std::string::npos) << e.error;
+}
+
 TEST_F(OrdenImportar, UsoIncorrectoEstado2) {
   const std::string epw = Epw("x.epw", "Baza");
   const std::vector<std::vector<std::string>> malas{

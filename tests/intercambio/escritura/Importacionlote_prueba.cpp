@@ -35,7 +35,7 @@ protected:
 
   prueba::DirectorioTemporal raiz_;
   std::vector<FicheroDeLote> hechos_;
-  bool saltar_ = false;
+  std::vector<bool> saltar_;
 };
 
 TEST_F(ImportacionDeUnLote, ElCatalogoNoDependeDeLosHilos) {
@@ -74,10 +74,16 @@ TEST_F(ImportacionDeUnLote, LoQueNoEsClimaSeSaltaSiSePide) {
   const std::string otro = raiz_.Escribir("normales.csv", "a;b\n1;2\n");
   Importar({otro}, 1);
   EXPECT_FALSE(hechos_[0].saltado);
-  saltar_ = true;
-  Importar({otro}, 1);
+  saltar_ = {true};
+  Importar({otro, otro}, 1);
   EXPECT_TRUE(hechos_[0].saltado);
+  EXPECT_FALSE(hechos_[1].saltado);
   EXPECT_FALSE(fs::exists(raiz_ / "m"));
+}
+
+TEST_F(ImportacionDeUnLote, UnMetSeLlamaComoSuFichero) {
+  Importar({raiz_.Escribir("Baza.met", prueba::Unir(prueba::LineasMetTrece()))}, 1);
+  EXPECT_EQ(hechos_[0].nombre, "Baza");
 }
 
 TEST(NombreDeUnaLocalidad, ElDelSitioOElDelFichero) {
@@ -104,6 +110,23 @@ TEST(EleccionDeReloj, MandanLosDatosSiSonDeFiarYSiempreQuienElige) {
   EXPECT_EQ(ElegirReloj(veredicto, {TiempoEtiqueta::SolarVerdadero, {}}).desfaseMin, -30.0);
   EXPECT_EQ(ElegirReloj(veredicto, {{}, 12.0}).desfaseMin, 12.0);
   EXPECT_EQ(ElegirReloj(veredicto, {{}, 12.0}).tiempo, TiempoEtiqueta::Utc);
+}
+
+TEST_F(ImportacionDeUnLote, ElHusoEsElDelSitioOElQueSeDiga) {
+  prueba::LineasFichero lineas = prueba::LineasMetTrece();
+  lineas[1] = "37.18 -3.78 567 -3.78"; // el meridiano del propio sitio
+  const std::string met = raiz_.Escribir("a.met", prueba::Unir(lineas));
+  EXPECT_EQ(LeerAnioDeFichero(met, {}).conversion.anio->husoHoras, 0.0);
+  EXPECT_EQ(LeerAnioDeFichero(met, {.husoHoras = 1.0}).conversion.anio->husoHoras, 1.0);
+}
+
+TEST_F(ImportacionDeUnLote, ElHusoAdivinadoDeUnCsvDePvgisSeAvisa) {
+  const std::string csv = raiz_.Escribir("a.csv", prueba::Unir(prueba::LineasPvgisCsv()));
+  const AnioDeFichero adivinado = LeerAnioDeFichero(csv, {});
+  ASSERT_EQ(adivinado.lectura.avisos.size(), 1U);
+  EXPECT_NE(adivinado.lectura.avisos[0].texto.find("huso"), std::string::npos);
+  EXPECT_EQ(adivinado.conversion.anio->husoHoras, 0.0); // el de 3,78° O
+  EXPECT_TRUE(LeerAnioDeFichero(csv, {.husoHoras = 1.0}).lectura.avisos.empty());
 }
 
 TEST(AnioDeUnFichero, LosErroresDeLecturaSonLosSuyos) {
