@@ -1,6 +1,7 @@
 #include "intercambio/Ficheroimportable.h"
 
 #include "core/Ficheros.h"
+#include "intercambio/escritura/Textoanio.h"
 
 namespace tesmo {
 
@@ -54,6 +55,11 @@ FicheroImportable PrepararFichero(const std::string &ruta, const std::vector<Nor
       PrepararAuditoria(lectura, lectura.anio ? NormalesDelSitio(normales, lectura.anio->sitio) : nullptr);
   fichero.auditoria = Auditar(fichero.materia);
   fichero.reloj = RelojDeAuditoria(fichero.materia.reloj);
+  // En hora oficial el huso es parte del reloj; en las otras, sólo el meridiano que se escribirá.
+  if (fichero.reloj.tiempo != TiempoEtiqueta::OficialEstandar) {
+    fichero.reloj.husoHoras =
+        HusoDeSitio(fichero.reloj.husoHoras * GRADOS_POR_HUSO, fichero.materia.anio.sitio.longitud);
+  }
   fichero.peticion = Proponer(ruta, fichero.materia);
   fichero.legible = lectura.anio.has_value();
   return fichero;

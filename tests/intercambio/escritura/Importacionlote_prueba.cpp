@@ -1,3 +1,4 @@
+#include "intercambio/Ficheroimportable.h"
 #include "intercambio/Importacionlote.h"
 #include "tests/comun/Apoyos.h"
 #include "tests/intercambio/formatos/Generadorclima.h"
@@ -117,6 +118,7 @@ TEST_F(ImportacionDeUnLote, ElHusoEsElDelSitioOElQueSeDiga) {
   lineas[1] = "37.18 -3.78 567 -3.78"; // el meridiano del propio sitio
   const std::string met = raiz_.Escribir("a.met", prueba::Unir(lineas));
   EXPECT_EQ(LeerAnioDeFichero(met, {}).conversion.anio->husoHoras, 0.0);
+  EXPECT_EQ(PrepararFichero(met, {}).reloj.husoHoras, 0.0);
   EXPECT_EQ(LeerAnioDeFichero(met, {.husoHoras = 1.0}).conversion.anio->husoHoras, 1.0);
 }
 
