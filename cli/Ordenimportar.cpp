@@ -146,18 +146,19 @@ void Ejecutar(const Datos &datos, Contexto &contexto) {
 
 void RegistrarImportar(CLI::App &raiz, Contexto &contexto) {
   const auto datos = std::make_shared<Datos>();
-  CLI::App &orden = NuevaOrden(
-      raiz, "importar",
-      {"Hace localidades de ficheros climáticos ajenos",
-       "Lee EPW, PVGIS (CSV y EPW), TMY3 y .met de trece o quince columnas, comprueba su reloj con el sol, "
-       "los "
-       "lleva a la hora\nsolar verdadera y escribe el .met, su registro en GDR.TXT y su línea en "
-       "LocalidadesCC. "
-       "Una carpeta vale por los ficheros\nclimáticos que tenga. Cuenta de cada uno el veredicto del reloj y "
-       "qué se ha copiado, calculado o inventado.",
-       "importar ESP_Almeria.epw --provincia Almería --zona COSTA\n"
-       "importar tmy.csv --provincia Granada --localidad Baza --reloj utc --desfase -50\n"
-       "importar carpeta --provincia Clientes --reemplazar"});
+  CLI::App &orden =
+      NuevaOrden(raiz, "importar",
+                 {"Hace localidades de ficheros climáticos ajenos",
+                  "Lee EPW, PVGIS (CSV y EPW), TMY3, .met de trece o quince columnas y lo que describa "
+                  "--mapa, comprueba su\n"
+                  "reloj con el sol, los lleva a la hora solar verdadera y escribe el .met, su registro en "
+                  "GDR.TXT y su línea\n"
+                  "en LocalidadesCC. Una carpeta vale por los ficheros climáticos que tenga. Cuenta de cada "
+                  "uno el veredicto\n"
+                  "del reloj y qué se ha copiado, calculado o inventado.",
+                  "importar ESP_Almeria.epw --provincia Almería --zona COSTA\n"
+                  "importar tmy.csv --provincia Granada --localidad Baza --reloj utc --desfase -50\n"
+                  "importar carpeta --provincia Clientes --reemplazar"});
   AnadirArgumentos(orden, "FICHERO", datos->ficheros, "Ficheros o carpetas que se importan")->required();
   AnadirValor(orden, "--provincia", datos->provincia, "PROVINCIA", "Donde se listan (obligatoria)")
       ->required();
