@@ -23,6 +23,12 @@ QLocale RegionDeLosNumeros() {
 
 } // namespace
 
+void PonTextosDeQt(QCoreApplication &aplicacion) {
+  auto *traductor = new QTranslator(&aplicacion);
+  if (traductor->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QCoreApplication::installTranslator(traductor);
+}
+
 void PrepararAplicacion(QApplication &aplicacion) {
   QApplication::setApplicationName(QString::fromLatin1(TITULO));
   QApplication::setApplicationVersion(QString::fromLatin1(VERSION));
@@ -30,10 +36,7 @@ void PrepararAplicacion(QApplication &aplicacion) {
   const QString separador = QLocale::system().decimalPoint();
   Configuracionregional::IniciarDesdeEntorno(separador == QLatin1String(".") ? '.' : ',');
   QLocale::setDefault(RegionDeLosNumeros());
-  auto *traductor = new QTranslator(&aplicacion);
-  if (traductor->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(traductor);
-  }
+  PonTextosDeQt(aplicacion);
 }
 
 } // namespace tesmo

@@ -45,7 +45,8 @@ QList<QCommandLineOption> OpcionesDeQt() {
 
 /// Se leen antes de abrir la aplicación de ventanas: la ayuda y los errores no necesitan pantalla.
 Opciones LeerOpciones(int argc, char **argv) {
-  const QCoreApplication sinVentanas(argc, argv);
+  QCoreApplication sinVentanas(argc, argv);
+  tesmo::PonTextosDeQt(sinVentanas);
   const QCommandLineOption demostracion(
       QStringLiteral("demostracion"),
       QStringLiteral(
