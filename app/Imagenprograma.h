@@ -9,7 +9,8 @@ namespace tesmo {
 /// Tamaño de la imagen de presentación [px].
 inline constexpr QSize TAMANO_PRESENTACION(470, 439);
 
-/// Dibujo de la presentación: el sol sobre su trayectoria, los doce meses y una curva diaria de temperatura.
+/// Dibujo de la presentación: el sol sobre las trayectorias de verano, equinoccio e invierno, y una curva
+/// diaria de temperatura.
 /// @param densidad píxeles de la pantalla por píxel lógico
 [[nodiscard]] QPixmap ImagenPresentacion(double densidad);
 

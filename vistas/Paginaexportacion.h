@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-class QBoxLayout;
 class QCheckBox;
 class QGroupBox;
 class QListWidget;
