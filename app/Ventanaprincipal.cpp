@@ -26,6 +26,7 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 #include <QTimer>
 
 #include <algorithm>
@@ -105,7 +106,7 @@ void TforPrincipal::AbrirPrimera() {
   imagen_.release()->deleteLater(); // se puede llegar aquí desde su propio cierre
   for (QAction *menu : menuBar()->actions()) menu->setVisible(true);
   AbrirVentana(*programas_.front());
-  if (!avisoArranque_.isEmpty()) statusBar()->showMessage(avisoArranque_);
+  if (!avisoArranque_.isEmpty()) Decir(nullptr, avisoArranque_);
 }
 
 Programa &TforPrincipal::CrearPrograma() {
@@ -122,14 +123,14 @@ void TforPrincipal::AbrirVentana(const Programa &programa) {
   QMdiSubWindow *ventana = area_->addSubWindow(&formulario);
   // El menú de sistema de cada ventana trae el mismo atajo que "Cerrar", y un atajo doble no hace nada.
   for (QAction *orden : ventana->systemMenu()->actions()) orden->setShortcuts(QList<QKeySequence>());
-  connect(&formulario, &TforProgramas::estado, statusBar(),
-          [this](const QString &texto) { statusBar()->showMessage(texto); });
+  connect(&formulario, &TforProgramas::estado, this,
+          [this, este](const QString &texto) { Decir(este, texto); });
   connect(&formulario, &TforProgramas::importarPedido, this, &TforPrincipal::OfrecerImportar,
           Qt::QueuedConnection);
   // El formulario no puede morir dentro de su propio suceso de cierre.
   connect(
       &formulario, &TforProgramas::cerrada, this, [this, este] { Retirar(este); }, Qt::QueuedConnection);
-  statusBar()->clearMessage();
+  Decir(quienDijo_, {});
   este->Abrir();
   ventana->showMaximized();
 }
@@ -139,7 +140,13 @@ void TforPrincipal::Retirar(VistaPrograma *controlador) {
   if (sitio == controladores_.end()) return;
   const std::unique_ptr<VistaPrograma> retirado = std::move(*sitio);
   controladores_.erase(sitio);
-  statusBar()->clearMessage();
+  Decir(controlador, {});
+}
+
+void TforPrincipal::Decir(const VistaPrograma *quien, const QString &texto) {
+  if (texto.isEmpty() && quienDijo_ != quien) return;
+  quienDijo_ = texto.isEmpty() ? nullptr : quien;
+  statusBar()->showMessage(texto);
 }
 
 void TforPrincipal::RetirarTodos() {
@@ -162,8 +169,7 @@ void TforPrincipal::mnuColoresClick() {
     for (const auto &controlador : controladores_) controlador->AplicarColores();
     if (guardados) return;
     const QString ruta = QString::fromStdString(DameConfiguracion().RutaPrograma("tesmo.inp"));
-    statusBar()->showMessage(
-        tr("Los colores valen hasta cerrar el programa: no se pudieron guardar en %1").arg(ruta));
+    Decir(nullptr, tr("Los colores valen hasta cerrar el programa: no se pudieron guardar en %1").arg(ruta));
   });
   dialogo->open();
 }
@@ -186,8 +192,7 @@ void TforPrincipal::mnuContenidoClick() {
 void TforPrincipal::AbrirManual() {
   const QString directorio = DirectorioManual();
   if (directorio.isEmpty()) {
-    statusBar()->showMessage(
-        tr("No se encuentra el manual: falta el directorio «manual» junto al programa."));
+    Decir(nullptr, tr("No se encuentra el manual: falta el directorio «manual» junto al programa."));
     return;
   }
   if (manual_ == nullptr) manual_ = new VentanaAyuda(this);
@@ -198,6 +203,12 @@ void TforPrincipal::AbrirManual() {
 void TforPrincipal::mnuAcercadeClick() {
   TforAcercade caja(this);
   caja.exec();
+}
+
+bool TforPrincipal::event(QEvent *suceso) {
+  if (suceso->type() == QEvent::StatusTip && static_cast<QStatusTipEvent *>(suceso)->tip().isEmpty())
+    return true;
+  return QMainWindow::event(suceso);
 }
 
 void TforPrincipal::closeEvent(QCloseEvent *suceso) {

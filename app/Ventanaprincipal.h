@@ -61,6 +61,8 @@ private slots:
   void Timer1Timer();
 
 protected:
+  /// Un aviso de estado vacío, el que manda cada menú al pasar por él, no borra lo que se dijo.
+  bool event(QEvent *suceso) override;
   void closeEvent(QCloseEvent *suceso) override;
   /// Ficheros soltados sobre el marco: se importan.
   void dragEnterEvent(QDragEnterEvent *suceso) override;
@@ -88,6 +90,9 @@ private:
   [[nodiscard]] TforProgramas *VentanaDelante() const;
   Programa &CrearPrograma();
   void AbrirVentana(const Programa &programa);
+  /// Pone @p texto en la línea de estado; vacío, quita lo que hubiera dicho @p quien y nada más. Nulo: el
+  /// marco.
+  void Decir(const VistaPrograma *quien, const QString &texto);
   void Retirar(VistaPrograma *controlador);
   void RetirarTodos();
 
@@ -96,6 +101,8 @@ private:
   std::unique_ptr<Presentacion> imagen_;
   std::string ayuda_;
   QString avisoArranque_; ///< lo que falló al arrancar sin que nadie lo dijera
+  const VistaPrograma *quienDijo_ =
+      nullptr; ///< de quién es lo que está en la línea de estado; nulo: del marco
   QMdiArea *area_ = nullptr;
   QPointer<DialogoImportar> importar_; ///< nulo si no está abierto
   VentanaAyuda *manual_ = nullptr;     ///< nula hasta que se abre por primera vez

@@ -48,6 +48,7 @@ TforProgramas::TforProgramas(VistaPrograma &controlador, QWidget *padre)
 }
 
 void TforProgramas::Conectar() {
+  connect(this, &TforProgramas::estado, this, [this] { esAviso_ = false; });
   connect(panel_, &PanelSeleccion::provinciaCambiada, this, &TforProgramas::cbProvinciasChange);
   connect(panel_, &PanelSeleccion::localidadCambiada, this, &TforProgramas::cbLocalidadesChange);
   connect(panel_, &PanelSeleccion::periodoCambiado, this, &TforProgramas::csMesIniChange);
@@ -70,7 +71,10 @@ void TforProgramas::Conectar() {
 
 void TforProgramas::cbProvinciasChange() { controlador_.CambiarProvincia(); }
 void TforProgramas::cbLocalidadesChange() { controlador_.CambiarLocalidad(); }
-void TforProgramas::pcProgramasChange() { controlador_.PonTitulo(); }
+void TforProgramas::pcProgramasChange() {
+  controlador_.PonTitulo();
+  if (!esAviso_) emit estado(QString());
+}
 void TforProgramas::btnActualizarClick() { controlador_.Actualizar(); }
 void TforProgramas::csMesIniChange() { controlador_.CambiarPeriodo(); }
 void TforProgramas::btnSimulacionClick() { controlador_.Visualizar(); }
@@ -79,6 +83,11 @@ void TforProgramas::casillaClick() { controlador_.ActualizarVisibles(); }
 void TforProgramas::btnCalDiaExtClick() { controlador_.CalcularDiasExtremos(); }
 void TforProgramas::CheckListBox1ClickCheck() { controlador_.ElegirMagnitudesExtremas(); }
 void TforProgramas::Button1Click() { controlador_.VisualizarFicherosExtremos(); }
+
+void TforProgramas::Avisar(const QString &texto) {
+  emit estado(texto);
+  esAviso_ = true;
+}
 
 QString TforProgramas::PestanaDelante() const { return pcProgramas_->currentWidget()->objectName(); }
 void TforProgramas::btnEscribirClick() { controlador_.EscribirArchivoHorario(); }

@@ -52,13 +52,15 @@ public:
   void btnSubirClick();
   void btnBajarClick();
   void casillaExportacionClick(const QString &rotulo, bool puesta);
+  /// Dice un fallo o una carga incompleta: no se quita al cambiar de pestaña, como lo demás que se dice.
+  void Avisar(const QString &texto);
   /// Pone la pestaña de resultados de los días extremos a la vista y delante, o la esconde.
   void EnsenarResultados(bool ensenar);
 
 signals:
   /// La ventana se cierra: quien la gobierna puede destruirla al volver al bucle de sucesos.
   void cerrada();
-  /// Algo que decir en la línea de estado.
+  /// Algo que decir en la línea de estado; vacío: lo último que dijo esta ventana ya no viene a cuento.
   void estado(const QString &texto);
   /// La localidad elegida tiene un fichero que hay que importar antes de usarlo.
   void importarPedido(const QString &ruta, const QString &localidad, const QString &provincia);
@@ -70,6 +72,7 @@ private:
   void Conectar();
 
   VistaPrograma &controlador_;
+  bool esAviso_ = false; ///< lo último que dijo es un aviso
   QTabWidget *pcProgramas_ = nullptr;
   PaginaEntorno *paginaEntorno_ = nullptr;
   PaginaDiasExtremos *paginaDiasExtremos_ = nullptr;
