@@ -32,9 +32,10 @@ VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
       vistaPsicrometrico_(std::make_unique<Vistapsicrometrico>(formulario_->DamePaginaPsicrometrico(),
                                                                formulario_->DamePanel(), *this, seleccion_,
                                                                [this] { CambiarAltitud(); })),
-      vistaExportacion_(std::make_unique<VistaExportacion>(formulario_->DamePaginaExportacion(),
-                                                           formulario_->DamePanel(), *this, seleccion_,
-                                                           [this](const QString &texto) { Decir(texto); })),
+      vistaExportacion_(std::make_unique<VistaExportacion>(
+          formulario_->DamePaginaExportacion(), formulario_->DamePanel(), *this, seleccion_,
+          VistaExportacion::Ventana{[this] { return Cargar(); },
+                                    [this](const QString &texto) { Decir(texto); }})),
       vistaEstadisticas_(std::make_unique<VistaEstadisticas>(
           formulario_->DamePaginaEstadisticas(), formulario_->DamePanel(), *this, seleccion_,
           [this](const QString &texto) { Decir(texto); })) {
@@ -161,8 +162,9 @@ void VistaPrograma::CambiarLocalidad() {
 bool VistaPrograma::Cargar() {
   const ResultadoCarga resultado = CargarLocalidad(*this, seleccion_);
   if (resultado == ResultadoCarga::FicheroNoAbierto) vistaEntorno_->Vaciar();
+  if (resultado == ResultadoCarga::FicheroNoAbierto || resultado == ResultadoCarga::Cargada)
+    vistaPsicrometrico_->redibujar();
   if (resultado != ResultadoCarga::Cargada) return false;
-  vistaPsicrometrico_->redibujar();
   DecirCarga();
   if (!DameLeerMet()->Resumen().Completa()) OfrecerImportar();
   return true;
@@ -222,16 +224,16 @@ void VistaPrograma::Decir(const QString &texto) const {
 void VistaPrograma::DecirCarga() const {
   const ResumenLectura &resumen = DameLeerMet()->Resumen();
   const QString localidad = Texto(seleccion_.DameLocalidad());
-  const QString texto =
-      resumen.registros == HORAS_DEL_ANIO
-          ? QObject::tr("%1: leídas las %2 horas del año.").arg(localidad).arg(resumen.registros)
-          : QObject::tr(
-                "%1: sólo se pudieron leer %2 de las %3 horas del año; la lectura se detuvo en la línea %4.")
-                .arg(localidad)
-                .arg(resumen.registros)
-                .arg(HORAS_DEL_ANIO)
-                .arg(resumen.linea);
-  Decir(texto);
+  if (resumen.registros == HORAS_DEL_ANIO)
+    return Decir(QObject::tr("%1: leídas las %2 horas del año.").arg(localidad).arg(resumen.registros));
+  if (!formulario_) return;
+  formulario_->Avisar(
+      QObject::tr(
+          "%1: sólo se pudieron leer %2 de las %3 horas del año; la lectura se detuvo en la línea %4.")
+          .arg(localidad)
+          .arg(resumen.registros)
+          .arg(HORAS_DEL_ANIO)
+          .arg(resumen.linea));
 }
 
 } // namespace tesmo

@@ -19,8 +19,9 @@
 namespace tesmo {
 
 VistaExportacion::VistaExportacion(PaginaExportacion &pagina, PanelSeleccion &panel, Programa &programa,
-                                   Seleccion &seleccion, std::function<void(const QString &)> decir)
-    : pagina_(pagina), panel_(panel), programa_(programa), seleccion_(seleccion), decir_(std::move(decir)) {}
+                                   Seleccion &seleccion, Ventana ventana)
+    : pagina_(pagina), panel_(panel), programa_(programa), seleccion_(seleccion),
+      ventana_(std::move(ventana)) {}
 
 void VistaExportacion::casillaClick(const QString &rotulo, bool puesta) {
   if (puesta) {
@@ -55,7 +56,7 @@ bool VistaExportacion::Escribir(const QString &ruta) {
   const CursorOcupado ocupado;
   const Accion accion(programa_);
   seleccion_.PonPeriodo(panel_.LeerPeriodo());
-  if (CargarLocalidad(programa_, seleccion_) != ResultadoCarga::Cargada) return false;
+  if (!ventana_.cargar()) return false;
   if (PrepararDatos(programa_, seleccion_) != ResultadoCarga::Cargada) return false;
   LeerMet &datos = *programa_.DameLeerMet();
   datos.PonTexto("Separador", pagina_.Separador());
@@ -77,7 +78,7 @@ void VistaExportacion::DecirEscrito(const QString &ruta, std::size_t variables) 
                       .arg(QDir::toNativeSeparators(ruta));
   if (!datos.Resumen().Completa())
     texto += QObject::tr(" (de la localidad sólo se pudieron leer %1 horas)").arg(datos.Resumen().registros);
-  decir_(texto);
+  ventana_.decir(texto);
 }
 
 } // namespace tesmo

@@ -16,10 +16,16 @@ class Seleccion;
 /// período.
 class VistaExportacion {
 public:
-  /// @param decir enseña un texto en la línea de estado
+  /// Lo que pide a su ventana de trabajo.
+  struct Ventana {
+    /// Carga la localidad como quien la elige: dice lo que falle y deja las demás pestañas con lo cargado.
+    std::function<bool()> cargar;
+    std::function<void(const QString &)> decir; ///< la línea de estado
+  };
+
   /// Todo lo que recibe le sobrevive.
   VistaExportacion(PaginaExportacion &pagina, PanelSeleccion &panel, Programa &programa, Seleccion &seleccion,
-                   std::function<void(const QString &)> decir);
+                   Ventana ventana);
   VistaExportacion(const VistaExportacion &) = delete;
   VistaExportacion &operator=(const VistaExportacion &) = delete;
 
@@ -41,7 +47,7 @@ private:
   PanelSeleccion &panel_;
   Programa &programa_;
   Seleccion &seleccion_;
-  std::function<void(const QString &)> decir_;
+  Ventana ventana_;
   QObject avisos_; ///< corta con su muerte las señales que llegan aquí
 };
 
