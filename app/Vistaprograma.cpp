@@ -11,6 +11,7 @@
 #include "vistas/Cursorocupado.h"
 #include "vistas/Paginadiasextremos.h"
 #include "vistas/Paginaentorno.h"
+#include "vistas/Paginaestadisticas.h"
 #include "vistas/Paginaposicionsolar.h"
 #include "vistas/Paginaresultadosextremos.h"
 #include "vistas/Panelseleccion.h"
@@ -34,7 +35,7 @@ VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
                                                                [this] { CambiarAltitud(); })),
       vistaExportacion_(std::make_unique<VistaExportacion>(
           formulario_->DamePaginaExportacion(), formulario_->DamePanel(), *this, seleccion_,
-          VistaExportacion::Ventana{[this] { return Cargar(); },
+          VistaExportacion::Ventana{[this] { return LeerDatos(); },
                                     [this](const QString &texto) { Decir(texto); }})),
       vistaEstadisticas_(std::make_unique<VistaEstadisticas>(
           formulario_->DamePaginaEstadisticas(), formulario_->DamePanel(), *this, seleccion_,
@@ -159,12 +160,19 @@ void VistaPrograma::CambiarLocalidad() {
   vistaEstadisticas_->Calcular();
 }
 
-bool VistaPrograma::Cargar() {
+bool VistaPrograma::LeerDatos() {
   const ResultadoCarga resultado = CargarLocalidad(*this, seleccion_);
-  if (resultado == ResultadoCarga::FicheroNoAbierto) vistaEntorno_->Vaciar();
-  if (resultado == ResultadoCarga::FicheroNoAbierto || resultado == ResultadoCarga::Cargada)
+  if (resultado == ResultadoCarga::FicheroNoAbierto) {
+    vistaEntorno_->Vaciar();
     vistaPsicrometrico_->redibujar();
-  if (resultado != ResultadoCarga::Cargada) return false;
+    formulario_->DamePaginaEstadisticas().Vaciar({});
+  }
+  return resultado == ResultadoCarga::Cargada;
+}
+
+bool VistaPrograma::Cargar() {
+  if (!LeerDatos()) return false;
+  vistaPsicrometrico_->redibujar();
   DecirCarga();
   if (!DameLeerMet()->Resumen().Completa()) OfrecerImportar();
   return true;

@@ -67,6 +67,9 @@ private:
   /// La base tiene un registro nuevo o cambiado: los selectores lo enseñan sin perder lo elegido.
   void AltaDeLocalidad(const ObjetoCiudad &registro);
   void OfrecerImportar() const;
+  /// El camino de carga; si el fichero no se puede abrir, las pestañas quedan sin lo que enseñaban.
+  bool LeerDatos();
+  /// LeerDatos, la carta limpia y la línea de estado con lo leído.
   bool Cargar();
   void DecirCarga() const;
   void Decir(const QString &texto) const;

@@ -18,7 +18,7 @@ class VistaExportacion {
 public:
   /// Lo que pide a su ventana de trabajo.
   struct Ventana {
-    /// Carga la localidad como quien la elige: dice lo que falle y deja las demás pestañas con lo cargado.
+    /// Pasa la localidad por el camino de carga; si no hay datos, las demás pestañas dejan de enseñarlos.
     std::function<bool()> cargar;
     std::function<void(const QString &)> decir; ///< la línea de estado
   };

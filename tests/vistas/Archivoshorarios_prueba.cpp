@@ -2,6 +2,8 @@
 
 #include "core/Rutas.h"
 #include "tests/vistas/Manejo.h"
+#include "vistas/Marcocarta.h"
+#include "vistas/Vistapsicrometrico.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -9,6 +11,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
@@ -29,6 +32,16 @@ const QString VV = QStringLiteral("Velocidad del viento (m/s)");
 
 constexpr const char *LINEA_DE_SUPERFICIE =
     "Orientación: 0.000000  Inclinación: 90.000000 Albedo: 0.200000\n";
+
+/// Apunta con qué cursor se vio cada mensaje.
+class CursorAlAvisar : public PresentadorMensajes {
+public:
+  void Presentar(const std::string &, const std::string &, Icono) override {
+    const QCursor *cursor = QApplication::overrideCursor();
+    formas.push_back(cursor == nullptr ? Qt::ArrowCursor : cursor->shape());
+  }
+  std::vector<int> formas;
+};
 
 } // namespace
 
@@ -284,6 +297,74 @@ private slots:
     QCOMPARE(marco_->mensajes.apuntes.size(), 1U);
     QVERIFY(marco_->mensajes.apuntes[0].texto.find("Almería") != std::string::npos);
     QVERIFY(!QFileInfo::exists(Ruta("nada.met")));
+  }
+
+  void siElFicheroClimaticoDesapareceLasDemasPestanasNoSiguenEnsenandolo() {
+    ventana_->Localidad("Almería");
+    ventana_->Marcar("cbTS");
+    ventana_->Pulsar("btnSimulacion");
+    ventana_->Pulsar("btnNubes");
+    Vistapsicrometrico &carta = ventana_->Controlador().DameVistaPsicrometrico();
+    QVERIFY(ventana_->Chart().NumeroSeries() > 0 && !carta.Contenido().marcas.empty());
+    std::filesystem::remove(marco_->datos.Directorio() / "Meteo/almeria.met");
+    emit Pedir()->fileSelected(Ruta("nada.met"));
+    QCOMPARE(marco_->mensajes.apuntes.size(), 1U);
+    QVERIFY(!ventana_->Controlador().HayDatos());
+    QCOMPARE(ventana_->Chart().NumeroSeries(), 0);
+    QVERIFY(carta.Contenido().marcas.empty());
+    QCOMPARE(ventana_->Buscar<QLineEdit>("edMaximo").text(), QString());
+  }
+
+  void escribirNoQuitaLaNubeDeLaCarta() {
+    ventana_->Localidad("Almería");
+    ventana_->Pulsar("btnNubes");
+    (void)Escribir("con_nube");
+    QCOMPARE(ventana_->Controlador().DameVistaPsicrometrico().Contenido().marcas.size(), std::size_t(24));
+  }
+
+  void conUnaCasillaDeLaSuperficieVaciaDaElMensaje58YNoEscribeNada_data() {
+    QTest::addColumn<QString>("casilla");
+    QTest::addColumn<QString>("rotulo");
+    QTest::newRow("inclinación") << "edInclinacion"
+                                 << "Inclinación";
+    QTest::newRow("orientación") << "edOrientacion"
+                                 << "Orientación";
+    QTest::newRow("albedo") << "edAlbedo"
+                            << "Albedo";
+  }
+  void conUnaCasillaDeLaSuperficieVaciaDaElMensaje58YNoEscribeNada() {
+    QFETCH(const QString, casilla);
+    QFETCH(const QString, rotulo);
+    ventana_->Localidad("Almería");
+    auto &texto = ventana_->Buscar<QLineEdit>(casilla.toLatin1().constData());
+    texto.selectAll();
+    QTest::keyClick(&texto, Qt::Key_Backspace);
+    emit Pedir()->fileSelected(Ruta("nada.met"));
+    QCOMPARE(marco_->mensajes.apuntes.size(), 1U);
+    QCOMPARE(marco_->mensajes.apuntes[0].texto,
+             "La casilla de " + rotulo.toStdString() + " no tiene ningún valor. Introduzca uno.\n ");
+    QVERIFY(!QFileInfo::exists(Ruta("nada.met")));
+  }
+
+  void mientrasEscribeElCursorEsElRelojDeArena() {
+    ventana_->Localidad("Almería");
+    int vistas = 0;
+    connect(&ventana_->Controlador().DameFormulario(), &TforProgramas::estado, this, [&vistas] {
+      if (const QCursor *cursor = QApplication::overrideCursor())
+        vistas += cursor->shape() == Qt::WaitCursor ? 1 : 0;
+    });
+    (void)Escribir("reloj");
+    QCOMPARE(vistas, 1); // al decir lo escrito
+  }
+
+  void conElMensaje59ElCursorEsElRelojDeArena() {
+    ventana_->Localidad("Almería");
+    std::filesystem::remove(marco_->datos.Directorio() / "Meteo/almeria.met");
+    CursorAlAvisar presentador;
+    DameMensajes().PonPresentador(&presentador);
+    emit Pedir()->fileSelected(Ruta("nada.met"));
+    DameMensajes().PonPresentador(&marco_->mensajes);
+    QCOMPARE(presentador.formas, std::vector<int>{Qt::WaitCursor});
   }
 
   void elDialogoProponeElNombreDeLaLocalidadYLaExtensionMet() {

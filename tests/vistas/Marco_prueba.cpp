@@ -44,6 +44,32 @@ private slots:
     QCOMPARE(marco_->marco.Programas().size(), 4U);
   }
 
+  void trasCerrarLaPrimeraDeTresHayDosVentanasConElMismoNombre() {
+    Orden("mnuNuevo").trigger();
+    Orden("mnuNuevo").trigger();
+    auto &area = *marco_->marco.findChild<QMdiArea *>();
+    area.setActiveSubWindow(area.subWindowList().first());
+    Orden("mnuCerrar").trigger();
+    QTRY_COMPARE(Ventanas(), 2);
+    Orden("mnuNuevo").trigger();
+    QStringList titulos;
+    for (std::size_t i = 0; i < 3; ++i) titulos << marco_->Numero(i).Titulo();
+    QCOMPARE(titulos, QStringList({"Sin Nombre2", "Sin Nombre3", "Sin Nombre3"}));
+  }
+
+  void cerrarElMarcoCierraLasVentanasDeLaUltimaALaPrimera() {
+    Orden("mnuNuevo").trigger();
+    Orden("mnuNuevo").trigger();
+    QStringList cerradas;
+    for (std::size_t i = 0; i < 3; ++i) {
+      const TforProgramas *ventana = &marco_->marco.Controladores()[i]->DameFormulario();
+      connect(ventana, &TforProgramas::cerrada, &marco_->marco,
+              [&cerradas, ventana] { cerradas << ventana->windowTitle(); });
+    }
+    marco_->marco.close();
+    QCOMPARE(cerradas, QStringList({"Sin Nombre3", "Sin Nombre2", "Sin Nombre1"}));
+  }
+
   void nuevoTrasCerrarSinVolverAlBucleNoCuentaLaCerrada() {
     Orden("mnuCerrar").trigger();
     Orden("mnuNuevo").trigger();

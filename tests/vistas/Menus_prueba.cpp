@@ -77,7 +77,10 @@ private slots:
       sitio = static_cast<int>(este);
     }
     QCOMPARE(Orden("mnuContenido").shortcut(), QKeySequence(Qt::Key_F1));
-    QCOMPARE(Orden("mnuNuevo").shortcut(), QKeySequence(QKeySequence::New));
+    QCOMPARE(Orden("mnuNuevo").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_N));
+    QCOMPARE(Orden("mnuCerrar").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_W));
+    QCOMPARE(Orden("mnuCerrarTodo").shortcut(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_W));
+    QCOMPARE(Orden("mnuSalir").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
   }
 
   void elMosaicoLlenaElAreaSinSolapes_data() {

@@ -31,6 +31,7 @@ private slots:
     const auto *reloj = otro.findChild<QTimer *>(QStringLiteral("Timer1"));
     QVERIFY(reloj && reloj->isActive());
     QCOMPARE(reloj->interval(), 100);
+    QVERIFY(7 * reloj->interval() < 1000); // la presentación entera, menos de un segundo
   }
 
   void laImagenNoTieneBordeMideLoSuyoYEstaEnElCentro() {
@@ -72,7 +73,8 @@ private slots:
     QVERIFY(!Reloj().isActive());
   }
 
-  void conElRelojDeVerdadLlegaSolaAntesDeUnSegundo() {
+  // Lo que tarda depende de la máquina y se mide aparte: aquí, que llega sola y no antes de tiempo.
+  void conElRelojDeVerdadLlegaSolaTrasSieteIntervalos() {
     TforPrincipal marco;
     marco.Presentar();
     QElapsedTimer cronometro;
