@@ -1,11 +1,15 @@
 #include "core/Lectorclaves.h"
 
 #include "core/Codificacion.h"
+#include "core/Ficheros.h"
 #include "core/Lectornumeros.h"
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+#include <stdexcept>
 
 namespace tesmo {
 
@@ -57,6 +61,28 @@ int LectorClaves::LeerClaveReal(std::string_view clave, float &destino) const {
   if (!valor || !std::isfinite(*valor)) return -1;
   destino = *valor;
   return 0;
+}
+
+namespace {
+
+[[noreturn]] void AbortarSinMemoria() {
+  (void)std::fputs("No hay suficiente memoria.\n", stdout);
+  (void)std::fflush(stdout);
+  std::abort();
+}
+
+} // namespace
+
+std::optional<LectorClaves> LeerFicheroDeClaves(const std::filesystem::path &ruta, const LeerBytes &leer) {
+  try {
+    const std::optional<std::string> contenido = leer ? leer(ruta) : LeerFicheroEntero(ruta);
+    if (!contenido) return std::nullopt;
+    return LectorClaves(*contenido);
+  } catch (const std::bad_alloc &) {
+    AbortarSinMemoria();
+  } catch (const std::length_error &) { // más de lo que cabe en un texto
+    AbortarSinMemoria();
+  }
 }
 
 } // namespace tesmo

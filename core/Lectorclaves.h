@@ -1,5 +1,8 @@
 #pragma once
 
+#include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,5 +27,14 @@ private:
   [[nodiscard]] std::size_t PosicionDelValor(std::string_view clave) const;
   std::string texto_;
 };
+
+/// Quien da los bytes de un fichero; vacío si no se puede leer.
+using LeerBytes = std::function<std::optional<std::string>(const std::filesystem::path &)>;
+
+/// Las claves de @p ruta; vacío si no hay un fichero que se pueda leer. Si no queda memoria para su texto
+/// escribe "No hay suficiente memoria.\n" en la salida estándar y aborta el programa.
+/// @param leer de dónde salen los bytes; sin ella, del disco (LeerFicheroEntero)
+[[nodiscard]] std::optional<LectorClaves> LeerFicheroDeClaves(const std::filesystem::path &ruta,
+                                                              const LeerBytes &leer = {});
 
 } // namespace tesmo

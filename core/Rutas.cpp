@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <utility>
 
 namespace tesmo {
 
@@ -36,8 +37,8 @@ ServicioConfiguracion::ServicioConfiguracion(const std::string &base) {
   base_ = ConSeparadorFinal(error ? base : TextoDeRuta(absoluta));
   fs::current_path(RutaDesdeTexto(base_), error);
   const fs::path ini = BuscarSinMayusculas(RutaDesdeTexto(base_ + "config.ini"));
-  if (const auto contenido = LeerFicheroEntero(ini)) {
-    lector_ = LectorClaves(*contenido);
+  if (auto lector = LeerFicheroDeClaves(ini)) {
+    lector_ = std::move(*lector);
     hayFichero_ = true;
   }
   for (std::size_t i = 0; i < NUMERO_CLAVES; ++i) lector_.LeerClave(CLAVES[i], directorios_[i]);
@@ -52,8 +53,8 @@ int ServicioConfiguracion::LeerClaveReal(std::string_view clave, float &destino)
 }
 
 const std::string &ServicioConfiguracion::Componer(std::size_t directorio, std::string_view nombre) {
-  std::string ruta = base_ + NormalizarSeparadores(directorios_[directorio]);
-  ruta += nombre;
+  const std::string ruta =
+      base_ + NormalizarSeparadores(directorios_[directorio]) + NormalizarSeparadores(nombre);
   bufer_ = TextoDeRuta(BuscarSinMayusculas(RutaDesdeTexto(ruta)));
   return bufer_;
 }

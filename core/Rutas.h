@@ -24,7 +24,7 @@ public:
   int LeerClave(std::string_view clave, std::string &destino) const;
   int LeerClaveReal(std::string_view clave, float &destino) const;
 
-  /// Base + directorio configurado + @p nombre, buscado sin distinguir mayúsculas si no existe tal cual.
+  /// Base + directorio configurado + @p nombre (los '\' son '/'), sin distinguir mayúsculas si no existe así.
   /// Las cuatro comparten un búfer: cada llamada pisa el resultado de la anterior.
   const std::string &RutaPerfiles(std::string_view nombre);
   const std::string &RutaPrograma(std::string_view nombre);
@@ -38,7 +38,7 @@ private:
   std::string base_;
   bool hayFichero_ = false;
   LectorClaves lector_;
-  std::array<std::string, NUMERO_CLAVES> directorios_;
+  std::array<std::string, NUMERO_CLAVES> directorios_; // sin tope de tamaño, a propósito, como bufer_
   std::string bufer_;
 };
 

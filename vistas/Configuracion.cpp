@@ -55,12 +55,13 @@ void Configuracion::ponColor(int i, std::uint32_t color) {
 }
 
 void Configuracion::leer() {
-  const auto contenido = LeerFicheroEntero(RutaDesdeTexto(DameConfiguracion().RutaPrograma(FICHERO)));
-  if (contenido) leerTexto(*contenido);
+  const auto lector = LeerFicheroDeClaves(RutaDesdeTexto(DameConfiguracion().RutaPrograma(FICHERO)));
+  if (lector) Tomar(*lector);
 }
 
-void Configuracion::leerTexto(std::string_view contenido) {
-  const LectorClaves lector(contenido);
+void Configuracion::leerTexto(std::string_view contenido) { Tomar(LectorClaves(contenido)); }
+
+void Configuracion::Tomar(const LectorClaves &lector) {
   float valor = 0.0F; // una para todas: la clave que falta repite el color de la anterior (se conserva)
   for (std::size_t i = 0; i < colores_.size(); ++i) {
     lector.LeerClaveReal(std::string(MAGNITUDES[i].claveColor) + " ", valor);

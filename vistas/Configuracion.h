@@ -9,6 +9,8 @@
 
 namespace tesmo {
 
+class LectorClaves;
+
 /// Colores de las 21 magnitudes del visor, en su orden: enteros 0x00BBGGRR. Empieza con los de fábrica.
 class Configuracion {
 public:
@@ -31,6 +33,8 @@ public:
   [[nodiscard]] std::string Bytes() const;
 
 private:
+  void Tomar(const LectorClaves &lector);
+
   std::array<std::uint32_t, NUMERO_MAGNITUDES_VISOR> colores_{};
 };
 

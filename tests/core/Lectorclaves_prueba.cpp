@@ -1,7 +1,11 @@
 #include "core/Lectorclaves.h"
+#include "tests/comun/Apoyos.h"
 
+#include <cstdio>
 #include <gtest/gtest.h>
+#include <new>
 #include <random>
+#include <stdexcept>
 
 using namespace tesmo;
 
@@ -121,3 +125,37 @@ TEST(LectorClaves, MutacionesNoRompenNiInventanValores) {
   EXPECT_GT(hallados, 5'000);
   EXPECT_LT(hallados, 20'000);
 }
+
+TEST(LectorClaves, UnFicheroSeLeeYUnoQueFaltaNoDaClaves) {
+  const tesmo::prueba::DirectorioTemporal directorio;
+  directorio.Escribir("a.ini", "; MET = M/\n");
+  std::string valor;
+  const auto lector = LeerFicheroDeClaves(directorio / "a.ini");
+  ASSERT_TRUE(lector.has_value());
+  EXPECT_EQ(lector->LeerClave("MET ", valor), 0);
+  EXPECT_EQ(valor, "M/");
+  EXPECT_FALSE(LeerFicheroDeClaves(directorio / "no.ini").has_value());
+}
+
+#ifdef GTEST_HAS_DEATH_TEST
+namespace {
+
+/// Lee con la salida estándar donde la mira la prueba de muerte, que es la de errores.
+template <typename Fallo>
+void LeerSinMemoria() {
+  std::setvbuf(stdout, nullptr, _IONBF, 0);
+  stdout = stderr; // en este proceso, que va a morir
+  (void)LeerFicheroDeClaves("x.ini", [](const auto &) -> std::optional<std::string> { throw Fallo(); });
+}
+
+struct TextoEnorme : std::length_error {
+  TextoEnorme() : std::length_error("enorme") {}
+};
+
+} // namespace
+
+TEST(LectorClavesDeathTest, SinMemoriaLoDiceYAborta) {
+  EXPECT_DEATH(LeerSinMemoria<std::bad_alloc>(), "^No hay suficiente memoria\\.\n");
+  EXPECT_DEATH(LeerSinMemoria<TextoEnorme>(), "^No hay suficiente memoria\\.\n");
+}
+#endif

@@ -67,6 +67,23 @@ TEST(Rutas, EncuentraSinDistinguirMayusculas) {
   EXPECT_EQ(servicio.RutaMeteo("ALMERÍA.met"), TextoDeRuta(directorio / "Meteo/Almería.MET"));
 }
 
+TEST(Rutas, ElNombreTambienPuedeTraerDirectoriosALaManeraDeWindows) {
+  DirectorioTemporal directorio;
+  directorio.Escribir("config.ini", "; rutas\nMET = Meteo\\\n");
+  directorio.Escribir("Meteo/sur/Almeria.met", "x");
+  ServicioConfiguracion servicio(TextoDeRuta(directorio.Ruta()));
+  EXPECT_EQ(servicio.RutaMeteo("Sur\\almeria.met"), TextoDeRuta(directorio / "Meteo/sur/Almeria.met"));
+  EXPECT_EQ(servicio.RutaMeteo("Nueva\\b.met"), TextoDeRuta(directorio / "Meteo/Nueva/b.met"));
+}
+
+TEST(Rutas, UnDirectorioLarguisimoNoSeCorta) {
+  DirectorioTemporal directorio;
+  const std::string largo(1000, 'd');
+  directorio.Escribir("config.ini", "; rutas\nMET = " + largo + "/\n");
+  ServicioConfiguracion servicio(TextoDeRuta(directorio.Ruta()));
+  EXPECT_EQ(servicio.RutaMeteo("a"), TextoDeRuta(directorio.Ruta()) + "/" + largo + "/a");
+}
+
 TEST(Rutas, ElServicioCompartidoSeReponeEnLasPruebas) {
   DirectorioTemporal directorio;
   IniciarConfiguracion(TextoDeRuta(directorio.Ruta()));
