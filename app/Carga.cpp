@@ -56,11 +56,6 @@ ResultadoCarga SinLocalidad(const Programa &programa) {
   return ResultadoCarga::SinLocalidad;
 }
 
-bool EsNumero(std::string texto) {
-  AjustarSeparador(texto);
-  return TextoAReal(texto).has_value();
-}
-
 /// La entrada validada dice lo que está fuera de límites y calla lo que no es un número: eso se dice aquí. En
 /// los dos casos se sigue con el valor por defecto.
 void PonSuperficie(Programa &programa, const Seleccion::Superficie &superficie) {
@@ -69,7 +64,7 @@ void PonSuperficie(Programa &programa, const Seleccion::Superficie &superficie) 
   if (accion != nullptr && accion->superficie == textos) return;
   if (accion != nullptr) accion->superficie = textos;
   for (const Casilla &casilla : Casillas(superficie)) {
-    if (!EsNumero(casilla.texto)) DecirUnaVez(programa, MENSAJE_VALOR_INCORRECTO, casilla.rotulo);
+    if (!RealTecleado(casilla.texto)) DecirUnaVez(programa, MENSAJE_VALOR_INCORRECTO, casilla.rotulo);
     programa.DameLeerMet()->PonTexto(casilla.rotulo, casilla.texto);
   }
 }

@@ -42,9 +42,7 @@ std::vector<std::string_view> Partir(std::string_view texto, char separador) {
 
 bool EsNumeroNegativo(std::string_view texto) {
   if (texto.size() < 2 || texto.front() != '-' || texto[1] == '+' || texto[1] == '-') return false;
-  std::string copia(texto);
-  tesmo::AjustarSeparador(copia);
-  return TextoAReal(copia).has_value();
+  return RealTecleado(texto).has_value();
 }
 
 std::vector<std::string> Proteger(const std::vector<std::string> &argumentos) {
@@ -91,9 +89,7 @@ CLI::Option *AnadirArgumentos(CLI::App &orden, const std::string &nombre, std::v
 }
 
 double LeerNumero(const std::string &texto, const std::string &que) {
-  std::string copia = texto;
-  tesmo::AjustarSeparador(copia);
-  const std::optional<double> valor = TextoAReal(copia);
+  const std::optional<double> valor = RealTecleado(texto);
   if (!valor || !std::isfinite(*valor)) NoVale(que, texto, "no es un número");
   return *valor;
 }

@@ -15,11 +15,6 @@ namespace {
 /// Búfer de las cajas de la entrada validada: 250 caracteres con el terminador.
 constexpr std::size_t BUFER_MENSAJE = 249;
 
-std::optional<double> RealTecleado(std::string texto) {
-  AjustarSeparador(texto);
-  return TextoAReal(texto);
-}
-
 std::int32_t TruncarA32(double valor) {
   constexpr double MENOR = std::numeric_limits<std::int32_t>::min();
   constexpr double MAYOR = std::numeric_limits<std::int32_t>::max();

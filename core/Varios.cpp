@@ -78,10 +78,14 @@ std::optional<double> TextoAReal(std::string_view texto) {
   return LectorNumeros(numero).Real(); // infinito o cero, con su signo
 }
 
-float TextoARealOCero(std::string_view texto, bool &correcto) {
+std::optional<double> RealTecleado(std::string_view texto) {
   std::string copia(texto);
   AjustarSeparador(copia);
-  const std::optional<double> valor = TextoAReal(copia);
+  return TextoAReal(copia);
+}
+
+float TextoARealOCero(std::string_view texto, bool &correcto) {
+  const std::optional<double> valor = RealTecleado(texto);
   correcto = valor.has_value();
   return static_cast<float>(valor.value_or(0.0));
 }

@@ -14,7 +14,10 @@ void AjustarSeparador(std::string &texto);
 /// exponente. Ni nan, ni inf, ni separadores de millares. Vacío si @p texto no es exactamente eso.
 [[nodiscard]] std::optional<double> TextoAReal(std::string_view texto);
 
-/// AjustarSeparador y TextoAReal; lo que no es un número da 0 y pone @p correcto a falso.
+/// AjustarSeparador y TextoAReal: el número que alguien tecleó, con cualquiera de los dos separadores.
+[[nodiscard]] std::optional<double> RealTecleado(std::string_view texto);
+
+/// RealTecleado; lo que no es un número da 0 y pone @p correcto a falso.
 [[nodiscard]] float TextoARealOCero(std::string_view texto, bool &correcto);
 
 /// El prefijo entero de @p texto (blancos, signo, cifras), saturado a 32 bits; 0 si no lo hay.

@@ -83,9 +83,8 @@ void AjustesExtremos::TomarCallando(DiasExtremos &motor) const {
 void AjustesExtremos::AvisarPercentiles() const {
   for (const auto &[estacion, ajuste] : {std::pair{Estacion::Calefaccion, Ajuste::PerCal},
                                          std::pair{Estacion::Refrigeracion, Ajuste::PerRef}}) {
-    bool correcto = false;
-    (void)TextoARealOCero(pagina_.Percentil(estacion), correcto);
-    if (!correcto) DameMensajes().Mensaje(MENSAJE_VALOR_INCORRECTO, pagina_.Rotulo(ajuste));
+    if (!RealTecleado(pagina_.Percentil(estacion)))
+      DameMensajes().Mensaje(MENSAJE_VALOR_INCORRECTO, pagina_.Rotulo(ajuste));
   }
 }
 

@@ -42,10 +42,10 @@ bool EsDeSuperficie(Casilla casilla) {
   return casilla == Casilla::Orientacion || casilla == Casilla::Inclinacion || casilla == Casilla::Albedo;
 }
 
-bool EsIlegible(const std::string &texto) {
-  bool correcto = false;
-  (void)TextoARealOCero(texto, correcto);
-  return !correcto;
+/// Cómo nombra una casilla el mensaje: las de superficie, como al cargar; las demás, por su rótulo.
+std::string NombreEnMensaje(const Clave &clave) {
+  return EsDeSuperficie(clave.casilla) ? clave.nombre
+                                       : PaginaPosicionSolar::Rotulo(clave.casilla).toStdString();
 }
 
 /// Copia el texto de una casilla. Lo que no vale se dice y deja escrito el valor que toma su sitio; una
@@ -53,10 +53,8 @@ bool EsIlegible(const std::string &texto) {
 void CopiarCasilla(PaginaPosicionSolar &pagina, PosicionSolar &sol, const Clave &clave) {
   const std::string texto = pagina.TextoDe(clave.casilla).toStdString();
   const bool falta = texto.empty() && EsDeSuperficie(clave.casilla);
-  if (!falta && EsIlegible(texto)) {
-    DameMensajes().Mensaje(MENSAJE_VALOR_INCORRECTO,
-                           PaginaPosicionSolar::Rotulo(clave.casilla).toStdString());
-  }
+  if (!falta && !RealTecleado(texto))
+    DameMensajes().Mensaje(MENSAJE_VALOR_INCORRECTO, NombreEnMensaje(clave));
   sol.PonTexto(clave.nombre, texto);
   std::int32_t estado = ENTRADA_BLANCO;
   sol.DameEstado(clave.nombre, estado);

@@ -60,6 +60,16 @@ TEST(Varios, PrefijoEnteroTomaLasCifrasDelPrincipio) {
   EXPECT_EQ(PrefijoEntero("-99999999999999999999"), -2147483647 - 1);
 }
 
+TEST(Varios, LoTecleadoAdmiteLosDosSeparadores) {
+  for (const char separador : {'.', ','}) {
+    const ConSeparador este(separador);
+    EXPECT_EQ(RealTecleado("13.25"), 13.25);
+    EXPECT_EQ(RealTecleado("13,25"), 13.25);
+    EXPECT_FALSE(RealTecleado("1,2,3").has_value());
+    EXPECT_FALSE(RealTecleado("").has_value());
+  }
+}
+
 TEST(Varios, TextoARealOCeroDiceSiPudo) {
   const ConSeparador coma(',');
   bool correcto = false;

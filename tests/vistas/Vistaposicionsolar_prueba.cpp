@@ -230,6 +230,8 @@ private slots:
                               << "0.20";
     QTest::newRow("orientación con letras") << "edOrientacion"
                                             << "sur" << ilegible.arg("Orientación") << "0.00";
+    QTest::newRow("albedo con letras") << "edAlbedo"
+                                       << "gris" << ilegible.arg("Albedo") << "0.20";
   }
   void loQueNoValeSeDiceYQuedaElValorDeFabrica() {
     QFETCH(const QString, casilla);
