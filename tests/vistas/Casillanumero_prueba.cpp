@@ -2,6 +2,7 @@
 // un número se pierde y se enseña el separador regional.
 
 #include "tests/vistas/Manejo.h"
+#include "tests/vistas/Regional.h"
 #include "vistas/Casillanumero.h"
 
 #include <QLineEdit>
@@ -14,17 +15,6 @@ using namespace tesmo;
 using namespace tesmo::prueba;
 
 namespace {
-
-/// El separador que tocaría enseñar según las variables de entorno con que se llamó a la prueba.
-QChar SeparadorEsperado() {
-  const QByteArray forzado = qgetenv("TESMO_DECIMAL");
-  if (forzado == "coma") return ',';
-  if (forzado == "punto") return '.';
-  return qgetenv("LC_ALL").startsWith("es") ? ',' : '.';
-}
-
-/// @p texto con el separador de la región en el sitio de la coma.
-QString Regional(QString texto) { return texto.replace(',', SeparadorEsperado()); }
 
 void Terminar(QAbstractSpinBox &casilla, const QString &tecleado) {
   casilla.selectAll();

@@ -10,6 +10,7 @@
 #include "tests/vistas/Manejo.h"
 #include "vistas/Configuracion.h"
 #include "vistas/Dialogoauditar.h"
+#include "vistas/Dialogohorizonte.h"
 #include "vistas/Dialogoimportar.h"
 #include "vistas/Dialogomapa.h"
 #include "vistas/Ventanacolores.h"
@@ -110,6 +111,7 @@ private slots:
     importar_.emplace(ServiciosImportar{});
     mapa_.emplace(QString(), nullptr);
     auditar_.emplace(std::vector<NormalesLocalidad>{});
+    horizonte_.emplace(HorizonteLeido(), QStringLiteral("perfil.csv"), 37.0F, nullptr);
     pruebas_ = CodigoDeLasPruebas();
     QVERIFY(pruebas_.size() > 10000); // si no se leyó nada, lo demás no probaría nada
   }
@@ -117,6 +119,7 @@ private slots:
     auditar_.reset();
     mapa_.reset();
     importar_.reset();
+    horizonte_.reset();
     colores_.reset();
     ayuda_.reset();
     acercade_.reset();
@@ -194,7 +197,8 @@ private slots:
 
 private:
   [[nodiscard]] QList<QWidget *> Ventanas() {
-    return {&marco_->marco, &*acercade_, &*ayuda_, &*colores_, &*importar_, &*mapa_, &*auditar_};
+    return {&marco_->marco, &*acercade_, &*ayuda_,   &*colores_,
+            &*importar_,    &*mapa_,     &*auditar_, &*horizonte_};
   }
 
   [[nodiscard]] QList<QWidget *> Controles() {
@@ -271,6 +275,7 @@ private:
   std::optional<DialogoImportar> importar_;
   std::optional<DialogoMapa> mapa_;
   std::optional<DialogoAuditar> auditar_;
+  std::optional<DialogoHorizonte> horizonte_;
   QString pruebas_;
 };
 
