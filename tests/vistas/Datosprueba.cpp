@@ -1,10 +1,9 @@
 #include "tests/vistas/Datosprueba.h"
 
 #include "core/Calendario.h"
+#include "core/Formato.h"
 #include "core/Rutas.h"
 #include "localidades/Ciudad.h"
-
-#include <cstdio>
 
 namespace tesmo::prueba {
 
@@ -12,16 +11,16 @@ namespace {
 
 /// Un año con sol de 8 a 17 h, aire a medio saturar y viento constante.
 std::string TextoMet(float base, int registros, float altitud = DatosPrueba::ALTITUD_COSTA) {
-  std::string texto = "Datos de prueba\n36.84 -2.39 " + std::to_string(altitud) + " 15.0\n";
-  char linea[200];
+  // Con FormatoF: lo que sigue a la región escribiría comas.
+  std::string texto = "Datos de prueba\n36.84 -2.39 " + FormatoF(altitud) + " 15.0\n";
   for (int i = 0; i < registros; ++i) {
     const int hora = i % HORAS_DEL_DIA + 1;
     const bool deDia = hora >= 8 && hora <= 17;
-    std::snprintf(linea, sizeof linea, "1 1 %d %.1f %.1f %d %d 0.007 50 3.5 %.1f %d %.1f 0 0\n", hora,
-                  DatosPrueba::TemperaturaSeca(i, base), DatosPrueba::TemperaturaSeca(i, base) - 10.0F,
-                  deDia ? 400 : 0, deDia ? 120 : 0, DatosPrueba::DireccionViento(i),
-                  deDia ? (hora - 13) * 12 : 0, deDia ? 50.0 : 90.0);
-    texto += linea;
+    const float seca = DatosPrueba::TemperaturaSeca(i, base);
+    texto += "1 1 " + std::to_string(hora) + " " + FormatoF(seca) + " " + FormatoF(seca - 10.0F);
+    texto += deDia ? " 400 120" : " 0 0";
+    texto += " 0.007 50 3.5 " + FormatoF(DatosPrueba::DireccionViento(i)) + " ";
+    texto += std::to_string(deDia ? (hora - 13) * 12 : 0) + (deDia ? " 50.0 0 0\n" : " 90.0 0 0\n");
   }
   return texto;
 }
