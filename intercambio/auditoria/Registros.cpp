@@ -23,7 +23,8 @@ constexpr std::array<CodigosDeCampo, 12> CODIGOS{{
     {Campo::TemperaturaCielo, {99.9, 999.0, 9999.0, -99.9, -999.0, -9999.0}},
     {Campo::HumedadRelativa, {999.0, 9999.0, 999.9, -99.0, -999.0, -9999.0}},
     {Campo::HumedadAbsoluta, {99.9, 999.0, 9999.0, -1.0, -999.0, -9999.0}},
-    {Campo::Presion, {999999.0, 99999.0, 9999.0, 999900.0, -999.0, -9900.0}},
+    // 99999 Pa es una presión corriente cerca del mar: no es código
+    {Campo::Presion, {999999.0, -9999.0, 9999.0, 999900.0, -999.0, -9900.0}},
     // 999 W/m² es una radiación corriente: no es código
     {Campo::GlobalHorizontal, {9999.0, 99999.0, -99.0, -999.0, -9999.0, -9900.0}},
     {Campo::DirectaNormal, {9999.0, 99999.0, -99.0, -999.0, -9999.0, -9900.0}},

@@ -239,6 +239,14 @@ TEST(Auditoria, SinSitioLoQueNecesitaElSolNoSeComprueba) {
     EXPECT_EQ(Mirar(materia, clave).gravedad, Gravedad::NoComprobada) << clave;
 }
 
+TEST(Auditoria, UnaPresionCorrienteNoEsUnCodigo) {
+  MateriaAuditoria materia = MateriaLimpia();
+  Poner(materia, Campo::Presion, NOCHE, 99999.0);
+  EXPECT_EQ(Mirar(materia, "codigos").gravedad, Gravedad::Conforme);
+  Poner(materia, Campo::Presion, NOCHE, 999999.0);
+  EXPECT_EQ(Mirar(materia, "codigos").gravedad, Gravedad::Grave);
+}
+
 TEST(Auditoria, UnAnioVacioNoRevienta) {
   MateriaAuditoria materia;
   materia.registros = 0;
