@@ -16,6 +16,7 @@ RelojFichero ElegirReloj(const VeredictoReloj &veredicto, const EleccionReloj &e
     reloj.tiempo = *eleccion.tiempo;
   }
   if (eleccion.desfaseMin) reloj.desfaseMin = *eleccion.desfaseMin;
+  if (eleccion.husoHoras) reloj.husoHoras = *eleccion.husoHoras;
   return reloj;
 }
 

@@ -1,21 +1,20 @@
 #include "intercambio/Ficheroimportable.h"
 
 #include "core/Ficheros.h"
+#include "intercambio/Aniodefichero.h"
+#include "intercambio/Importacionlote.h"
 #include "intercambio/escritura/Textoanio.h"
 
 namespace tesmo {
 
 namespace {
 
-/// Así llenan algunos programas el nombre que no saben.
-bool DiceAlgo(const std::string &nombre) { return !nombre.empty() && nombre != "unknown" && nombre != "-"; }
-
 std::string NombreDeFichero(const std::string &ruta) { return TextoDeRuta(RutaDesdeTexto(ruta).filename()); }
 
 PeticionImportacion Proponer(const std::string &ruta, const MateriaAuditoria &materia) {
   PeticionImportacion peticion;
   const SitioClima &sitio = materia.anio.sitio;
-  peticion.nombre = DiceAlgo(sitio.nombre) ? sitio.nombre : TextoDeRuta(RutaDesdeTexto(ruta).stem());
+  peticion.nombre = NombreDeLocalidad(ruta, sitio);
   if (materia.normales != nullptr) {
     peticion.provincia = materia.normales->provincia;
     peticion.zona = materia.normales->zona;
@@ -27,17 +26,10 @@ PeticionImportacion Proponer(const std::string &ruta, const MateriaAuditoria &ma
 }
 
 /// Los errores de una lectura en una frase.
-std::string Errores(const ResultadoLectura &lectura) {
+std::string EnUnaFrase(const std::vector<std::string> &errores) {
   std::string texto;
-  for (const NotaLectura &nota : lectura.errores) texto += (texto.empty() ? "" : "; ") + nota.texto;
-  return texto.empty() ? "no tiene ningún registro" : texto;
-}
-
-FicheroImportado NoSePudo(std::string error) {
-  FicheroImportado importado;
-  importado.resultado.fallo = FalloImportacion::Peticion;
-  importado.resultado.error = std::move(error);
-  return importado;
+  for (const std::string &error : errores) texto += (texto.empty() ? "" : "; ") + error;
+  return texto;
 }
 
 } // namespace
@@ -69,13 +61,17 @@ FicheroImportado ImportarFichero(const std::string &directorio, const FicheroImp
   OpcionesLectura opciones;
   opciones.huecosLargos = fichero.huecosLargos;
   opciones.mapa = fichero.mapa;
-  const ResultadoLectura lectura = LeerFicheroClima(fichero.ruta, opciones);
-  if (!lectura.SinErrores()) return NoSePudo(Errores(lectura));
-  ResultadoConversion conversion = LlevarAHoraSolar(*lectura.anio, fichero.reloj);
-  if (!conversion.anio) return NoSePudo(conversion.error);
+  const RelojFichero &reloj = fichero.reloj;
+  AnioDeFichero leido =
+      LeerAnioDeFichero(fichero.ruta, {reloj.tiempo, reloj.desfaseMin, reloj.husoHoras}, opciones);
   FicheroImportado importado;
-  importado.informe = std::move(conversion.informe);
-  importado.resultado = ImportarLocalidad(directorio, fichero.peticion, *conversion.anio);
+  if (!leido.errores.empty()) {
+    importado.resultado.fallo = FalloImportacion::Peticion;
+    importado.resultado.error = EnUnaFrase(leido.errores);
+    return importado;
+  }
+  importado.informe = std::move(leido.conversion.informe);
+  importado.resultado = ImportarLocalidad(directorio, fichero.peticion, *leido.conversion.anio);
   return importado;
 }
 

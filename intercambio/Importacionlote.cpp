@@ -111,10 +111,13 @@ void Importar(const std::string &directorio, const OpcionesLote &opciones, std::
 
 } // namespace
 
+bool DiceAlgo(const std::string &nombre) {
+  const std::string plegado = PlegarMinusculas(nombre);
+  return !TextoDeCampo(nombre).empty() && plegado != "unknown" && plegado != "-";
+}
+
 std::string NombreDeLocalidad(const std::string &ruta, const SitioClima &sitio) {
-  const std::string plegado = PlegarMinusculas(sitio.nombre);
-  const bool diceAlgo = !TextoDeCampo(sitio.nombre).empty() && plegado != "unknown" && plegado != "-";
-  return diceAlgo ? sitio.nombre : TextoDeRuta(RutaDesdeTexto(ruta).stem());
+  return DiceAlgo(sitio.nombre) ? sitio.nombre : TextoDeRuta(RutaDesdeTexto(ruta).stem());
 }
 
 void ImportarLote(const std::string &directorio, const std::vector<std::string> &rutas,

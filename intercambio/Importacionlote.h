@@ -39,7 +39,9 @@ using AlImportarUno = std::function<void(std::size_t posicion, const FicheroDeLo
 void ImportarLote(const std::string &directorio, const std::vector<std::string> &rutas,
                   const OpcionesLote &opciones, const AlImportarUno &alImportar);
 
-/// El nombre de localidad de un fichero: el de su sitio o, si no lo dice o es «unknown», el del fichero.
+/// ¿Dice algo un nombre de sitio? Algunos programas escriben «unknown» o un guion en el que no saben.
+[[nodiscard]] bool DiceAlgo(const std::string &nombre);
+/// El nombre de localidad de un fichero: el de su sitio o, si no dice nada, el del fichero.
 [[nodiscard]] std::string NombreDeLocalidad(const std::string &ruta, const SitioClima &sitio);
 
 } // namespace tesmo

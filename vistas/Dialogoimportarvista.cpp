@@ -24,9 +24,10 @@ namespace tesmo {
 
 namespace {
 
-constexpr QSize TAMANO(1120, 680);
+constexpr QSize TAMANO(1240, 680);
 constexpr int FILAS_VISIBLES = 4;
-constexpr int ANCHO_AUDITORIA = 600, ANCHO_FICHA = 480; ///< reparto del detalle [px]
+constexpr int ANCHO_AUDITORIA = 780, ANCHO_FICHA = 440; ///< reparto del detalle [px]
+constexpr int ANCHO_MAXIMO_COLUMNA = 240;               ///< de la lista [px]; lo que no cabe va en su ayuda
 
 QPushButton *CrearBoton(const char *nombre, const QString &texto) {
   auto *boton = new QPushButton(texto);
@@ -71,11 +72,15 @@ QWidget *DialogoImportar::CrearLista() {
   tabla_->setSelectionBehavior(QAbstractItemView::SelectRows);
   tabla_->setSelectionMode(QAbstractItemView::SingleSelection);
   tabla_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  tabla_->setWordWrap(false);
+  tabla_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   tabla_->verticalHeader()->hide();
   tabla_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+  tabla_->horizontalHeader()->setMaximumSectionSize(ANCHO_MAXIMO_COLUMNA);
   tabla_->horizontalHeader()->setStretchLastSection(true);
   const int alto = tabla_->verticalHeader()->defaultSectionSize();
-  tabla_->setFixedHeight(tabla_->horizontalHeader()->sizeHint().height() + FILAS_VISIBLES * alto);
+  tabla_->setFixedHeight(tabla_->horizontalHeader()->sizeHint().height() + FILAS_VISIBLES * alto +
+                         2 * tabla_->frameWidth());
   fila->addWidget(tabla_, 1);
   auto *botones = new QVBoxLayout;
   btnAnadir_ = CrearBoton("btnAnadir", tr("&Añadir…"));

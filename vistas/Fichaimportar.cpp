@@ -1,5 +1,6 @@
 #include "vistas/Fichaimportar.h"
 
+#include "intercambio/Aniodefichero.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 #include "vistas/Casillanumero.h"
 #include "vistas/Dibujoreloj.h"
@@ -187,7 +188,8 @@ void FichaImportar::ElegirReloj() {
     fichero_->reloj = veredicto.declarado.reloj;
     break;
   default:
-    fichero_->reloj.tiempo = static_cast<TiempoEtiqueta>(cbReloj_->currentIndex() - Solar);
+    const auto tiempo = static_cast<TiempoEtiqueta>(cbReloj_->currentIndex() - Solar);
+    fichero_->reloj = tesmo::ElegirReloj(veredicto, {.tiempo = tiempo});
   }
   EnsenarReloj();
   emit cambiada();
