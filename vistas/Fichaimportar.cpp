@@ -64,6 +64,7 @@ QWidget *FichaImportar::CrearDatos(const std::vector<std::string> &provincias) {
   for (const std::string &provincia : provincias) cbProvincia_->addItem(Texto(provincia));
   btnTodos_ = new QPushButton(tr("Para todos"));
   btnTodos_->setObjectName(QStringLiteral("btnProvinciaTodos"));
+  btnTodos_->setAutoDefault(false); // Intro en el nombre no es para todos
   auto *fila = new QHBoxLayout;
   fila->addWidget(cbProvincia_, 1);
   fila->addWidget(btnTodos_);
