@@ -104,6 +104,7 @@ QWidget *DialogoImportar::CrearDetalle() {
   fichas_->setObjectName(QStringLiteral("fichasImportar"));
   meAuditoria_ = CrearTexto("meAuditoria");
   meResumen_ = CrearTexto("meResumen");
+  meResumen_->setLineWrapMode(QPlainTextEdit::WidgetWidth);
   fichas_->addTab(meAuditoria_, tr("Auditoría"));
   fichas_->addTab(meResumen_, tr("Resumen"));
   ficha_ = new FichaImportar(servicios_.provincias);
@@ -163,8 +164,7 @@ void DialogoImportar::EnsenarFila(std::size_t i) {
 void DialogoImportar::EnsenarElegido() {
   const auto i = Elegido();
   const bool leido = i && marchas_[*i].estado != Estado::SinLeer;
-  const bool quieto = leido && marchas_[*i].estado != Estado::Importado;
-  ficha_->Poner(quieto ? &ficheros_[*i] : nullptr);
+  ficha_->Poner(leido ? &ficheros_[*i] : nullptr);
   if (leido) {
     meAuditoria_->setPlainText(
         Texto(TextoAuditoria(QFileInfo(Texto(ficheros_[*i].ruta)).fileName().toStdString(),

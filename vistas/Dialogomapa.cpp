@@ -4,6 +4,7 @@
 #include "core/Ficheros.h"
 #include "core/Formato.h"
 #include "core/Varios.h"
+#include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/formatos/Clavesmapa.h"
 #include "intercambio/formatos/Filas.h"
 #include "intercambio/formatos/Unidadesclima.h"
@@ -162,7 +163,7 @@ void DialogoMapa::Poner(const MapaColumnas &mapa) {
   cbOrden_->setCurrentIndex(SitioDe(ORDENES, mapa.orden));
   cbTiempo_->setCurrentIndex(SitioDe(RELOJES, mapa.reloj.tiempo));
   csDesfase_->setValue(mapa.reloj.desfaseMin);
-  csHuso_->setValue(mapa.reloj.husoHoras);
+  csHuso_->setValue(mapa.husoDeLongitud ? HusoDeLongitud(mapa.longitud) : mapa.reloj.husoHoras);
   {
     const QSignalBlocker separador(cbSeparador_), cabecera(csCabecera_);
     cbSeparador_->setCurrentIndex(SitioDe(SEPARADORES, mapa.separador));

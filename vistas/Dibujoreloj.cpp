@@ -15,9 +15,16 @@ namespace {
 constexpr double SEPARACION = 16.0; ///< entre los dos lados [px]
 constexpr double PUNTO = 3.0;       ///< radio de un dato [px]
 constexpr int LETRAS_DE_ANCHO = 28; ///< de un lado
-constexpr int LINEAS_DE_ALTO = 11;
+constexpr int LINEAS_DE_ALTO = 12;
 constexpr QColor COLOR_SOL(0xE0, 0x8A, 0x00);
 constexpr QColor COLOR_HAZ(0x1F, 0x5F, 0xA8);
+
+/// El desfase no se parte entre dos renglones.
+QString DesfaseJunto(QString reloj) {
+  const qsizetype desfase = reloj.lastIndexOf(QLatin1String("etiqueta"));
+  return desfase < 0 ? reloj
+                     : reloj.left(desfase) + reloj.mid(desfase).replace(QLatin1Char(' '), QChar(QChar::Nbsp));
+}
 
 void PintarEjes(QPainter &pintor, const CajaCurso &caja, double linea) {
   pintor.setPen(QPen(pintor.pen().color(), 0));
@@ -94,12 +101,13 @@ void DibujoReloj::PintarLado(QPainter &pintor, const QRectF &caja, const Lado &l
                               ? QString()
                               : tr(", se aparta %1").arg(locale().toString(lado.curso.desviacion, 'f', 3));
   renglon(caja.top(), lado.titulo + reparto);
-  renglon(caja.top() + linea, lado.reloj);
+  pintor.drawText(QRectF(caja.left(), caja.top() + linea, caja.width(), 2.0 * linea),
+                  Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, DesfaseJunto(lado.reloj));
   const HorasCurso horas = HorasDelCurso(lado.curso);
   const CajaCurso dibujo{caja.left() + linea,
-                         caja.top() + 2.4 * linea,
+                         caja.top() + 3.4 * linea,
                          caja.width() - 2.0 * linea,
-                         caja.height() - 4.8 * linea,
+                         caja.height() - 5.8 * linea,
                          horas.primera,
                          horas.ultima};
   PintarEjes(pintor, dibujo, linea);

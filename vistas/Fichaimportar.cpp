@@ -36,6 +36,12 @@ CasillaReal *CrearCasilla(const QString &nombre, double minimo, double maximo, d
   return casilla;
 }
 
+/// Fuera de la hora oficial el huso no es parte del reloj: sólo va al fichero que se escribe.
+bool MismoReloj(const RelojFichero &uno, const RelojFichero &otro) {
+  return uno.tiempo == otro.tiempo && uno.desfaseMin == otro.desfaseMin &&
+         (uno.tiempo != TiempoEtiqueta::OficialEstandar || uno.husoHoras == otro.husoHoras);
+}
+
 QString DiaDelAnioTexto(std::size_t dia) {
   const std::size_t mes = MesDe(dia);
   return QStringLiteral("%1 de %2")
@@ -137,9 +143,9 @@ void FichaImportar::Ensenar() {
   cbReemplazar_->setChecked(fichero.peticion.reemplazar);
   cbRellenar_->setChecked(fichero.huecosLargos == HuecosLargos::RellenarVecinos);
   const VeredictoReloj &veredicto = fichero.materia.reloj;
-  if (fichero.reloj == RelojDeAuditoria(veredicto))
+  if (MismoReloj(fichero.reloj, RelojDeAuditoria(veredicto)))
     cbReloj_->setCurrentIndex(DeLosDatos);
-  else if (fichero.reloj == veredicto.declarado.reloj)
+  else if (MismoReloj(fichero.reloj, veredicto.declarado.reloj))
     cbReloj_->setCurrentIndex(Declarado);
   else
     cbReloj_->setCurrentIndex(Solar + static_cast<int>(fichero.reloj.tiempo));
@@ -154,7 +160,7 @@ void FichaImportar::EnsenarReloj() {
   csHuso_->setValue(reloj.husoHoras);
   ensenando_ = false;
   csDesfase_->setEnabled(propio);
-  csHuso_->setEnabled(propio && reloj.tiempo == TiempoEtiqueta::OficialEstandar);
+  csHuso_->setEnabled(propio || reloj.tiempo != TiempoEtiqueta::OficialEstandar);
   Dibujar();
 }
 
@@ -181,6 +187,7 @@ void FichaImportar::LeerDatos() {
 void FichaImportar::ElegirReloj() {
   if (ensenando_ || fichero_ == nullptr) return;
   const VeredictoReloj &veredicto = fichero_->materia.reloj;
+  const double huso = fichero_->reloj.husoHoras;
   switch (cbReloj_->currentIndex()) {
   case DeLosDatos:
     fichero_->reloj = RelojDeAuditoria(veredicto);
@@ -192,14 +199,16 @@ void FichaImportar::ElegirReloj() {
     const auto tiempo = static_cast<TiempoEtiqueta>(cbReloj_->currentIndex() - Solar);
     fichero_->reloj = tesmo::ElegirReloj(veredicto, {.tiempo = tiempo});
   }
+  if (fichero_->reloj.tiempo != TiempoEtiqueta::OficialEstandar) fichero_->reloj.husoHoras = huso;
   EnsenarReloj();
   emit cambiada();
 }
 
 void FichaImportar::LeerReloj() {
   if (ensenando_ || fichero_ == nullptr) return;
-  fichero_->reloj.desfaseMin = csDesfase_->value();
-  fichero_->reloj.husoHoras = csHuso_->value();
+  // Una casilla apagada enseña redondeado lo que no es suyo.
+  if (csDesfase_->isEnabled()) fichero_->reloj.desfaseMin = csDesfase_->value();
+  if (csHuso_->isEnabled()) fichero_->reloj.husoHoras = csHuso_->value();
   Dibujar();
   emit cambiada();
 }

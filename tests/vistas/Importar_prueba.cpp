@@ -166,7 +166,10 @@ private slots:
     QVERIFY(huso.isEnabled());
     huso.setValue(2.5);
     QCOMPARE(fichero.reloj.husoHoras, 2.5);
-    Control<QComboBox>(dialogo, "cbReloj").setCurrentIndex(2); // en hora solar no hay huso que valga
+    Control<QComboBox>(dialogo, "cbReloj").setCurrentIndex(4); // UTC: va al fichero escrito
+    QVERIFY(huso.isEnabled());
+    QCOMPARE(fichero.reloj.husoHoras, 2.5);
+    Control<QComboBox>(dialogo, "cbReloj").setCurrentIndex(1); // oficial, el del fichero
     QVERIFY(!huso.isEnabled());
   }
 
