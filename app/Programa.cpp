@@ -7,6 +7,8 @@
 #include "solar/Posicionsolar.h"
 
 #include <new>
+#include <utility>
+#include <vector>
 
 namespace tesmo {
 
@@ -17,6 +19,7 @@ struct Programa::Motores {
   std::shared_ptr<LeerMet> leerMet;
   std::shared_ptr<Psicro> psicro;
   std::string localidadCargada;
+  std::vector<std::function<void()>> alCargar;
   Accion *accion = nullptr;
 
   Motores() = default;
@@ -80,7 +83,17 @@ void Programa::DestruirMotores() { motores_->Destruir(); }
 
 bool Programa::HayDatos() const { return !motores_->localidadCargada.empty(); }
 const std::string &Programa::DameLocalidadCargada() const { return motores_->localidadCargada; }
-void Programa::PonLocalidadCargada(const std::string &localidad) { motores_->localidadCargada = localidad; }
+
+void Programa::PonLocalidadCargada(const std::string &localidad) {
+  motores_->localidadCargada = localidad;
+  // Un aviso puede inscribir otros: se recorre por posición y se llama a una copia.
+  for (std::size_t i = 0; i < motores_->alCargar.size(); ++i) {
+    const auto aviso = motores_->alCargar[i];
+    aviso();
+  }
+}
+
+void Programa::AlCargar(std::function<void()> aviso) { motores_->alCargar.push_back(std::move(aviso)); }
 
 Accion *Programa::DameAccion() const { return motores_->accion; }
 void Programa::PonAccion(Accion *accion) { motores_->accion = accion; }

@@ -55,6 +55,9 @@ public:
   [[nodiscard]] const std::string &DameLocalidadCargada() const;
   /// La anota el camino de carga (app/Carga.h); vacía: no hay datos.
   void PonLocalidadCargada(const std::string &localidad);
+  /// @p aviso se llama cada vez que se anota una carga, también sin datos, la pida quien la pida. Las copias
+  /// lo comparten; vale mientras quede alguna.
+  void AlCargar(std::function<void()> aviso);
 
   /// Acción del usuario en curso, que ella misma anota y borra (app/Accion.h); nula si no hay ninguna.
   [[nodiscard]] Accion *DameAccion() const;

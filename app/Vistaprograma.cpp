@@ -139,7 +139,6 @@ void VistaPrograma::CambiarProvincia() {
   RellenarLocalidades();
   PonLocalidadCargada({});
   vistaEntorno_->Vaciar();
-  vistaPsicrometrico_->redibujar();
   PonTitulo();
   vistaEstadisticas_->Calcular();
 }
@@ -154,7 +153,6 @@ void VistaPrograma::CambiarLocalidad() {
   const bool habiaSeries = vistaEntorno_->HaySeries();
   vistaEntorno_->Vaciar();
   PonLocalidadCargada({});
-  vistaPsicrometrico_->redibujar();
   if (!seleccion_.HayLocalidad() || !Cargar()) return;
   if (habiaSeries) Visualizar();
   vistaEstadisticas_->Calcular();
@@ -162,17 +160,7 @@ void VistaPrograma::CambiarLocalidad() {
 
 bool VistaPrograma::LeerDatos() {
   const ResultadoCarga resultado = CargarLocalidad(*this, seleccion_);
-  if (resultado == ResultadoCarga::FicheroNoAbierto) {
-    vistaEntorno_->Vaciar();
-    vistaPsicrometrico_->redibujar();
-    formulario_->DamePaginaEstadisticas().Vaciar({});
-  }
-  return resultado == ResultadoCarga::Cargada;
-}
-
-bool VistaPrograma::Cargar() {
-  if (!LeerDatos()) return false;
-  vistaPsicrometrico_->redibujar();
+  if (resultado != ResultadoCarga::Cargada) return false;
   DecirCarga();
   if (!DameLeerMet()->Resumen().Completa()) OfrecerImportar();
   return true;

@@ -60,6 +60,10 @@ Vistapsicrometrico::Vistapsicrometrico(PaginaPsicrometrico &pagina, PanelSelecci
       marco_(&pagina.DameMarco()) {
   marco_->PonContenido(&contenido_);
   Conectar();
+  // El programa vive más que esta vista.
+  programa_.AlCargar([this, viva = QPointer<QObject>(&avisos_)] {
+    if (viva) redibujar();
+  });
   redibujar();
 }
 
@@ -144,10 +148,8 @@ void Vistapsicrometrico::FijarPunto(int x, int y) {
 void Vistapsicrometrico::representar() {
   const CursorOcupado ocupado;
   seleccion_.PonPeriodo(panel_.LeerPeriodo());
-  const float presion = contenido_.carta.damePresion();
   // Las dos series que se marcan están en el fichero: no hay nada que derivar.
   if (AsegurarCarga(programa_, seleccion_) != ResultadoCarga::Cargada) return;
-  if (contenido_.carta.damePresion() != presion) redibujar(); // lo de antes era de otro sitio
   MarcarPeriodo();
   pagina_.DameMarco().Redibujar();
 }

@@ -31,7 +31,8 @@ public:
   Vistapsicrometrico(const Vistapsicrometrico &) = delete;
   Vistapsicrometrico &operator=(const Vistapsicrometrico &) = delete;
 
-  /// Pone la presión por la altitud, quita las marcas y dibuja la carta desde el principio.
+  /// Pone la presión por la altitud, quita las marcas y dibuja la carta desde el principio: tras cada carga
+  /// del programa, la pida quien la pida, y al limpiar.
   void redibujar();
   /// Enseña lo que hay en el píxel (@p x, @p y) de la carta, aunque caiga fuera de la imagen; por encima de
   /// la saturación no cambia nada.

@@ -112,6 +112,17 @@ TEST_F(ProgramaYMotores, DestruirLosMotoresDeUnaCopiaDejaNulosLosDeTodas) {
   EXPECT_NE(enLista.DameLocalidades(), nullptr);
 }
 
+TEST_F(ProgramaYMotores, TodaCargaSeAvisaUnaVezYLaVenTodasLasCopias) {
+  Programa programa;
+  Programa copia(programa);
+  std::vector<std::string> avisos;
+  programa.AlCargar([&] { avisos.push_back("1 " + copia.DameLocalidadCargada()); });
+  copia.AlCargar([&] { avisos.push_back("2 " + copia.DameLocalidadCargada()); });
+  copia.PonLocalidadCargada("Rota");
+  programa.PonLocalidadCargada({});
+  EXPECT_EQ(avisos, (std::vector<std::string>{"1 Rota", "2 Rota", "1 ", "2 "}));
+}
+
 TEST_F(ProgramaYMotores, SinMemoriaParaUnMotorSigueConLosDemas) {
   FabricaMotores fabrica = FabricaAnotada(sucesos_);
   fabrica.leerMet = []() -> std::shared_ptr<LeerMet> { throw std::bad_alloc(); };
