@@ -7,6 +7,7 @@
 #include "core/Codificacion.h"
 #include "core/Ficheros.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -90,7 +91,18 @@ std::optional<std::string> LeerGuion(const std::optional<std::string> &ruta) {
   return contenido;
 }
 
+/// El registro empieza vaciando su fichero: sobre el guion lo perdería.
+void ExigirDistintos(const Datos &datos) {
+  if (!datos.registro || datos.fichero.value_or(ENTRADA) == ENTRADA) return;
+  std::error_code sinInteres; // el que falte no es el mismo
+  if (std::filesystem::equivalent(RutaDesdeTexto(*datos.fichero), RutaDesdeTexto(*datos.registro),
+                                  sinInteres))
+    throw Fallo(Estado::UsoIncorrecto,
+                "--registro: «" + *datos.registro + "» es el mismo fichero que las líneas; dé otro");
+}
+
 void Ejecutar(const Datos &datos, Contexto &contexto) {
+  ExigirDistintos(datos);
   const std::optional<std::string> lineas = LeerGuion(datos.fichero);
   Registro registro(datos.registro, contexto.salida);
   GuionCorrientes guion([&registro](std::string_view texto) { registro.Escribir(texto); });

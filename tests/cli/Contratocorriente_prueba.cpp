@@ -68,6 +68,22 @@ TEST_F(OrdenCorriente, LaAyudaNoEnsuciaLaSalida) {
     EXPECT_NE(e.error.find(std::string("\n  ") + orden + " "), std::string::npos) << orden;
 }
 
+TEST_F(OrdenCorriente, ElRegistroNoPuedeSerElPropioGuion) {
+  const std::string lineas = "a pont_w 12 0\na dame t\n";
+  const std::string guion = raiz_.Escribir("g.txt", lineas);
+  const std::string otroNombre = raiz_.Escribir("otro.txt", "");
+  std::filesystem::remove(otroNombre);
+  std::filesystem::create_hard_link(guion, otroNombre);
+  for (const std::string &registro : {guion, otroNombre}) {
+    const Ejecucion e = Orden({"corriente", guion, "--registro", registro});
+    EXPECT_EQ(e.estado, 2);
+    EXPECT_NE(e.error.find("--registro"), std::string::npos) << e.error;
+    EXPECT_NE(e.error.find(registro), std::string::npos) << e.error;
+    EXPECT_EQ(e.salida, "");
+    EXPECT_EQ(Contenido(guion), lineas);
+  }
+}
+
 TEST_F(OrdenCorriente, ElRegistroRecibeLosTextosYSigueTrasEscribir) {
   const std::string registro = raiz_.Escribir("registro.txt", "lo de antes\n");
   const std::string guion =
