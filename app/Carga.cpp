@@ -12,17 +12,10 @@
 #include "solar/Posicionsolar.h"
 
 #include <array>
-#include <cmath>
 
 namespace tesmo {
 
 namespace {
-
-/// Parámetro de la carta psicrométrica que guarda su presión [Pa].
-constexpr int PARAMETRO_PRESION = 15;
-/// Altitudes [m] que se creen; fuera de ellas se está al nivel del mar.
-constexpr float ALTITUD_MINIMA = -500.0F;
-constexpr float ALTITUD_MAXIMA = 9000.0F;
 
 struct Casilla {
   const char *rotulo; ///< clave del valor y texto del mensaje
@@ -124,16 +117,18 @@ ResultadoCarga PrepararDatos(Programa &programa, const Seleccion &seleccion) {
   const ResultadoCarga resultado = AsegurarCarga(programa, seleccion);
   if (resultado != ResultadoCarga::Cargada) return resultado;
   if (programa.DamePsicro() != nullptr && programa.DamePosicionSolar() != nullptr)
-    programa.DameLeerMet()->AsegurarDerivadas(programa.DamePsicro()->dameParametro(PARAMETRO_PRESION),
+    programa.DameLeerMet()->AsegurarDerivadas(programa.DamePsicro()->damePresion(),
                                               *programa.DamePosicionSolar());
   return resultado;
 }
+
+bool AltitudCreible(float altitud) { return altitud >= ALTITUD_MINIMA && altitud <= ALTITUD_MAXIMA; }
 
 float AltitudEnUso(const Programa &programa, const Seleccion &seleccion) {
   const LeerMet *meteo = programa.DameLeerMet();
   const float delFichero = meteo != nullptr && programa.HayDatos() ? meteo->TercerDato() : 0.0F;
   const float altitud = seleccion.DameAltitudUsuario().value_or(delFichero);
-  return std::isfinite(altitud) && altitud >= ALTITUD_MINIMA && altitud <= ALTITUD_MAXIMA ? altitud : 0.0F;
+  return AltitudCreible(altitud) ? altitud : 0.0F;
 }
 
 } // namespace tesmo

@@ -160,7 +160,15 @@ void VistaPrograma::CambiarLocalidad() {
 
 bool VistaPrograma::LeerDatos() {
   const ResultadoCarga resultado = CargarLocalidad(*this, seleccion_);
-  if (resultado != ResultadoCarga::Cargada) return false;
+  if (resultado == ResultadoCarga::FicheroNoAbierto) {
+    vistaEntorno_->Vaciar();
+    formulario_->DamePaginaEstadisticas().Vaciar({});
+  }
+  return resultado == ResultadoCarga::Cargada;
+}
+
+bool VistaPrograma::Cargar() {
+  if (!LeerDatos()) return false;
   DecirCarga();
   if (!DameLeerMet()->Resumen().Completa()) OfrecerImportar();
   return true;
@@ -182,8 +190,8 @@ void VistaPrograma::Actualizar() {
 
 void VistaPrograma::Visualizar() {
   if (!vistaEntorno_->visualizar()) return;
-  if (!DameLeerMet()->Resumen().Completa()) {
-    DecirCarga(); // que faltan horas importa más que cómo se maneja el gráfico
+  if (!DameLeerMet()->Resumen().Completa() || !AltitudCreible(DameLeerMet()->TercerDato())) {
+    DecirCarga(); // lo que le falta al fichero importa más que cómo se maneja el gráfico
     return;
   }
   Decir(QObject::tr(
@@ -216,20 +224,29 @@ void VistaPrograma::Decir(const QString &texto) const {
   if (formulario_) emit formulario_->estado(texto);
 }
 
-/// La lectura no rechaza un fichero incompleto; aquí se dice sin interrumpir.
+/// La lectura no rechaza un fichero incompleto ni una altitud imposible; aquí se dice sin interrumpir.
 void VistaPrograma::DecirCarga() const {
   const ResumenLectura &resumen = DameLeerMet()->Resumen();
   const QString localidad = Texto(seleccion_.DameLocalidad());
-  if (resumen.registros == HORAS_DEL_ANIO)
-    return Decir(QObject::tr("%1: leídas las %2 horas del año.").arg(localidad).arg(resumen.registros));
-  if (!formulario_) return;
-  formulario_->Avisar(
-      QObject::tr(
-          "%1: sólo se pudieron leer %2 de las %3 horas del año; la lectura se detuvo en la línea %4.")
-          .arg(localidad)
-          .arg(resumen.registros)
-          .arg(HORAS_DEL_ANIO)
-          .arg(resumen.linea));
+  QString texto =
+      resumen.registros == HORAS_DEL_ANIO
+          ? QObject::tr("%1: leídas las %2 horas del año.").arg(localidad).arg(resumen.registros)
+          : QObject::tr(
+                "%1: sólo se pudieron leer %2 de las %3 horas del año; la lectura se detuvo en la línea %4.")
+                .arg(localidad)
+                .arg(resumen.registros)
+                .arg(HORAS_DEL_ANIO)
+                .arg(resumen.linea);
+  const float altitud = DameLeerMet()->TercerDato();
+  const bool altitudMala = !seleccion_.DameAltitudUsuario() && !AltitudCreible(altitud);
+  if (altitudMala) {
+    texto += QObject::tr(" Su altitud, %1 m, no está entre %2 y %3: se calcula al nivel del mar.")
+                 .arg(static_cast<double>(altitud))
+                 .arg(static_cast<double>(ALTITUD_MINIMA))
+                 .arg(static_cast<double>(ALTITUD_MAXIMA));
+  }
+  if (resumen.registros == HORAS_DEL_ANIO && !altitudMala) return Decir(texto);
+  if (formulario_) formulario_->Avisar(texto);
 }
 
 } // namespace tesmo
