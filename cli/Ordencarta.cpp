@@ -6,7 +6,7 @@
 #include "cli/Opcionescarta.h"
 #include "cli/Opcionesseleccion.h"
 #include "core/Ficheros.h"
-#include "meteo/Leermet.h"
+#include "meteo/Estadoshorarios.h"
 #include "psicro/Marcacarta.h"
 #include "psicro/Psicrometrico.h"
 
@@ -30,12 +30,6 @@ struct Datos {
   OpcionesCarta carta;
   std::optional<std::string> horas, salida, registro;
   bool ordenes = false;
-};
-
-/// Un estado del aire: temperatura seca [°C] y humedad absoluta [kg/kg].
-struct EstadoAire {
-  float t;
-  float w;
 };
 
 bool GuardarSvg(const std::string &ruta, int ancho, int alto, const DibujarEn &dibujar) {
@@ -66,24 +60,6 @@ Guardar ElegirGuardar(const std::string &ruta) {
   return guardar;
 }
 
-/// Los estados del período dentro de las horas del día pedidas.
-std::vector<EstadoAire> Nube(const LeerMet &meteo, std::pair<int, int> horas) {
-  const auto serie = [&](Magnitud magnitud) {
-    std::vector<float> valores(static_cast<std::size_t>(meteo.HorasDelPeriodo()));
-    meteo.DameSerie(Ficha(magnitud).rotulo, valores.data());
-    return valores;
-  };
-  const std::vector<float> t = serie(Magnitud::TS);
-  const std::vector<float> w = serie(Magnitud::HAkg);
-  std::vector<EstadoAire> nube;
-  nube.reserve(t.size());
-  for (std::size_t i = 0; i < t.size(); ++i) {
-    const int hora = FechaDeIndice(meteo.PrimeraHora() + static_cast<int>(i)).hora;
-    if (hora >= horas.first && hora <= horas.second) nube.push_back({t[i], w[i]});
-  }
-  return nube;
-}
-
 bool HayDatos(const OpcionesSeleccion &opciones) { return opciones.localidad || opciones.fichero; }
 
 void ExigirDatos(const Datos &datos) {
@@ -93,7 +69,7 @@ void ExigirDatos(const Datos &datos) {
 }
 
 /// Pone la presión de la carta y devuelve los estados que hay que marcar en ella.
-std::vector<EstadoAire> Preparar(const Datos &datos, Contexto &contexto, Psicro &carta) {
+std::vector<EstadoHorario> Preparar(const Datos &datos, Contexto &contexto, Psicro &carta) {
   if (!HayDatos(datos.seleccion)) {
     ExigirDatos(datos);
     const PeticionPresion pedida = InterpretarPresion(datos.seleccion);
@@ -108,7 +84,7 @@ std::vector<EstadoAire> Preparar(const Datos &datos, Contexto &contexto, Psicro 
   std::optional<Programa> programa;
   Cargar(peticion, contexto, programa);
   carta.ponPresion(programa->DamePsicro()->damePresion());
-  return Nube(*programa->DameLeerMet(), horas);
+  return EstadosDelPeriodo(*programa->DameLeerMet(), horas.first, horas.second);
 }
 
 void Ejecutar(const Datos &datos, Contexto &contexto) {
@@ -119,10 +95,10 @@ void Ejecutar(const Datos &datos, Contexto &contexto) {
   const std::string salida = RutaAbsoluta(datos.salida.value_or(""));
   Psicro carta;
   Aplicar(datos.carta, carta);
-  const std::vector<EstadoAire> nube = Preparar(datos, contexto, carta);
+  const std::vector<EstadoHorario> nube = Preparar(datos, contexto, carta);
   const auto dibujar = [&](Lienzo &lienzo) {
     carta.dibujar(lienzo, tamano.ancho, tamano.alto);
-    for (const EstadoAire &estado : nube) MarcarPunto(lienzo, carta, estado.t, estado.w, COLOR_MARCA);
+    for (const EstadoHorario &estado : nube) MarcarPunto(lienzo, carta, estado.t, estado.w, COLOR_MARCA);
   };
   if (datos.ordenes) {
     LienzoOrdenes lienzo;
