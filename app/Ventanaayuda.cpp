@@ -1,6 +1,7 @@
 #include "app/Ventanaayuda.h"
 
 #include "app/Manual.h"
+#include "vistas/Botones.h"
 
 #include <QHBoxLayout>
 #include <QImageReader>
@@ -30,13 +31,6 @@ public:
   }
 };
 
-QPushButton *CrearBoton(QHBoxLayout &fila, const char *nombre, const QString &texto) {
-  auto *boton = new QPushButton(texto);
-  boton->setObjectName(QString::fromLatin1(nombre));
-  fila.addWidget(boton);
-  return boton;
-}
-
 } // namespace
 
 VentanaAyuda::VentanaAyuda(QWidget *padre) : QWidget(padre, Qt::Window) {
@@ -47,9 +41,10 @@ VentanaAyuda::VentanaAyuda(QWidget *padre) : QWidget(padre, Qt::Window) {
   tbManual_->setObjectName(QStringLiteral("tbManual"));
   tbManual_->document()->setDocumentMargin(16);
   auto *fila = new QHBoxLayout;
-  QPushButton *portada = CrearBoton(*fila, "btnPortada", tr("&Portada"));
-  QPushButton *atras = CrearBoton(*fila, "btnAtras", tr("&Atrás"));
-  QPushButton *adelante = CrearBoton(*fila, "btnAdelante", tr("A&delante"));
+  QPushButton *portada = CrearBoton("btnPortada", tr("&Portada"));
+  QPushButton *atras = CrearBoton("btnAtras", tr("&Atrás"));
+  QPushButton *adelante = CrearBoton("btnAdelante", tr("A&delante"));
+  for (QPushButton *boton : {portada, atras, adelante}) fila->addWidget(boton);
   fila->addStretch(1);
   atras->setEnabled(false);
   adelante->setEnabled(false);

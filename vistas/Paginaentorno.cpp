@@ -1,5 +1,6 @@
 #include "vistas/Paginaentorno.h"
 
+#include "vistas/Botones.h"
 #include "vistas/Grafico.h"
 #include "vistas/Gruposmagnitud.h"
 #include "vistas/Textoqt.h"
@@ -44,7 +45,7 @@ PaginaEntorno::PaginaEntorno(QWidget *padre) : QWidget(padre) {
   disposicion->addWidget(graEntorno_, 1);
 }
 
-QWidget *PaginaEntorno::CrearColumna() {
+QWidget *PaginaEntorno::CrearCasillas() {
   auto *grupos = new QWidget;
   auto *pila = new QVBoxLayout(grupos);
   pila->setContentsMargins(0, 0, 0, 0);
@@ -60,29 +61,36 @@ QWidget *PaginaEntorno::CrearColumna() {
   desplazable->setWidget(grupos);
   desplazable->setMinimumWidth(grupos->sizeHint().width() +
                                desplazable->verticalScrollBar()->sizeHint().width());
+  return desplazable;
+}
 
+QWidget *PaginaEntorno::CrearColumna() {
   auto *columna = new QWidget(this);
   columna->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   auto *disposicion = new QVBoxLayout(columna);
   disposicion->setContentsMargins(0, 0, 0, 0);
-  disposicion->addWidget(desplazable, 1);
+  disposicion->addWidget(CrearCasillas(), 1);
   cbTrazosDistintos_ = new QCheckBox(tr("Tra&zos distintos"));
   cbTrazosDistintos_->setObjectName(QStringLiteral("cbTrazosDistintos"));
   cbTrazosDistintos_->setToolTip(
       tr("Las líneas se distinguen también por sus guiones, no sólo por el color"));
   connect(cbTrazosDistintos_, &QCheckBox::toggled, this, &PaginaEntorno::trazosCambiados);
   disposicion->addWidget(cbTrazosDistintos_);
+  disposicion->addLayout(CrearBotones());
+  return columna;
+}
+
+QHBoxLayout *PaginaEntorno::CrearBotones() {
   auto *botones = new QHBoxLayout;
-  QPushButton *visualizar = CrearBoton(QStringLiteral("btnSimulacion"), tr("&Visualizar"),
-                                       tr("Dibuja las variables del período elegido"));
-  QPushButton *ejes = CrearBoton(QStringLiteral("btnEjesPorUnidad"), tr("E&jes por unidad"),
+  QPushButton *visualizar =
+      CrearBoton("btnSimulacion", tr("&Visualizar"), tr("Dibuja las variables del período elegido"));
+  QPushButton *ejes = CrearBoton("btnEjesPorUnidad", tr("E&jes por unidad"),
                                  tr("Reparte las variables entre los dos ejes según sus unidades"));
   connect(visualizar, &QPushButton::clicked, this, &PaginaEntorno::visualizarPedido);
   connect(ejes, &QPushButton::clicked, this, &PaginaEntorno::ejesPorUnidadPedidos);
   botones->addWidget(visualizar);
   botones->addWidget(ejes);
-  disposicion->addLayout(botones);
-  return columna;
+  return botones;
 }
 
 QCheckBox *PaginaEntorno::CrearCasilla(const FichaMagnitud &ficha) {
@@ -97,13 +105,6 @@ QCheckBox *PaginaEntorno::CrearCasilla(const FichaMagnitud &ficha) {
   casillas_[static_cast<std::size_t>(i)] = casilla;
   PonColor(i, Color(ficha.color)); // la muestra cuenta en el ancho de la columna
   return casilla;
-}
-
-QPushButton *PaginaEntorno::CrearBoton(const QString &nombre, const QString &texto, const QString &ayuda) {
-  auto *boton = new QPushButton(texto);
-  boton->setObjectName(nombre);
-  boton->setToolTip(ayuda);
-  return boton;
 }
 
 void PaginaEntorno::PonColor(int i, const QColor &color) {

@@ -8,6 +8,7 @@
 #include <array>
 
 class QCheckBox;
+class QHBoxLayout;
 class QMenu;
 class QPushButton;
 class QVBoxLayout;
@@ -41,8 +42,9 @@ signals:
 
 private:
   QWidget *CrearColumna();
+  QWidget *CrearCasillas();
+  QHBoxLayout *CrearBotones();
   QCheckBox *CrearCasilla(const FichaMagnitud &ficha);
-  QPushButton *CrearBoton(const QString &nombre, const QString &texto, const QString &ayuda);
   void EnsenarMenu(int i, const QPoint &donde);
 
   std::array<QCheckBox *, NUMERO_MAGNITUDES_VISOR> casillas_{};

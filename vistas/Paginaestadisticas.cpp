@@ -1,5 +1,6 @@
 #include "vistas/Paginaestadisticas.h"
 
+#include "vistas/Botones.h"
 #include "vistas/Casillanumero.h"
 #include "vistas/Gruposmagnitud.h"
 #include "vistas/Tablatexto.h"
@@ -120,9 +121,9 @@ QGroupBox *PaginaEstadisticas::CrearHorario() {
   auto *fila = new QHBoxLayout(caja);
   csVHorIni_ = CrearHora("csVHorIni", 1);
   csVHorFin_ = CrearHora("csVHorFin", HORAS_DEL_DIA);
-  fila->addWidget(new QLabel(tr("De")));
+  fila->addWidget(CrearRotulo(tr("D&e"), *csVHorIni_));
   fila->addWidget(csVHorIni_);
-  fila->addWidget(new QLabel(tr("a")));
+  fila->addWidget(CrearRotulo(tr("a"), *csVHorFin_)); // su única letra ya es de un menú
   fila->addWidget(csVHorFin_);
   fila->addStretch(1);
   return caja;
@@ -145,9 +146,9 @@ QGroupBox *PaginaEstadisticas::CrearBases() {
   auto *rejilla = new QGridLayout(caja);
   csBaseCal_ = CrearBase("csBaseCal", BasesGradosDia{}.calefaccion);
   csBaseRef_ = CrearBase("csBaseRef", BasesGradosDia{}.refrigeracion);
-  rejilla->addWidget(new QLabel(tr("Calefacción")), 0, 0);
+  rejilla->addWidget(CrearRotulo(tr("Cale&facción"), *csBaseCal_), 0, 0);
   rejilla->addWidget(csBaseCal_, 0, 1);
-  rejilla->addWidget(new QLabel(tr("Refrigeración")), 1, 0);
+  rejilla->addWidget(CrearRotulo(tr("&Refrigeración"), *csBaseRef_), 1, 0);
   rejilla->addWidget(csBaseRef_, 1, 1);
   return caja;
 }
@@ -212,13 +213,6 @@ QGroupBox *PaginaEstadisticas::CrearMeses() {
           [this] { QApplication::clipboard()->setText(TextoDeTabla(*tablaMeses_)); });
   pila->addWidget(btnCopiarMeses_, 0, Qt::AlignRight);
   return caja;
-}
-
-QPushButton *PaginaEstadisticas::CrearBoton(const char *nombre, const QString &texto, const QString &ayuda) {
-  auto *boton = new QPushButton(texto);
-  boton->setObjectName(Nombre(nombre));
-  boton->setToolTip(ayuda);
-  return boton;
 }
 
 Magnitud PaginaEstadisticas::Elegida() const {

@@ -67,7 +67,6 @@ private:
   QLineEdit *CrearCasillaDeResultado(const QString &nombre, int letras);
   CasillaEntera *CrearHora(const char *nombre, int valor);
   CasillaReal *CrearBase(const char *nombre, float valor);
-  QPushButton *CrearBoton(const char *nombre, const QString &texto, const QString &ayuda);
 
   struct Controles {
     QLabel *rotulo = nullptr;

@@ -1,5 +1,6 @@
 #include "vistas/Paginaexportacion.h"
 
+#include "vistas/Botones.h"
 #include "vistas/Gruposmagnitud.h"
 #include "vistas/Textoqt.h"
 
@@ -118,13 +119,6 @@ QGroupBox *PaginaExportacion::CrearSeparadores() {
   anadir("rbComa", tr("&Coma"), ",");
   anadir("rbPuntoComa", tr("P&unto y coma"), ";");
   return caja;
-}
-
-QPushButton *PaginaExportacion::CrearBoton(const char *nombre, const QString &texto, const QString &ayuda) {
-  auto *boton = new QPushButton(texto);
-  boton->setObjectName(QString::fromLatin1(nombre));
-  boton->setToolTip(ayuda);
-  return boton;
 }
 
 void PaginaExportacion::Anadir(const QString &rotulo) {

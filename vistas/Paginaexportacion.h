@@ -51,7 +51,6 @@ private:
   QGroupBox *CrearLista();
   QWidget *CrearOpciones();
   QGroupBox *CrearSeparadores();
-  QPushButton *CrearBoton(const char *nombre, const QString &texto, const QString &ayuda);
   void Mover(int paso);
 
   QListWidget *lbListaVariables_ = nullptr;

@@ -1,5 +1,6 @@
 #include "vistas/Paginaposicionsolar.h"
 
+#include "vistas/Botones.h"
 #include "vistas/Graficosolar.h"
 
 #include <QGridLayout>
@@ -210,9 +211,7 @@ QWidget *PaginaPosicionSolar::CrearCarta() {
 
 QPushButton *PaginaPosicionSolar::CrearBoton(const char *nombre, const QString &texto, const QString &ayuda,
                                              void (PaginaPosicionSolar::*senal)()) {
-  auto *boton = new QPushButton(texto);
-  boton->setObjectName(QString::fromLatin1(nombre));
-  boton->setToolTip(ayuda);
+  QPushButton *boton = tesmo::CrearBoton(nombre, texto, ayuda);
   if (senal != nullptr) connect(boton, &QPushButton::clicked, this, [this, senal] { emit(this->*senal)(); });
   return boton;
 }

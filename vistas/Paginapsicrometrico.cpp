@@ -1,13 +1,15 @@
 #include "vistas/Paginapsicrometrico.h"
 
+#include "app/Carga.h"
+#include "vistas/Botones.h"
 #include "vistas/Casillanumero.h"
+#include "vistas/Etiquetapulsable.h"
 #include "vistas/Marcocarta.h"
 #include "vistas/Tablapuntos.h"
 #include "vistas/Valoresaire.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -33,10 +35,8 @@ constexpr std::array<FichaCasilla, PaginaPsicrometrico::NUMERO_FAMILIAS_VISTAS> 
     {"cbVerVE", QT_TRANSLATE_NOOP("PaginaPsicrometrico", "Volumen específico")},
 }};
 
-constexpr int ANCHO_VALOR = 78;           ///< [px]
-constexpr int MAXIMO_HORA = 24;           ///< del día
-constexpr double ALTITUD_MINIMA = -500.0; ///< [m]
-constexpr double ALTITUD_MAXIMA = 9000.0; ///< [m]
+constexpr int ANCHO_VALOR = 78; ///< [px]
+constexpr int MAXIMO_HORA = 24; ///< del día
 
 QString Nombre(const char *control) { return QString::fromLatin1(control); }
 
@@ -118,9 +118,9 @@ QGroupBox *PaginaPsicrometrico::CrearHorario() {
   fila->setContentsMargins(6, 2, 6, 4);
   csPHorIni_ = CrearHora("csPHorIni", 1);
   csPHorFin_ = CrearHora("csPHorFin", MAXIMO_HORA);
-  fila->addWidget(new QLabel(tr("Inicio")));
+  fila->addWidget(CrearRotulo(tr("Inici&o"), *csPHorIni_));
   fila->addWidget(csPHorIni_);
-  fila->addWidget(new QLabel(tr("Final")));
+  fila->addWidget(CrearRotulo(tr("&Final"), *csPHorFin_));
   fila->addWidget(csPHorFin_);
   return caja;
 }
@@ -132,11 +132,9 @@ QGroupBox *PaginaPsicrometrico::CrearNube() {
   pila->setSpacing(3);
   pila->addWidget(CrearHorario());
   auto *punto = new QHBoxLayout;
-  lbPunto_ = new QLabel(tr("Punto"));
-  lbPunto_->setObjectName(QStringLiteral("lbPunto"));
-  lbPunto_->setCursor(Qt::PointingHandCursor);
-  lbPunto_->setToolTip(tr("Pulse para elegir el color de las marcas"));
-  lbPunto_->installEventFilter(this);
+  auto *rotulo = new EtiquetaPulsable(tr("Punto"), [this] { emit colorPuntoPedido(); });
+  rotulo->setObjectName(QStringLiteral("lbPunto"));
+  rotulo->setToolTip(tr("Pulse para elegir el color de las marcas"));
   edPunto_ = new QLineEdit;
   edPunto_->setObjectName(QStringLiteral("edPunto"));
   edPunto_->setReadOnly(true);
@@ -146,7 +144,7 @@ QGroupBox *PaginaPsicrometrico::CrearNube() {
   colorear->addItems({tr("Un color"), tr("Por hora"), tr("Por mes"), tr("Por estación")});
   connect(colorear, &QComboBox::currentIndexChanged, this,
           [this](int i) { emit coloreoCambiado(static_cast<ColoreoNube>(i)); });
-  punto->addWidget(lbPunto_);
+  punto->addWidget(rotulo);
   punto->addWidget(edPunto_);
   punto->addWidget(colorear, 1);
   pila->addLayout(punto);
@@ -181,7 +179,7 @@ QGroupBox *PaginaPsicrometrico::CrearFamilias() {
 void PaginaPsicrometrico::CrearAltitud(QGridLayout &rejilla) {
   csAltitud_ = new CasillaReal;
   csAltitud_->setObjectName(QStringLiteral("csAltitud"));
-  csAltitud_->setRange(ALTITUD_MINIMA, ALTITUD_MAXIMA);
+  csAltitud_->setRange(double{ALTITUD_MINIMA}, double{ALTITUD_MAXIMA});
   csAltitud_->setDecimals(1);
   csAltitud_->setAlignment(Qt::AlignRight);
   csAltitud_->setFixedWidth(ANCHO_VALOR);
@@ -192,19 +190,10 @@ void PaginaPsicrometrico::CrearAltitud(QGridLayout &rejilla) {
       CrearBoton("btnAltitudFichero", tr("Altitud del fichero"), tr("Vuelve a la del fichero climático"));
   connect(btnAltitudFichero_, &QPushButton::clicked, this, &PaginaPsicrometrico::altitudDelFicheroPedida);
   const int fila = rejilla.rowCount();
-  auto *rotulo = new QLabel(tr("Altit&ud"));
-  rotulo->setBuddy(csAltitud_);
-  rejilla.addWidget(rotulo, fila, 0);
+  rejilla.addWidget(CrearRotulo(tr("Altit&ud"), *csAltitud_), fila, 0);
   rejilla.addWidget(csAltitud_, fila, 1);
   rejilla.addWidget(new QLabel(tr("m")), fila, 2);
   rejilla.addWidget(btnAltitudFichero_, fila + 1, 0, 1, 3);
-}
-
-QPushButton *PaginaPsicrometrico::CrearBoton(const char *nombre, const QString &texto, const QString &ayuda) {
-  auto *boton = new QPushButton(texto);
-  boton->setObjectName(Nombre(nombre));
-  boton->setToolTip(ayuda);
-  return boton;
 }
 
 void PaginaPsicrometrico::PonValores(const QStringList &textos) {
@@ -226,10 +215,5 @@ void PaginaPsicrometrico::PonAltitud(double altitud, bool delUsuario) {
 int PaginaPsicrometrico::HoraInicial() const { return csPHorIni_->value(); }
 
 int PaginaPsicrometrico::HoraFinal() const { return csPHorFin_->value(); }
-
-bool PaginaPsicrometrico::eventFilter(QObject *objeto, QEvent *suceso) {
-  if (objeto == lbPunto_ && suceso->type() == QEvent::MouseButtonRelease) emit colorPuntoPedido();
-  return QWidget::eventFilter(objeto, suceso);
-}
 
 } // namespace tesmo

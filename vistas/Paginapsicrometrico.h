@@ -9,7 +9,6 @@
 class QDoubleSpinBox;
 class QGridLayout;
 class QGroupBox;
-class QLabel;
 class QLineEdit;
 class QPushButton;
 class QSpinBox;
@@ -53,9 +52,6 @@ signals:
   void altitudDelFicheroPedida();
   void guardarPedido();
 
-protected:
-  bool eventFilter(QObject *objeto, QEvent *suceso) override;
-
 private:
   QWidget *CrearColumna();
   QGroupBox *CrearValores();
@@ -65,13 +61,11 @@ private:
   QGroupBox *CrearFamilias();
   void CrearAltitud(QGridLayout &rejilla);
   QSpinBox *CrearHora(const char *nombre, int valor);
-  QPushButton *CrearBoton(const char *nombre, const QString &texto, const QString &ayuda);
 
   MarcoCarta *marco_ = nullptr;
   std::array<QLineEdit *, NUMERO_VALORES> valores_{};
   QSpinBox *csPHorIni_ = nullptr;
   QSpinBox *csPHorFin_ = nullptr;
-  QLabel *lbPunto_ = nullptr;
   QLineEdit *edPunto_ = nullptr;
   QDoubleSpinBox *csAltitud_ = nullptr;
   QPushButton *btnAltitudFichero_ = nullptr;

@@ -1,5 +1,6 @@
 #include "vistas/Paginaresultadosextremos.h"
 
+#include "vistas/Botones.h"
 #include "vistas/Escaladia.h"
 #include "vistas/Grafico.h"
 
@@ -46,6 +47,18 @@ QWidget *PaginaResultadosExtremos::CrearLista() {
   panel->setObjectName(QStringLiteral("panelLista"));
   auto *pila = new QVBoxLayout(panel);
   pila->setContentsMargins(0, 0, 0, 0);
+  CrearCasillas();
+  edDerivacion_ = new QPlainTextEdit;
+  edDerivacion_->setObjectName(QStringLiteral("edDerivacion"));
+  edDerivacion_->setReadOnly(true);
+  edDerivacion_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  pila->addWidget(CheckListBox1_);
+  pila->addLayout(CrearBotones());
+  pila->addWidget(edDerivacion_, 1);
+  return panel;
+}
+
+void PaginaResultadosExtremos::CrearCasillas() {
   CheckListBox1_ = new QListWidget;
   CheckListBox1_->setObjectName(QStringLiteral("CheckListBox1"));
   CheckListBox1_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
@@ -61,26 +74,20 @@ QWidget *PaginaResultadosExtremos::CrearLista() {
   });
   connect(CheckListBox1_, &QListWidget::itemChanged, this,
           &PaginaResultadosExtremos::CheckListBox1ClickCheck);
-  edDerivacion_ = new QPlainTextEdit;
-  edDerivacion_->setObjectName(QStringLiteral("edDerivacion"));
-  edDerivacion_->setReadOnly(true);
-  edDerivacion_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  auto *visualizar = new QPushButton(tr("Visualizar Archivos"));
-  visualizar->setObjectName(QStringLiteral("Button1"));
-  visualizar->setToolTip(tr("Abre extreCal.met y extreRef.met en el editor de textos"));
+}
+
+QHBoxLayout *PaginaResultadosExtremos::CrearBotones() {
+  QPushButton *visualizar = CrearBoton("Button1", tr("Visualizar Archivos"),
+                                       tr("Abre extreCal.met y extreRef.met en el editor de textos"));
   connect(visualizar, &QPushButton::clicked, this, &PaginaResultadosExtremos::Button1Click);
-  auto *copiar = new QPushButton(tr("Copiar cifras"));
-  copiar->setObjectName(QStringLiteral("btnCopiarDerivacion"));
-  copiar->setToolTip(tr("Copia todo el cálculo como texto separado por tabuladores"));
+  QPushButton *copiar = CrearBoton("btnCopiarDerivacion", tr("Copiar cifras"),
+                                   tr("Copia todo el cálculo como texto separado por tabuladores"));
   connect(copiar, &QPushButton::clicked, this,
           [this] { QApplication::clipboard()->setText(edDerivacion_->toPlainText()); });
   auto *botones = new QHBoxLayout;
   botones->addWidget(visualizar);
   botones->addWidget(copiar);
-  pila->addWidget(CheckListBox1_);
-  pila->addLayout(botones);
-  pila->addWidget(edDerivacion_, 1);
-  return panel;
+  return botones;
 }
 
 QWidget *PaginaResultadosExtremos::CrearGraficos() {

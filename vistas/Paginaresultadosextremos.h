@@ -3,6 +3,7 @@
 #include <QString>
 #include <QWidget>
 
+class QHBoxLayout;
 class QListWidget;
 class QPlainTextEdit;
 
@@ -36,6 +37,8 @@ signals:
 
 private:
   QWidget *CrearLista();
+  void CrearCasillas();
+  QHBoxLayout *CrearBotones();
   QWidget *CrearGraficos();
   static Grafico *CrearGrafico(const QString &nombre);
 

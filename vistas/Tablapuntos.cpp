@@ -1,5 +1,7 @@
 #include "vistas/Tablapuntos.h"
 
+#include "vistas/Botones.h"
+#include "vistas/Tablatexto.h"
 #include "vistas/Valoresaire.h"
 
 #include <QClipboard>
@@ -20,7 +22,6 @@ namespace {
 
 constexpr int ALTO = 118;       ///< con tres filas a la vista [px]
 constexpr int AIRE_DE_FILA = 4; ///< [px]
-constexpr char16_t SEPARADOR = u'\t';
 
 } // namespace
 
@@ -65,13 +66,6 @@ void TablaPuntos::CrearTabla() {
   connect(tabla_, &QTableWidget::itemSelectionChanged, this, &TablaPuntos::elegidosCambiados);
 }
 
-QPushButton *TablaPuntos::CrearBoton(const char *nombre, const QString &texto, const QString &ayuda) {
-  auto *boton = new QPushButton(texto);
-  boton->setObjectName(QString::fromLatin1(nombre));
-  boton->setToolTip(ayuda);
-  return boton;
-}
-
 void TablaPuntos::Poner(const QList<QStringList> &filas, const QString &proceso) {
   const QSignalBlocker callada(tabla_);
   tabla_->setRowCount(static_cast<int>(filas.size()));
@@ -95,21 +89,6 @@ QList<int> TablaPuntos::Elegidos() const {
   return filas;
 }
 
-QString TablaPuntos::LineaDe(int fila) const {
-  QStringList campos;
-  for (int j = 0; j < tabla_->columnCount(); ++j) campos << tabla_->item(fila, j)->text();
-  return campos.join(SEPARADOR);
-}
-
-QString TablaPuntos::ComoTexto() const {
-  QStringList titulos;
-  for (int j = 0; j < tabla_->columnCount(); ++j) titulos << tabla_->horizontalHeaderItem(j)->text();
-  QList<int> filas = Elegidos();
-  if (filas.isEmpty())
-    for (int i = 0; i < tabla_->rowCount(); ++i) filas << i;
-  QStringList lineas{titulos.join(SEPARADOR)};
-  for (const int fila : filas) lineas << LineaDe(fila);
-  return lineas.join(u'\n') + u'\n';
-}
+QString TablaPuntos::ComoTexto() const { return TextoDeTabla(*tabla_, Elegidos()); }
 
 } // namespace tesmo

@@ -30,8 +30,6 @@ signals:
 
 private:
   void CrearTabla();
-  QPushButton *CrearBoton(const char *nombre, const QString &texto, const QString &ayuda);
-  [[nodiscard]] QString LineaDe(int fila) const;
 
   QTableWidget *tabla_ = nullptr;
   QLabel *lbProceso_ = nullptr;

@@ -1,20 +1,18 @@
 #include "vistas/Ventanacolores.h"
 
+#include "vistas/Botones.h"
 #include "vistas/Configuracion.h"
+#include "vistas/Etiquetapulsable.h"
 #include "vistas/Gruposmagnitud.h"
+#include "vistas/Selectorcolor.h"
 #include "vistas/Textoqt.h"
 
-#include <QColorDialog>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <functional>
-#include <utility>
 
 namespace tesmo {
 
@@ -22,47 +20,6 @@ namespace {
 
 constexpr int ANCHO_MUESTRA = 48; ///< [px]
 constexpr int MARGEN = 10;        ///< [px]
-
-/// Etiqueta que se pulsa con el ratón, con Espacio o con Intro.
-class EtiquetaPulsable : public QLabel {
-public:
-  EtiquetaPulsable(const QString &texto, std::function<void()> pulsada)
-      : QLabel(texto), pulsada_(std::move(pulsada)) {
-    setFocusPolicy(Qt::StrongFocus);
-    setCursor(Qt::PointingHandCursor);
-  }
-
-protected:
-  void mouseReleaseEvent(QMouseEvent *suceso) override {
-    if (suceso->button() == Qt::LeftButton && rect().contains(suceso->position().toPoint())) pulsada_();
-  }
-  void keyPressEvent(QKeyEvent *suceso) override {
-    const int tecla = suceso->key();
-    if (tecla == Qt::Key_Space || tecla == Qt::Key_Return || tecla == Qt::Key_Enter) return pulsada_();
-    QLabel::keyPressEvent(suceso);
-  }
-  void focusInEvent(QFocusEvent *suceso) override {
-    QFont subrayada = font();
-    subrayada.setUnderline(true);
-    setFont(subrayada);
-    QLabel::focusInEvent(suceso);
-  }
-  void focusOutEvent(QFocusEvent *suceso) override {
-    QFont llana = font();
-    llana.setUnderline(false);
-    setFont(llana);
-    QLabel::focusOutEvent(suceso);
-  }
-
-private:
-  std::function<void()> pulsada_;
-};
-
-QPushButton *CrearBoton(const char *nombre, const QString &texto) {
-  auto *boton = new QPushButton(texto);
-  boton->setObjectName(QString::fromLatin1(nombre));
-  return boton;
-}
 
 } // namespace
 
@@ -129,13 +86,8 @@ void TforColores::PonMuestra(int i, const QColor &color) {
 }
 
 void TforColores::ElegirColor(int i) {
-  auto *selector = new QColorDialog(Muestra(i), this);
-  selector->setObjectName(QStringLiteral("cdColores"));
-  selector->setAttribute(Qt::WA_DeleteOnClose);
-  selector->setOption(QColorDialog::DontUseNativeDialog);
-  connect(selector, &QColorDialog::colorSelected, this,
-          [this, i](const QColor &color) { PonMuestra(i, color); });
-  selector->open();
+  AbrirSelectorDeColor(*this, QStringLiteral("cdColores"), Muestra(i), *this,
+                       [this, i](const QColor &color) { PonMuestra(i, color); });
 }
 
 void TforColores::accept() {

@@ -35,6 +35,7 @@
 #include <QTabWidget>
 #include <QTextEdit>
 #include <QTimer>
+#include <algorithm>
 #include <optional>
 
 using namespace tesmo;
@@ -172,6 +173,20 @@ private slots:
     nombres.removeDuplicates();
     QVERIFY(nombres.size() > 5);
     ComprobarTocados(nombres);
+  }
+
+  void lasCasillasDeHorasYBasesTienenTeclaDeAcceso() {
+    const Ventana ventana = marco_->Numero(0);
+    const auto &rotulos = marco_->marco.findChildren<QLabel *>();
+    for (const char *casilla :
+         {"csPHorIni", "csPHorFin", "csAltitud", "csVHorIni", "csBaseCal", "csBaseRef"}) {
+      const auto &control = ventana.Buscar<QAbstractSpinBox>(casilla);
+      QVERIFY2(std::any_of(rotulos.begin(), rotulos.end(),
+                           [&control](const QLabel *rotulo) {
+                             return rotulo->buddy() == &control && !TeclaDeAcceso(rotulo->text()).isEmpty();
+                           }),
+               casilla);
+    }
   }
 
   void lasTeclasDeAccesoNoChocanEnNingunaPestana() {
