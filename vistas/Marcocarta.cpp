@@ -104,11 +104,15 @@ bool MarcoCarta::eventFilter(QObject *objeto, QEvent *suceso) {
     PintarReticula();
     return true;
   }
-  if (suceso->type() == QEvent::MouseMove || suceso->type() == QEvent::MouseButtonPress) {
+  if (suceso->type() == QEvent::Leave) PonReticula({});
+  // Qt cambia por un doble clic la segunda de dos pulsaciones seguidas.
+  const bool pulsado =
+      suceso->type() == QEvent::MouseButtonPress || suceso->type() == QEvent::MouseButtonDblClick;
+  if (pulsado || suceso->type() == QEvent::MouseMove) {
     const auto *raton = static_cast<QMouseEvent *>(suceso);
     const QPoint sitio = raton->position().toPoint();
-    if (suceso->type() == QEvent::MouseMove) emit punteroMovido(sitio.x(), sitio.y());
-    if (raton->button() == Qt::LeftButton) emit botonPulsado(sitio.x(), sitio.y());
+    if (!pulsado) emit punteroMovido(sitio.x(), sitio.y());
+    if (pulsado && raton->button() == Qt::LeftButton) emit botonPulsado(sitio.x(), sitio.y());
   }
   return QWidget::eventFilter(objeto, suceso);
 }

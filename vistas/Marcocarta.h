@@ -11,7 +11,8 @@
 namespace tesmo {
 
 /// La carta psicrométrica con sus escalas, pintada una vez en memoria. Dentro, el control "imgPsicro" ocupa
-/// justo la carta: sus píxeles son los del modelo. La retícula se pinta encima, sin rehacer el dibujo.
+/// justo la carta: sus píxeles son los del modelo. La retícula se pinta encima, sin rehacer el dibujo, y se
+/// quita cuando el puntero sale.
 class MarcoCarta : public QWidget {
   Q_OBJECT
 
@@ -40,6 +41,7 @@ public:
 
 signals:
   void punteroMovido(int x, int y);
+  /// Sólo el botón izquierdo, también en la segunda pulsación de un doble clic.
   void botonPulsado(int x, int y);
   void menuPedido(const QPoint &donde);
 

@@ -3,7 +3,7 @@
 #include "app/Carga.h"
 #include "app/Programa.h"
 #include "app/Seleccion.h"
-#include "meteo/Leermet.h"
+#include "meteo/Estadoshorarios.h"
 #include "psicro/Corrienteaire.h"
 #include "psicro/Marcacarta.h"
 #include "psicro/Psicrometrico.h"
@@ -12,11 +12,11 @@
 #include "vistas/Marcocarta.h"
 #include "vistas/Paginapsicrometrico.h"
 #include "vistas/Panelseleccion.h"
+#include "vistas/Selectorcolor.h"
 #include "vistas/Superficiepintor.h"
 #include "vistas/Tablapuntos.h"
 #include "vistas/Textoqt.h"
 
-#include <QColorDialog>
 #include <QMenu>
 
 namespace tesmo {
@@ -25,10 +25,9 @@ namespace {
 
 constexpr std::array<Familia, NUMERO_FAMILIAS> ORDEN_CASILLAS{Familia::T, Familia::W, Familia::H, Familia::HR,
                                                               Familia::VE};
-constexpr int PARAMETRO_PRESION = 15;
 constexpr float SATURADO = 100.0F; // [%]
 
-/// Lo que hay en un píxel de la carta, y el estado del aire más próximo que el modelo admite.
+/// Un estado de la carta, y el del aire más próximo que el modelo admite.
 struct LecturaCarta {
   float t; ///< [°C]
   float w; ///< [kg/kg], negativa por debajo de la carta
@@ -37,18 +36,16 @@ struct LecturaCarta {
 };
 
 /// Vacía por encima de la saturación.
-std::optional<LecturaCarta> LeerEn(const Psicro &carta, int x, int y) {
-  LecturaCarta lectura{carta.t(x), carta.w(y), carta.dameParametro(PARAMETRO_PRESION), CorrienteAire()};
-  lectura.aire.pont_hr(lectura.t, SATURADO, lectura.p);
-  if (!(lectura.w <= lectura.aire.humedadAbsoluta())) return std::nullopt;
-  lectura.aire.pont_w(lectura.t, lectura.w, lectura.p);
+std::optional<LecturaCarta> Leer(float t, float w, float p) {
+  LecturaCarta lectura{t, w, p, CorrienteAire()};
+  lectura.aire.pont_hr(t, SATURADO, p);
+  if (!(w <= lectura.aire.humedadAbsoluta())) return std::nullopt;
+  lectura.aire.pont_w(t, w, p);
   return lectura;
 }
 
-std::vector<float> Serie(const LeerMet &datos, Magnitud magnitud) {
-  std::vector<float> valores(static_cast<std::size_t>(datos.HorasDelPeriodo()));
-  datos.DameSerie(Ficha(magnitud).rotulo, valores.data());
-  return valores;
+std::optional<LecturaCarta> LeerEn(const Psicro &carta, int x, int y) {
+  return Leer(carta.t(x), carta.w(y), carta.damePresion());
 }
 
 } // namespace
@@ -106,6 +103,8 @@ void Vistapsicrometrico::PonPresion() {
   const float altitud = AltitudEnUso(programa_, seleccion_);
   contenido_.carta.ponAltitud(altitud);
   pagina_.PonAltitud(altitud, seleccion_.DameAltitudUsuario().has_value());
+  // El mismo sitio de la carta es otro aire a otra presión.
+  if (leido_) EnsenarLectura(leido_->first, leido_->second);
 }
 
 void Vistapsicrometrico::redibujar() {
@@ -117,10 +116,16 @@ void Vistapsicrometrico::redibujar() {
 }
 
 void Vistapsicrometrico::lecturaPuntero(int x, int y) {
-  const std::optional<LecturaCarta> lectura = LeerEn(contenido_.carta, x, y);
-  if (!lectura) return;
-  pagina_.DameMarco().PonReticula(QPoint(x, y));
+  if (EnsenarLectura(contenido_.carta.t(x), contenido_.carta.w(y)))
+    pagina_.DameMarco().PonReticula(QPoint(x, y));
+}
+
+bool Vistapsicrometrico::EnsenarLectura(float t, float w) {
+  const std::optional<LecturaCarta> lectura = Leer(t, w, contenido_.carta.damePresion());
+  if (!lectura) return false;
+  leido_ = {t, w};
   pagina_.PonValores(TextosDeEstado(lectura->t, lectura->w, lectura->p, lectura->aire));
+  return true;
 }
 
 void Vistapsicrometrico::botonPulsado(int x, int y, ModoPluma modo) {
@@ -134,7 +139,8 @@ void Vistapsicrometrico::botonPulsado(int x, int y, ModoPluma modo) {
     SuperficiePintor superficie(pintor);
     SoltarBanda(banda_, modo, superficie, contenido_.carta);
   });
-  marco.Redibujar(); // otra vez con el tamaño de la imagen, y con sus marcas
+  // Al soltarla la carta quedó dibujada a un tamaño fijo, que no es el del control: se rehace entera.
+  marco.Redibujar();
 }
 
 void Vistapsicrometrico::FijarPunto(int x, int y) {
@@ -155,15 +161,9 @@ void Vistapsicrometrico::representar() {
 }
 
 void Vistapsicrometrico::MarcarPeriodo() {
-  const LeerMet &datos = *programa_.DameLeerMet();
-  const std::vector<float> t = Serie(datos, Magnitud::TS);
-  const std::vector<float> w = Serie(datos, Magnitud::HAkg);
-  FechaHora fecha = seleccion_.DamePeriodo().inicio;
-  for (std::size_t i = 0; i < t.size(); ++i) {
-    if (fecha.hora >= pagina_.HoraInicial() && fecha.hora <= pagina_.HoraFinal())
-      marcarPunto(t[i], w[i], fecha.mes, fecha.hora);
-    SiguienteHora(fecha.mes, fecha.dia, fecha.hora);
-  }
+  for (const EstadoHorario &estado :
+       EstadosDelPeriodo(*programa_.DameLeerMet(), pagina_.HoraInicial(), pagina_.HoraFinal()))
+    marcarPunto(estado.t, estado.w, estado.fecha.mes, estado.fecha.hora);
 }
 
 void Vistapsicrometrico::marcarPunto(float t, float w, int mes, int hora) {
@@ -171,9 +171,7 @@ void Vistapsicrometrico::marcarPunto(float t, float w, int mes, int hora) {
 }
 
 void Vistapsicrometrico::PonColorMarca(const QColor &color) {
-  constexpr unsigned OCTETO = 8U;
-  color_ = static_cast<ColorBgr>(color.red()) | static_cast<ColorBgr>(color.green()) << OCTETO |
-           static_cast<ColorBgr>(color.blue()) << 2 * OCTETO;
+  color_ = EnteroDeColor(color);
   pagina_.PonColorPunto(color);
 }
 
@@ -213,13 +211,8 @@ void Vistapsicrometrico::BorrarPuntos() {
 }
 
 void Vistapsicrometrico::PedirColor() {
-  auto *dialogo = new QColorDialog(Color(color_), &pagina_);
-  dialogo->setObjectName(QStringLiteral("cdPunto"));
-  dialogo->setAttribute(Qt::WA_DeleteOnClose);
-  dialogo->setOption(QColorDialog::DontUseNativeDialog);
-  QObject::connect(dialogo, &QColorDialog::colorSelected, &avisos_,
-                   [this](const QColor &color) { PonColorMarca(color); });
-  dialogo->open();
+  AbrirSelectorDeColor(pagina_, QStringLiteral("cdPunto"), Color(color_), avisos_,
+                       [this](const QColor &color) { PonColorMarca(color); });
 }
 
 bool Vistapsicrometrico::GuardarImagen(const QString &ruta) const {

@@ -10,6 +10,8 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 namespace tesmo {
 
@@ -35,7 +37,7 @@ public:
   /// del programa, la pida quien la pida, y al limpiar.
   void redibujar();
   /// Enseña lo que hay en el píxel (@p x, @p y) de la carta, aunque caiga fuera de la imagen; por encima de
-  /// la saturación no cambia nada.
+  /// la saturación no cambia nada. Si cambia la presión se enseña el mismo sitio con la nueva.
   void lecturaPuntero(int x, int y);
   /// Botón del ratón en un píxel de la carta: suelta la banda elástica con el modo de pluma @p modo o, sin
   /// banda, lleva a él sus esquinas y fija ahí un punto, si hay estado.
@@ -56,6 +58,7 @@ private:
   void Conectar();
   void PonPresion();
   void PonAltitud(std::optional<float> altitud);
+  bool EnsenarLectura(float t, float w);
   void FijarPunto(int x, int y);
   void MarcarPeriodo();
   void ActualizarPuntos();
@@ -74,7 +77,8 @@ private:
   QPointer<MarcoCarta> marco_;
   int puntosFijados_ = 0; ///< desde que se abrió la ventana: da nombre al siguiente
   BandaElastica banda_;
-  QObject avisos_; ///< corta con su muerte las señales que llegan aquí
+  std::optional<std::pair<float, float>> leido_; ///< t y w a la vista en el panel
+  QObject avisos_;                               ///< corta con su muerte las señales que llegan aquí
 };
 
 } // namespace tesmo

@@ -4,10 +4,12 @@
 #include "tests/vistas/Manejocarta.h"
 
 #include <QClipboard>
+#include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -127,6 +129,41 @@ private slots:
     QCOMPARE(tabla.rowCount(), 1);
   }
 
+  void laSegundaPulsacionDeUnDobleClicFijaOtroPunto() {
+    auto &imagen = Control<QWidget>("imgPsicro");
+    const QPoint sitio(imagen.width() / 2, imagen.height() - 40);
+    Pulsar(sitio.x(), sitio.y());
+    EnviarRaton(imagen, QEvent::MouseButtonDblClick, sitio, Qt::LeftButton);
+    QCOMPARE(Vista().Contenido().puntos.size(), std::size_t(2));
+    for (const QEvent::Type tipo : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick})
+      EnviarRaton(imagen, tipo, sitio, Qt::RightButton);
+    QCOMPARE(Vista().Contenido().puntos.size(), std::size_t(2));
+  }
+
+  void laReticulaSeQuitaCuandoElPunteroSale() {
+    Mover(Marco().TamanoDeCarta().width() / 2, Marco().TamanoDeCarta().height() - 40);
+    QVERIFY(Marco().Reticula());
+    const QString leido = Valor("edT");
+    QEvent salida(QEvent::Leave);
+    QApplication::sendEvent(&Control<QWidget>("imgPsicro"), &salida);
+    QVERIFY(!Marco().Reticula());
+    QCOMPARE(Valor("edT"), leido);
+  }
+
+  void alCambiarLaAltitudLaLecturaEsLaDelMismoSitioConLaPresionNueva() {
+    const QSize carta = Marco().TamanoDeCarta();
+    Mover(carta.width() / 2, carta.height() / 2);
+    const float t = Carta().t(carta.width() / 2);
+    const float w = Carta().w(carta.height() / 2);
+    Control<QDoubleSpinBox>("csAltitud").setValue(1500.0);
+    CorrienteAire aire;
+    aire.pont_w(t, w, Carta().damePresion());
+    QCOMPARE(Valor("edPresion"), Patron(Carta().damePresion(), 0));
+    QCOMPARE(Valor("edT"), Patron(t, 2));
+    QCOMPARE(Valor("edHR"), Patron(aire.dame("hr"), 2));
+    QCOMPARE(Valor("edVE"), Patron(aire.dame("ve"), 4));
+  }
+
   void dosPuntosEnsenanSuProceso() {
     FijarDosPuntos();
     const auto &puntos = Vista().Contenido().puntos;
@@ -179,6 +216,10 @@ private slots:
   }
 
 private:
+  static void EnviarRaton(QWidget &control, QEvent::Type tipo, const QPoint &sitio, Qt::MouseButton boton) {
+    QMouseEvent suceso(tipo, sitio, control.mapToGlobal(sitio), boton, boton, Qt::NoModifier);
+    QApplication::sendEvent(&control, &suceso);
+  }
   QColor ColorPunto() const { return Control<QLineEdit>("edPunto").palette().color(QPalette::Base); }
   /// Hasta @p decimales, sin ceros finales y con el separador de la región.
   static QString Patron(long double valor, int decimales) {

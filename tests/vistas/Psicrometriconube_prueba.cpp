@@ -6,9 +6,13 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QFile>
 #include <QLabel>
 #include <QSet>
+#include <QSignalSpy>
 #include <QSpinBox>
+
+#include <algorithm>
 
 using namespace tesmo;
 using namespace tesmo::prueba;
@@ -78,6 +82,45 @@ private slots:
     ventana_->Localidad("Almería");
     ventana_->Pulsar("btnNubes");
     QCOMPARE(Vista().Contenido().marcas.front().color, 0x00FF00U);
+  }
+
+  void elRotuloDelPuntoSePulsaTambienConElTeclado() {
+    auto &rotulo = Control<QLabel>("lbPunto");
+    QVERIFY(rotulo.focusPolicy() & Qt::TabFocus);
+    QWidget &pagina = Control<QWidget>("tsPsicrometrico");
+    for (const Qt::Key tecla : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+      QTest::keyClick(&rotulo, tecla);
+      auto *dialogo = pagina.findChild<QColorDialog *>("cdPunto");
+      QVERIFY(dialogo != nullptr);
+      dialogo->reject();
+      QTRY_VERIFY(pagina.findChild<QColorDialog *>("cdPunto") == nullptr);
+    }
+    QTest::mouseClick(&rotulo, Qt::RightButton);
+    QVERIFY(pagina.findChild<QColorDialog *>("cdPunto") == nullptr);
+    QCOMPARE(ColorPunto(), QColor(Qt::blue));
+  }
+
+  void unaAltitudImposibleSeDiceYValeCero() {
+    const std::string ruta = (marco_->datos.Directorio() / "Meteo/granada.met").string();
+    std::string texto = Contenido(ruta);
+    texto.replace(texto.find(std::to_string(DatosPrueba::ALTITUD_GRANADA)), 3, "12680");
+    QFile fichero(QString::fromStdString(ruta));
+    QVERIFY(fichero.open(QIODevice::WriteOnly) && fichero.write(texto.c_str()) > 0);
+    fichero.close();
+    QSignalSpy estado(&ventana_->Controlador().DameFormulario(), &TforProgramas::estado);
+    ventana_->Provincia("Granada");
+    ventana_->Localidad("Granada");
+    QCOMPARE(Control<QDoubleSpinBox>("csAltitud").value(), 0.0);
+    const auto dicho = [&estado](const char *trozo) {
+      return std::any_of(estado.begin(), estado.end(), [trozo](const QList<QVariant> &aviso) {
+        return aviso.at(0).toString().contains(QString::fromUtf8(trozo));
+      });
+    };
+    QVERIFY(dicho("leídas las 8760 horas del año. Su altitud, 12680 m, no está entre -500 y 9000"));
+    estado.clear();
+    ventana_->Pulsar("btnSimulacion");
+    QVERIFY(dicho("Su altitud, 12680 m"));
+    QVERIFY(marco_->mensajes.apuntes.empty());
   }
 
   void laNubeSeColoreaPorHoraMesOEstacion() {
