@@ -131,12 +131,17 @@ TEST(RobustezCarta, UnPasoDePuntosQueNoAvanzaDejaElPrimerPuntoDeCadaLinea) {
 }
 
 TEST(RobustezCarta, UnaPresionQueNoEsNumeroNoLlegaAlLienzo) {
-  Psicro carta;
-  carta.ponVista(0, 0, 0, 0, 1);
-  carta.ponPresion(NADA);
-  LienzoContador lienzo;
-  carta.dibujar(lienzo, 900, 600);
-  EXPECT_GE(lienzo.llamadas, 5);
+  // Sin presión no hay humedad de saturación ni temperatura de aire seco: ningún trazo de éstas tiene fin.
+  for (const Familia familia : {Familia::T, Familia::VE}) {
+    Psicro carta;
+    carta.ponVista(0, 0, 0, 0, 1);
+    carta.ponPresion(NADA);
+    for (const Familia f : TODAS) carta.ponVisible(f, f == familia);
+    LienzoDePrueba lienzo;
+    carta.dibujar(lienzo, 900, 600);
+    EXPECT_FALSE(lienzo.puntos.empty());
+    for (const auto &punto : lienzo.puntos) EXPECT_FALSE(punto.traza) << punto.x << ' ' << punto.y;
+  }
 }
 
 TEST(RobustezCarta, UnaCartaSinAnchoDeTemperaturasNoTrazaMasAllaDeLosColores) {

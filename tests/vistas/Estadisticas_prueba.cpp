@@ -190,6 +190,34 @@ private slots:
     QVERIFY(Valor("edMedia") != alNivelDelMar);
   }
 
+  // Vertical y al sur o tumbada: el cambio, que se entrega al visualizar, vacía lo que había y da otra
+  // global.
+  void laSuperficieQuitaLoQueYaNoVale() {
+    ventana_->Localidad("Almería");
+    Elegir("rbG");
+    const QString vertical = Valor("edMedia");
+    QVERIFY(!vertical.isEmpty());
+    PonInclinacion("0");
+    ventana_->Pulsar("btnSimulacion");
+    ComprobarVacio();
+    QVERIFY(Rotulo("lbSituacion").contains(QStringLiteral("superficie")));
+    Elegir("rbG");
+    QVERIFY(!Valor("edMedia").isEmpty());
+    QVERIFY(Valor("edMedia") != vertical);
+    PonInclinacion("90");
+    Elegir("rbG");
+    QCOMPARE(Valor("edMedia"), vertical);
+  }
+
+  void conUnaCasillaDeLaSuperficieVaciaSeDiceYNoSeCalcula() {
+    ventana_->Localidad("Almería");
+    PonInclinacion("");
+    Elegir("rbG");
+    QCOMPARE(marco_->mensajes.apuntes.size(), 1U);
+    QVERIFY(marco_->mensajes.apuntes[0].texto.find("Inclinación") != std::string::npos);
+    ComprobarVacio();
+  }
+
   void laTablaTieneUnaFilaPorMesDelPeriodo() {
     ventana_->Localidad("Almería");
     QCOMPARE(Meses().rowCount(), 1);
@@ -246,6 +274,9 @@ private:
     base.selectAll();
     QTest::keyClicks(&base, QString::fromLatin1(texto));
     QTest::keyClick(&base, Qt::Key_Return);
+  }
+  void PonInclinacion(const char *texto) const {
+    ventana_->Buscar<QLineEdit>("edInclinacion").setText(QString::fromLatin1(texto));
   }
   void ComprobarVacio() const {
     for (const char *casilla : {"edMaximo", "edMinimo", "edMedia", "edGDCal", "edGDRef", "edDepresion",

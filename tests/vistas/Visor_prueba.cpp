@@ -15,6 +15,7 @@
 #include <QIcon>
 #include <QPushButton>
 #include <QTabWidget>
+#include <filesystem>
 #include <optional>
 #include <set>
 
@@ -99,6 +100,15 @@ private slots:
       const QImage muestra = casilla.icon().pixmap(casilla.iconSize()).toImage();
       QCOMPARE(muestra.pixelColor(muestra.rect().center()), Color(MAGNITUDES[i].color));
     }
+  }
+
+  void sinFicheroDeColoresSonLosDeFabrica() {
+    QVERIFY(!std::filesystem::exists(marco_->datos.Directorio() / "tesmo.inp"));
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Localidad("Almería");
+    ventana.Pulsar("btnSimulacion");
+    QCOMPARE(ventana.Chart().Serie(0).color, QColor("#FF8080"));
+    QCOMPARE(ventana.Chart().Serie(20).color, QColor("#DA9BDB"));
   }
 
   void deFabricaSeDibujan24PuntosPorSerie() {
