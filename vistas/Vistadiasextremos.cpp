@@ -98,8 +98,8 @@ void VistaDiasExtremos::btnCalDiaExtClick() {
     return;
   }
   RehacerGraficos();
-  EscribirFicheros();
   ventana_.ensenarResultados(true);
+  EscribirFicheros(); // después: cambiar de pestaña quita lo que dijera la línea de estado
 }
 
 bool VistaDiasExtremos::HayTemporadas() {

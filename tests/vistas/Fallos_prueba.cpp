@@ -156,7 +156,7 @@ private slots:
     const QString destino = base + QStringLiteral("/imagenes");
     QCOMPARE(Demostracion(base, destino, 0), 0);
     const QStringList nombres = QDir(destino).entryList(QDir::Files);
-    QCOMPARE(nombres.size(), 7);
+    QCOMPARE(nombres.size(), 10);
     const QMap<QString, QByteArray> antes = Ficheros(destino, nombres);
     int muertes = 0;
     for (const int limiteKb : {8, 32, 64, 128}) {
