@@ -42,7 +42,6 @@ TforColores::TforColores(Configuracion &tabla, QWidget *padre) : QDialog(padre),
   QPushButton *aceptar = CrearBoton("btnAceptar", tr("&Aceptar"));
   QPushButton *cancelar = CrearBoton("btnCancelar", tr("&Cancelar"));
   aceptar->setDefault(true);
-  aceptar->setFocus();
   connect(aceptar, &QPushButton::clicked, this, &TforColores::accept);
   connect(cancelar, &QPushButton::clicked, this, &QDialog::reject);
   botones->addWidget(ayuda, 1);
@@ -53,6 +52,7 @@ TforColores::TforColores(Configuracion &tabla, QWidget *padre) : QDialog(padre),
   disposicion->addLayout(grupos);
   disposicion->addLayout(botones);
   disposicion->setSizeConstraint(QLayout::SetFixedSize);
+  aceptar->setFocus(); // ya dentro del diálogo: antes no contaría
 }
 
 QWidget *TforColores::CrearFila(const FichaMagnitud &ficha) {
