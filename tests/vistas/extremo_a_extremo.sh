@@ -7,21 +7,6 @@ set -euo pipefail
 
 source "$(dirname "$(readlink -f "$0")")/pantalla.sh"
 
-# Punto de la columna izquierda pintado con un color: la muestra de una casilla.
-muestra() {
-  foto
-  convert "$trabajo/foto.png" -crop 260x720+0+0 +repage txt:- 2>/dev/null | grep -i -m1 -- "$1" | cut -d: -f1 | tr ',' ' '
-}
-hay_muestra() { [ -n "$(muestra "$1")" ]; }
-clic_en_muestra() {
-  local x y
-  read -r x y <<<"$(muestra "$1")"
-  [ -n "${y:-}" ] || fallar "no se ve la muestra $1"
-  xdotool mousemove $((x + 30)) $((y + 5)) click 1
-}
-se_dibuja() { [ "$(pixeles "$1")" -gt 200 ]; }
-no_se_dibuja() { [ "$(pixeles "$1")" -lt 20 ]; }
-
 arrancar
 TS='#FF8080'
 HR='#800040'

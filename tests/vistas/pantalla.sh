@@ -5,10 +5,12 @@ programa=$1
 base=$2
 trabajo=$(mktemp -d)
 procesos=()
+montados=()
 
 limpiar() {
-  local proceso
+  local proceso montado
   for proceso in "${procesos[@]}"; do kill "$proceso" 2>/dev/null || true; done
+  for montado in "${montados[@]}"; do umount -l "$montado" 2>/dev/null || true; done
   rm -rf "$trabajo"
 }
 trap limpiar EXIT
@@ -55,7 +57,23 @@ guardar() {
   esperar 30 'la vuelta a la ventana' ventana_activa_es 'Tesmo-A'
 }
 
-arrancar() {
+# Casillas del visor por su color: el sitio, «+X+Y», de la muestra que llevan en la columna izquierda; vacío si no la hay.
+muestra() {
+  foto
+  convert "$trabajo/foto.png" -crop 260x720+0+0 +repage -fill white +opaque "$1" -fill black -opaque "$1" \
+    -trim -format '%O' info: 2>/dev/null | grep -v -e '-1' || true
+}
+hay_muestra() { [ -n "$(muestra "$1")" ]; }
+clic_en_muestra() {
+  local x y
+  IFS=+ read -r _ x y <<<"$(muestra "$1")"
+  [ -n "${y:-}" ] || fallar "no se ve la muestra $1"
+  xdotool mousemove $((x + 30)) $((y + 5)) click 1
+}
+se_dibuja() { [ "$(pixeles "$1")" -gt 200 ]; }
+no_se_dibuja() { [ "$(pixeles "$1")" -lt 20 ]; }
+
+arrancar_pantalla() {
   local aviso numero
   exec {aviso}<> <(:)
   Xvfb -displayfd $aviso -screen 0 1280x720x24 >"$trabajo/xvfb.txt" 2>&1 &
@@ -66,11 +84,26 @@ arrancar() {
   procesos+=($!)
   esperar 20 'el gestor de ventanas' hay_gestor
   mkdir -m 700 "$trabajo/xdg"
-  QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$trabajo/xdg "$programa" --base "$base" >"$trabajo/tesmo.txt" 2>&1 &
+}
+
+# arrancar_programa BASE [ORDEN…]: lo pone en marcha sobre esa base, con la orden dada delante, y no espera.
+arrancar_programa() {
+  local con_base=$1
+  shift
+  QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$trabajo/xdg "$@" "$programa" --base "$con_base" >"$trabajo/tesmo.txt" 2>&1 &
   tesmo=$!
   procesos+=($tesmo)
+}
+
+esperar_ventana() {
   esperar 60 'la ventana' titulo_contiene 'Sin Nombre1'
   esperar 30 'el foco' ventana_activa_es 'Tesmo-A'
+}
+
+arrancar() {
+  arrancar_pantalla
+  arrancar_programa "$base"
+  esperar_ventana
 }
 
 salir() {
