@@ -98,8 +98,9 @@ void VistaDiasExtremos::btnCalDiaExtClick() {
     return;
   }
   RehacerGraficos();
+  const bool escritos = motor->EscribirFicheros();
   ventana_.ensenarResultados(true);
-  EscribirFicheros(); // después: cambiar de pestaña quita lo que dijera la línea de estado
+  DecirEscritos(escritos); // después: cambiar de pestaña borra lo dicho
 }
 
 bool VistaDiasExtremos::HayTemporadas() {
@@ -123,8 +124,7 @@ void VistaDiasExtremos::CheckListBox1ClickCheck() {
   graficos_.EnsenarMarcadas(programa_.DameDiasExtremos()->Resultado());
 }
 
-void VistaDiasExtremos::EscribirFicheros() {
-  const bool escritos = programa_.DameDiasExtremos()->EscribirFicheros();
+void VistaDiasExtremos::DecirEscritos(bool escritos) const {
   const QString directorio = Texto(DameConfiguracion().RutaResultados(""));
   ventana_.estado(
       escritos ? QObject::tr("Escritos extreCal.met y extreRef.met en %1").arg(directorio)

@@ -47,7 +47,7 @@ public:
 private:
   [[nodiscard]] bool HayTemporadas();
   void RehacerGraficos();
-  void EscribirFicheros();
+  void DecirEscritos(bool escritos) const;
   void PonLatitud();
   void PonNombres(DiasExtremos &motor) const;
 
