@@ -61,15 +61,17 @@ function(tesmo_motor nombre)
   endforeach()
 endfunction()
 
-# tesmo_prueba(nombre FUENTES … USA …): ejecutable GoogleTest con un caso de ctest por prueba.
+# tesmo_prueba(nombre [CON_QT] FUENTES … USA …): ejecutable GoogleTest con un caso de ctest por prueba.
 function(tesmo_prueba nombre)
-  cmake_parse_arguments(P "" "" "FUENTES;USA" ${ARGN})
+  cmake_parse_arguments(P "CON_QT" "" "FUENTES;USA" ${ARGN})
   add_executable(prueba_${nombre} ${P_FUENTES})
   target_link_libraries(prueba_${nombre} PRIVATE tesmo_opciones GTest::gtest_main)
   foreach(m IN LISTS P_USA)
     target_link_libraries(prueba_${nombre} PRIVATE tesmo_${m})
   endforeach()
-  tesmo_precompilar_como(prueba_${nombre} tesmo_prueba_cabeceras)
+  if(NOT P_CON_QT) # Qt pide código de posición independiente: otras opciones, otras cabeceras
+    tesmo_precompilar_como(prueba_${nombre} tesmo_prueba_cabeceras)
+  endif()
   gtest_discover_tests(prueba_${nombre} TEST_PREFIX "${nombre}." DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
 
