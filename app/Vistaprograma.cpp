@@ -169,6 +169,7 @@ bool VistaPrograma::LeerDatos() {
 
 bool VistaPrograma::Cargar() {
   if (!LeerDatos()) return false;
+  vistaPsicrometrico_->redibujar();
   DecirCarga();
   if (!DameLeerMet()->Resumen().Completa()) OfrecerImportar();
   return true;

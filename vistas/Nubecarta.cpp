@@ -60,8 +60,8 @@ ColorBgr ColorDeMarca(const MarcaNube &marca, ColoreoNube coloreo) {
   }
 }
 
-std::vector<EntradaLeyenda> LeyendaDeNube(ColoreoNube coloreo) {
-  std::vector<EntradaLeyenda> leyenda;
+std::vector<EntradaNube> LeyendaDeNube(ColoreoNube coloreo) {
+  std::vector<EntradaNube> leyenda;
   const QLocale espanol(QLocale::Spanish);
   if (coloreo == ColoreoNube::Hora) {
     for (int i = 0; i < HORAS; ++i)

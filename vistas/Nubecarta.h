@@ -24,11 +24,11 @@ enum class ColoreoNube { Uno, Hora, Mes, Estacion };
 /// invierno).
 [[nodiscard]] ColorBgr ColorDeMarca(const MarcaNube &marca, ColoreoNube coloreo);
 
-struct EntradaLeyenda {
+struct EntradaNube {
   QString texto;
   ColorBgr color;
 };
 /// Lo que explica los colores; vacía si sólo hay uno.
-[[nodiscard]] std::vector<EntradaLeyenda> LeyendaDeNube(ColoreoNube coloreo);
+[[nodiscard]] std::vector<EntradaNube> LeyendaDeNube(ColoreoNube coloreo);
 
 } // namespace tesmo

@@ -29,11 +29,11 @@ void PintarMarcas(LienzoPintor &lienzo, const ContenidoCarta &contenido) {
 
 /// Arriba a la izquierda, donde la carta no tiene estados posibles.
 void PintarLeyenda(QPainter &pintor, const ContenidoCarta &contenido) {
-  const std::vector<EntradaLeyenda> leyenda = LeyendaDeNube(contenido.coloreo);
+  const std::vector<EntradaNube> leyenda = LeyendaDeNube(contenido.coloreo);
   if (contenido.marcas.empty() || leyenda.empty()) return;
   const int paso = pintor.fontMetrics().height() + 1;
   int anchura = 0;
-  for (const EntradaLeyenda &entrada : leyenda)
+  for (const EntradaNube &entrada : leyenda)
     anchura = std::max(anchura, pintor.fontMetrics().horizontalAdvance(entrada.texto));
   anchura += CASILLA_LEYENDA + 3 * ADORNO;
   for (std::size_t i = 0; i < leyenda.size(); ++i) {

@@ -86,7 +86,7 @@ void RotularHoras(QPainter &pintor, const EscalaSolar &escala, const ContenidoSo
 
 /// De enero a junio a la izquierda de la cumbre y los demás a la derecha: las curvas van casi a pares.
 void RotularMeses(QPainter &pintor, const EscalaSolar &escala, const ContenidoSolar &contenido,
-                  const std::vector<EntradaLeyenda> &colores) {
+                  const std::vector<EntradaNube> &colores) {
   for (std::size_t m = 0; m < contenido.meses.size(); ++m) {
     const PuntoSolar *punto = MasAlto(contenido.meses[m]);
     if (punto == nullptr) continue;
@@ -102,7 +102,7 @@ void PintarCaminos(QPainter &pintor, const EscalaSolar &escala, const ContenidoS
     PintarCurva(pintor, escala, contenido.dia, QPen(COLOR_DIA, ANCHO_CURVA));
     PintarHoras(pintor, escala, contenido);
   } else {
-    const std::vector<EntradaLeyenda> colores = LeyendaDeNube(ColoreoNube::Mes);
+    const std::vector<EntradaNube> colores = LeyendaDeNube(ColoreoNube::Mes);
     PintarHoras(pintor, escala, contenido);
     for (std::size_t m = 0; m < contenido.meses.size(); ++m)
       PintarCurva(pintor, escala, contenido.meses[m], QPen(Color(colores[m].color), ANCHO_CURVA));

@@ -59,7 +59,7 @@ Vistapsicrometrico::Vistapsicrometrico(PaginaPsicrometrico &pagina, PanelSelecci
   Conectar();
   // El programa vive más que esta vista.
   programa_.AlCargar([this, viva = QPointer<QObject>(&avisos_)] {
-    if (viva) redibujar();
+    if (viva) CambioLaCarga();
   });
   redibujar();
 }
@@ -107,7 +107,15 @@ void Vistapsicrometrico::PonPresion() {
   if (leido_) EnsenarLectura(leido_->first, leido_->second);
 }
 
+/// Escribir un archivo horario vuelve a leer la misma localidad: la nube sigue siendo la suya.
+void Vistapsicrometrico::CambioLaCarga() {
+  if (programa_.DameLocalidadCargada() != dibujada_) return redibujar();
+  PonPresion();
+  ActualizarPuntos();
+}
+
 void Vistapsicrometrico::redibujar() {
+  dibujada_ = programa_.DameLocalidadCargada();
   PonPresion();
   contenido_.marcas.clear();
   contenido_.carta.ponVista(0, 0, 0, 0, 1);

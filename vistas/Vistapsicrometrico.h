@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 #include <utility>
 
 namespace tesmo {
@@ -56,6 +57,7 @@ public:
 
 private:
   void Conectar();
+  void CambioLaCarga();
   void PonPresion();
   void PonAltitud(std::optional<float> altitud);
   bool EnsenarLectura(float t, float w);
@@ -77,6 +79,7 @@ private:
   QPointer<MarcoCarta> marco_;
   int puntosFijados_ = 0; ///< desde que se abrió la ventana: da nombre al siguiente
   BandaElastica banda_;
+  std::string dibujada_;                         ///< localidad con la que se dibujó; vacía sin datos
   std::optional<std::pair<float, float>> leido_; ///< t y w a la vista en el panel
   QObject avisos_;                               ///< corta con su muerte las señales que llegan aquí
 };

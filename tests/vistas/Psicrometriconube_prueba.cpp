@@ -131,7 +131,7 @@ private slots:
       const auto leyenda = LeyendaDeNube(coloreo);
       QCOMPARE(leyenda.size(), std::size_t(entradas));
       QSet<uint> colores;
-      for (const EntradaLeyenda &entrada : leyenda) colores.insert(entrada.color);
+      for (const EntradaNube &entrada : leyenda) colores.insert(entrada.color);
       QCOMPARE(colores.size(), entradas);
       Control<QComboBox>("cbColorear").setCurrentIndex(static_cast<int>(coloreo));
       QCOMPARE(Vista().Contenido().coloreo, coloreo);
