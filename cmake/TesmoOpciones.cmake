@@ -28,11 +28,12 @@ else()
   endif()
 endif()
 
-# Con saneadores, lo que no calcula se compila sin optimizar: los saneadores doblan lo que tarda el optimizador y ahí
-# no se gana nada. Vale para los destinos que declare después la carpeta que la llama.
+# Con saneadores, lo que no calcula se compila sin optimizar y sin UBSan: ahí no hay cuentas que vigilar y los dos
+# doblan lo que tarda cada fichero. AddressSanitizer queda en todo. Vale para los destinos que declare después la
+# carpeta que la llama.
 macro(tesmo_sin_optimizar_con_saneadores)
   if(TESMO_SANEADORES AND NOT MSVC)
-    add_compile_options(-O0)
+    add_compile_options(-O0 -g0 -fno-sanitize=undefined)
   endif()
 endmacro()
 
@@ -61,9 +62,10 @@ function(tesmo_motor nombre)
   endforeach()
 endfunction()
 
-# tesmo_prueba(nombre [CON_QT] FUENTES … USA …): ejecutable GoogleTest con un caso de ctest por prueba.
+# tesmo_prueba(nombre [CON_QT] [DE_UNA_VEZ] FUENTES … USA …): ejecutable GoogleTest con un caso de ctest por prueba, o
+# uno solo si sus pruebas comparten datos que cuesta hacer.
 function(tesmo_prueba nombre)
-  cmake_parse_arguments(P "CON_QT" "" "FUENTES;USA" ${ARGN})
+  cmake_parse_arguments(P "CON_QT;DE_UNA_VEZ" "" "FUENTES;USA" ${ARGN})
   add_executable(prueba_${nombre} ${P_FUENTES})
   target_link_libraries(prueba_${nombre} PRIVATE tesmo_opciones GTest::gtest_main)
   foreach(m IN LISTS P_USA)
@@ -71,6 +73,11 @@ function(tesmo_prueba nombre)
   endforeach()
   if(NOT P_CON_QT) # Qt pide código de posición independiente: otras opciones, otras cabeceras
     tesmo_precompilar_como(prueba_${nombre} tesmo_prueba_cabeceras)
+  endif()
+  if(P_DE_UNA_VEZ)
+    add_test(NAME ${nombre} COMMAND prueba_${nombre})
+    set_tests_properties(${nombre} PROPERTIES TIMEOUT 300)
+    return()
   endif()
   gtest_discover_tests(prueba_${nombre} TEST_PREFIX "${nombre}." DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
