@@ -2,7 +2,7 @@
 
 #include "app/Aplicacion.h"
 #include "app/Imagenprograma.h"
-#include "vistas/Bibliotecagraficos.h"
+#include "vistas/grafico/Bibliotecagraficos.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

@@ -7,10 +7,10 @@
 #include "app/Vistaprograma.h"
 #include "core/Mensajes.h"
 #include "meteo/Leermet.h"
-#include "vistas/Grafico.h"
-#include "vistas/Graficosolar.h"
-#include "vistas/Guardardibujo.h"
-#include "vistas/Vistaposicionsolar.h"
+#include "vistas/grafico/Grafico.h"
+#include "vistas/sol/Graficosolar.h"
+#include "vistas/comun/Guardardibujo.h"
+#include "vistas/sol/Vistaposicionsolar.h"
 
 #include <QApplication>
 #include <QDir>

@@ -4,7 +4,7 @@
 #include "app/Ventanaprincipal.h"
 #include "app/Ventanaprogramas.h"
 #include "app/Vistaprograma.h"
-#include "vistas/Guardardibujo.h"
+#include "vistas/comun/Guardardibujo.h"
 
 #include <QApplication>
 #include <QDir>

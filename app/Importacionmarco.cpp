@@ -4,8 +4,8 @@
 #include "core/Rutas.h"
 #include "intercambio/sintesis/Normalesprograma.h"
 #include "localidades/Ciudad.h"
-#include "vistas/Dialogoauditar.h"
-#include "vistas/Dialogoimportar.h"
+#include "vistas/intercambio/Dialogoauditar.h"
+#include "vistas/intercambio/Dialogoimportar.h"
 
 #include <QDragEnterEvent>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 #include "app/Ventanaayuda.h"
 
 #include "app/Manual.h"
-#include "vistas/Botones.h"
+#include "vistas/comun/Botones.h"
 
 #include <QHBoxLayout>
 #include <QImageReader>

@@ -1,15 +1,15 @@
 #include "app/Ventanaprogramas.h"
 
 #include "app/Vistaprograma.h"
-#include "vistas/Paginadiasextremos.h"
-#include "vistas/Paginaentorno.h"
-#include "vistas/Paginaestadisticas.h"
-#include "vistas/Paginaexportacion.h"
-#include "vistas/Paginaposicionsolar.h"
-#include "vistas/Paginapsicrometrico.h"
-#include "vistas/Paginaresultadosextremos.h"
-#include "vistas/Panelseleccion.h"
-#include "vistas/Vistaexportacion.h"
+#include "vistas/extremos/Paginadiasextremos.h"
+#include "vistas/datos/Paginaentorno.h"
+#include "vistas/datos/Paginaestadisticas.h"
+#include "vistas/datos/Paginaexportacion.h"
+#include "vistas/sol/Paginaposicionsolar.h"
+#include "vistas/carta/Paginapsicrometrico.h"
+#include "vistas/extremos/Paginaresultadosextremos.h"
+#include "vistas/comun/Panelseleccion.h"
+#include "vistas/datos/Vistaexportacion.h"
 
 #include <QCloseEvent>
 #include <QTabWidget>

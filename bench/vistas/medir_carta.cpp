@@ -9,11 +9,11 @@
 #include "localidades/Ciudad.h"
 #include "psicro/Marcacarta.h"
 #include "psicro/Psicrometrico.h"
-#include "vistas/Marcocarta.h"
-#include "vistas/Paginapsicrometrico.h"
-#include "vistas/Panelseleccion.h"
-#include "vistas/Textoqt.h"
-#include "vistas/Vistapsicrometrico.h"
+#include "vistas/carta/Marcocarta.h"
+#include "vistas/carta/Paginapsicrometrico.h"
+#include "vistas/comun/Panelseleccion.h"
+#include "vistas/comun/Textoqt.h"
+#include "vistas/carta/Vistapsicrometrico.h"
 
 #include <QApplication>
 #include <QImage>

@@ -2,8 +2,8 @@
 // la biblioteca, con la misma pluma de ancho 2, las mismas series y el mismo tamaño, en una sola ejecución.
 
 #include "core/Calendario.h"
-#include "vistas/Escalahoras.h"
-#include "vistas/Grafico.h"
+#include "vistas/grafico/Escalahoras.h"
+#include "vistas/grafico/Grafico.h"
 
 #include <QApplication>
 #include <qcustomplot.h>

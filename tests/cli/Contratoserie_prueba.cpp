@@ -69,12 +69,7 @@ TEST_F(OrdenSerie, UnMetDeTreceColumnasSeLeePeroSeAvisa) {
 }
 
 TEST_F(OrdenSerie, UnaLocalidadConMetDeTreceColumnasTambienAvisa) {
-  std::filesystem::path met;
-  for (const auto &entrada : std::filesystem::recursive_directory_iterator(base_)) {
-    if (entrada.path().extension() == ".met") met = entrada.path();
-  }
-  ASSERT_FALSE(met.empty());
-  std::ofstream(met) << MetTrece();
+  raiz_.Escribir("base/Meteo/rota.met", MetTrece());
   EXPECT_NE(Serie({"--hasta", "1/1/1", "TS"}).error.find("trece columnas"), std::string::npos);
 }
 

@@ -1,0 +1,123 @@
+#include "vistas/comun/Casillanumero.h"
+
+#include "core/Configuracionregional.h"
+#include "core/Formato.h"
+#include "core/Varios.h"
+#include "vistas/comun/Textoqt.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace tesmo {
+
+namespace {
+
+bool EsSeparador(QChar c) { return c == '.' || c == ','; }
+bool EsSigno(QChar c) { return c == '+' || c == '-'; }
+bool EsCifra(QChar c) { return c >= '0' && c <= '9'; }
+
+/// El texto de una casilla: el número y lo que la casilla pone a sus lados.
+struct Partes {
+  QString prefijo;
+  QString numero;
+  QString sufijo;
+
+  template <class Casilla>
+  Partes(const Casilla &casilla, const QString &texto) : numero(texto) {
+    if (!casilla.prefix().isEmpty() && numero.startsWith(casilla.prefix())) {
+      prefijo = casilla.prefix();
+      numero.remove(0, prefijo.size());
+    }
+    if (!casilla.suffix().isEmpty() && numero.endsWith(casilla.suffix())) {
+      sufijo = casilla.suffix();
+      numero.chop(sufijo.size());
+    }
+  }
+  [[nodiscard]] QString Juntas() const { return prefijo + numero + sufijo; }
+};
+
+/// Cifras y separadores en cualquier orden, y un signo delante: lo que no llega a número se ve al terminar.
+bool SePuedeTeclear(const QString &numero) {
+  const QString limpio = numero.trimmed();
+  return std::all_of(limpio.begin(), limpio.end(), [&limpio](const QChar &c) {
+    return EsCifra(c) || EsSeparador(c) || (EsSigno(c) && &c == limpio.begin());
+  });
+}
+
+void PonSeparadorRegional(QString &numero) {
+  const QChar separador = QLatin1Char(Configuracionregional::SeparadorDecimal());
+  for (QChar &c : numero) {
+    if (EsSeparador(c)) c = separador;
+  }
+}
+
+std::optional<double> Leer(QString numero) {
+  PonSeparadorRegional(numero);
+  return TextoAReal(numero.toStdString());
+}
+
+/// Lo que la casilla guarda de lo leído, antes de mirar sus límites.
+double Guardado(const QSpinBox &, double valor) { return std::trunc(valor); }
+double Guardado(const QDoubleSpinBox &, double valor) { return valor; }
+
+template <class Casilla>
+std::optional<double> Leer(const Casilla &casilla, const QString &texto) {
+  const std::optional<double> valor = Leer(Partes(casilla, texto).numero);
+  return valor ? std::optional(Guardado(casilla, *valor)) : std::nullopt;
+}
+
+template <class Casilla>
+double Limitar(const Casilla &casilla, double valor) {
+  return std::clamp<double>(valor, casilla.minimum(), casilla.maximum());
+}
+
+template <class Casilla>
+QValidator::State Validar(const Casilla &casilla, QString &texto) {
+  Partes partes(casilla, texto);
+  if (!SePuedeTeclear(partes.numero)) return QValidator::Invalid;
+  PonSeparadorRegional(partes.numero);
+  texto = partes.Juntas();
+  const std::optional<double> valor = Leer(casilla, texto);
+  const bool vale = valor && Limitar(casilla, *valor) == *valor;
+  return vale ? QValidator::Acceptable : QValidator::Intermediate;
+}
+
+} // namespace
+
+CasillaEntera::CasillaEntera(QWidget *padre) : QSpinBox(padre) {}
+
+QValidator::State CasillaEntera::validate(QString &texto, int & /*cursor*/) const {
+  return Validar(*this, texto);
+}
+
+void CasillaEntera::fixup(QString &texto) const {
+  if (const auto valor = Leer(*this, texto))
+    texto = prefix() + textFromValue(static_cast<int>(Limitar(*this, *valor))) + suffix();
+}
+
+int CasillaEntera::valueFromText(const QString &texto) const {
+  return static_cast<int>(Limitar(*this, Leer(*this, texto).value_or(value())));
+}
+
+CasillaReal::CasillaReal(QWidget *padre) : QDoubleSpinBox(padre) {}
+
+QValidator::State CasillaReal::validate(QString &texto, int & /*cursor*/) const {
+  return Validar(*this, texto);
+}
+
+void CasillaReal::fixup(QString &texto) const {
+  if (const auto valor = Leer(*this, texto))
+    texto = prefix() + textFromValue(Limitar(*this, *valor)) + suffix();
+}
+
+double CasillaReal::valueFromText(const QString &texto) const {
+  return Limitar(*this, Leer(*this, texto).value_or(value()));
+}
+
+QString CasillaReal::textFromValue(double valor) const {
+  const std::string decimales(static_cast<std::size_t>(decimals()), '0');
+  return Texto(FormatearPatron(valor, decimales.empty() ? "0" : "0." + decimales));
+}
+
+} // namespace tesmo
