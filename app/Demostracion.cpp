@@ -7,9 +7,10 @@
 #include "app/Vistaprograma.h"
 #include "core/Mensajes.h"
 #include "meteo/Leermet.h"
+#include "vistas/carta/Vistapsicrometrico.h"
+#include "vistas/comun/Guardardibujo.h"
 #include "vistas/grafico/Grafico.h"
 #include "vistas/sol/Graficosolar.h"
-#include "vistas/comun/Guardardibujo.h"
 #include "vistas/sol/Vistaposicionsolar.h"
 
 #include <QApplication>
@@ -82,6 +83,8 @@ public:
     Pulsar(QStringLiteral("btnEjesPorUnidad"));
     GuardarVentana(QStringLiteral("ventana_anio.png"));
     Exportar(QStringLiteral("almeria.met"));
+    CartaPsicrometrica();
+    Valores();
     CartaSolar();
     DiasExtremos();
   }
@@ -128,11 +131,33 @@ private:
     Anunciar(Ruta(nombre), controlador.DameLeerMet()->EscribirFichero(Ruta(nombre).toStdString(), rotulos));
   }
 
+  void Traer(const char *pestana) {
+    Buscar<QTabWidget>(QStringLiteral("pcProgramas"))
+        .setCurrentWidget(&Buscar<QWidget>(QLatin1String(pestana)));
+  }
+
+  /// Las horas de una semana de julio sobre la carta.
+  void CartaPsicrometrica() {
+    PonPeriodo({7, 1, 1}, {7, 7, 24});
+    Traer("tsPsicrometrico");
+    Pulsar(QStringLiteral("btnNubes"));
+    GuardarVentana(QStringLiteral("ventana_carta.png"));
+    const QString carta = Ruta(QStringLiteral("carta_psicrometrica.svg"));
+    Anunciar(carta, Formulario().DameControlador().DameVistaPsicrometrico().GuardarImagen(carta));
+  }
+
+  /// Las medias y los grados-día del año, mes a mes.
+  void Valores() {
+    PonPeriodo({1, 1, 1}, {12, 31, 24});
+    Traer("tsValores");
+    Pulsar(QStringLiteral("rbTS"));
+    GuardarVentana(QStringLiteral("ventana_valores.png"));
+  }
+
   /// El camino del sol de los doce meses sobre una sierra al oeste.
   void CartaSolar() {
     Vistaposicionsolar &vista = Formulario().DameControlador().DameVistaPosicionSolar();
-    Buscar<QTabWidget>(QStringLiteral("pcProgramas"))
-        .setCurrentWidget(&Buscar<QWidget>(QStringLiteral("tsPosicionSolar")));
+    Traer("tsPosicionSolar");
     // Sin el reloj: la imagen es siempre la misma.
     for (const auto &[casilla, texto] : {std::pair{"edMes", "6"}, {"edDia", "21"}, {"edHora", "10"}})
       Buscar<QLineEdit>(QLatin1String(casilla)).setText(QLatin1String(texto));
