@@ -89,6 +89,7 @@ void RotularVolumen(QPainter &pintor, const Psicro &carta) {
   constexpr double SECO = 0.06;          // fracciones del máximo de humedad a las que van el rótulo
   constexpr double DEL_NOMBRE = 0.42;    // y el nombre
   constexpr double POR_LA_DERECHA = 0.8; // fracción de la temperatura máxima
+  constexpr double BORDE = 16.0;         // [px] más cerca del marco, el rótulo saldría cortado
   const double wSeco = SECO * carta.dameRango(Familia::W).maximo;
   const double wNombre = DEL_NOMBRE * carta.dameRango(Familia::W).maximo;
   const auto enLinea = [&](double v, double w) {
@@ -100,7 +101,9 @@ void RotularVolumen(QPainter &pintor, const Psicro &carta) {
   ParaCadaLinea(rango, VOLUMENES_POR_CIFRA, [&](double v) {
     const QPointF a = enLinea(v, 1.5 * wSeco);
     const QPointF b = enLinea(v, 0.5 * wSeco);
-    RotularSobreLineas(pintor, (a + b) / 2.0, Cifra(v, "0.00"), Giro(a, b));
+    const QPointF sitio = (a + b) / 2.0;
+    if (sitio.x() > BORDE && sitio.x() < static_cast<double>(carta.dameAncho()) - BORDE)
+      RotularSobreLineas(pintor, sitio, Cifra(v, "0.00"), Giro(a, b));
     const double seca = TemperaturaDeVolumen(carta, v, 0.0);
     if (nombrada || seca < POR_LA_DERECHA * carta.dameRango(Familia::T).maximo) return;
     nombrada = true;
