@@ -6,18 +6,11 @@
 
 namespace tesmo {
 
-RelojFichero ElegirReloj(const VeredictoReloj &veredicto, const EleccionReloj &eleccion) {
-  constexpr double FIN_DE_LA_HORA_MIN = -30.0; // lo corriente: la etiqueta es el final de su hora
-  const RelojFichero &declarado = veredicto.declarado.reloj;
-  RelojFichero reloj = veredicto.confianza >= ConfianzaReloj::Media ? veredicto.propuesto.reloj : declarado;
-  if (eleccion.tiempo && *eleccion.tiempo != reloj.tiempo) {
-    reloj = declarado;
-    if (*eleccion.tiempo != declarado.tiempo) reloj.desfaseMin = FIN_DE_LA_HORA_MIN;
-    reloj.tiempo = *eleccion.tiempo;
-  }
-  if (eleccion.desfaseMin) reloj.desfaseMin = *eleccion.desfaseMin;
-  if (eleccion.husoHoras) reloj.husoHoras = *eleccion.husoHoras;
-  return reloj;
+std::vector<std::string> AvisosDe(const AnioDeFichero &anio) {
+  std::vector<std::string> avisos;
+  for (const NotaLectura &nota : anio.lectura.avisos) avisos.push_back(nota.texto);
+  avisos.insert(avisos.end(), anio.veredicto.avisos.begin(), anio.veredicto.avisos.end());
+  return avisos;
 }
 
 AnioDeFichero LeerAnioDeFichero(const std::string &ruta, const EleccionReloj &eleccion,

@@ -2,22 +2,12 @@
 
 #include "intercambio/Aniosolar.h"
 #include "intercambio/formatos/Lectura.h"
-#include "intercambio/reloj/Detectorreloj.h"
+#include "intercambio/reloj/Eleccionreloj.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace tesmo {
-
-/// Con qué reloj se pasa un fichero a hora solar; lo que no se diga sale del propio fichero.
-struct EleccionReloj {
-  std::optional<TiempoEtiqueta> tiempo = std::nullopt; ///< vacío: el que dicen los datos
-  std::optional<double> desfaseMin = std::nullopt; ///< de la etiqueta al centro de su hora [min, −90 a 90]
-  /// De la hora oficial de invierno del sitio [h, este positivo]; vacío: el del fichero si es creíble
-  /// (HusoDeSitio).
-  std::optional<double> husoHoras = std::nullopt;
-};
 
 /// Un fichero llevado hasta el año de los motores, con lo que se supo por el camino.
 struct AnioDeFichero {
@@ -33,8 +23,7 @@ struct AnioDeFichero {
 [[nodiscard]] AnioDeFichero LeerAnioDeFichero(const std::string &ruta, const EleccionReloj &eleccion,
                                               const OpcionesLectura &opciones = {});
 
-/// El reloj con que se convierte: sin elección, el que los datos dicen con confianza media o alta y, si no,
-/// el declarado. Un tiempo elegido lleva el desfase declarado si es el suyo y −30 min si no.
-[[nodiscard]] RelojFichero ElegirReloj(const VeredictoReloj &veredicto, const EleccionReloj &eleccion);
+/// Lo que se dijo al leer @p anio y al mirar su reloj, en español y sin fin de línea.
+[[nodiscard]] std::vector<std::string> AvisosDe(const AnioDeFichero &anio);
 
 } // namespace tesmo

@@ -1,5 +1,6 @@
 #include "intercambio/auditoria/Materia.h"
 
+#include "intercambio/reloj/Eleccionreloj.h"
 #include "intercambio/reloj/Escalatiempo.h"
 #include "intercambio/reloj/Solverdadero.h"
 #include "intercambio/sintesis/Soldelanio.h"
@@ -45,10 +46,6 @@ double DistanciaKm(double latitud, double longitud, const NormalesLocalidad &loc
 
 } // namespace
 
-const RelojFichero &RelojDeAuditoria(const VeredictoReloj &veredicto) {
-  return veredicto.confianza >= ConfianzaReloj::Media ? veredicto.propuesto.reloj : veredicto.declarado.reloj;
-}
-
 SolDeRegistros CalcularSolDeRegistros(const AnioCanonico &anio, const RelojFichero &reloj) {
   constexpr double MEDIA_HORA = 30.0;
   SolDeRegistros sol;
@@ -77,7 +74,7 @@ MateriaAuditoria PrepararAuditoria(const ResultadoLectura &lectura, const Normal
   if (!lectura.anio) return materia;
   materia.anio = *lectura.anio;
   materia.reloj = DetectarReloj(materia.anio);
-  materia.sol = CalcularSolDeRegistros(materia.anio, RelojDeAuditoria(materia.reloj));
+  materia.sol = CalcularSolDeRegistros(materia.anio, ElegirReloj(materia.reloj));
   return materia;
 }
 

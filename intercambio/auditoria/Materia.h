@@ -18,10 +18,6 @@ struct SolDeRegistros {
   [[nodiscard]] bool Hay() const { return !cosenoCentro.empty(); }
 };
 
-/// El reloj con que se audita: el que los datos dicen, si lo dicen con confianza media o alta; si no, el
-/// declarado.
-[[nodiscard]] const RelojFichero &RelojDeAuditoria(const VeredictoReloj &veredicto);
-
 /// El sol (SolVerdadero) en las horas que cubren los registros de @p anio con @p reloj. Vacío sin latitud, o
 /// sin longitud si las etiquetas no son solares.
 [[nodiscard]] SolDeRegistros CalcularSolDeRegistros(const AnioCanonico &anio, const RelojFichero &reloj);
@@ -33,7 +29,7 @@ struct MateriaAuditoria {
   std::vector<NotaLectura> avisos;  ///< los de la lectura
   int registros = HORAS_DEL_ANIO;   ///< líneas de datos del fichero
   VeredictoReloj reloj;
-  SolDeRegistros sol; ///< con RelojDeAuditoria; vacío si no se sabe dónde está el sitio
+  SolDeRegistros sol; ///< con ElegirReloj; vacío si no se sabe dónde está el sitio
   const NormalesLocalidad *normales = nullptr; ///< las del lugar, si se conocen
 };
 

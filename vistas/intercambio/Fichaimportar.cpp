@@ -3,9 +3,9 @@
 #include "intercambio/Aniodefichero.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 #include "vistas/comun/Casillanumero.h"
-#include "vistas/intercambio/Dibujoreloj.h"
 #include "vistas/comun/Meses.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/intercambio/Dibujoreloj.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -143,7 +143,7 @@ void FichaImportar::Ensenar() {
   cbReemplazar_->setChecked(fichero.peticion.reemplazar);
   cbRellenar_->setChecked(fichero.huecosLargos == HuecosLargos::RellenarVecinos);
   const VeredictoReloj &veredicto = fichero.materia.reloj;
-  if (MismoReloj(fichero.reloj, RelojDeAuditoria(veredicto)))
+  if (MismoReloj(fichero.reloj, tesmo::ElegirReloj(veredicto)))
     cbReloj_->setCurrentIndex(DeLosDatos);
   else if (MismoReloj(fichero.reloj, veredicto.declarado.reloj))
     cbReloj_->setCurrentIndex(Declarado);
@@ -190,7 +190,7 @@ void FichaImportar::ElegirReloj() {
   const double huso = fichero_->reloj.husoHoras;
   switch (cbReloj_->currentIndex()) {
   case DeLosDatos:
-    fichero_->reloj = RelojDeAuditoria(veredicto);
+    fichero_->reloj = tesmo::ElegirReloj(veredicto);
     break;
   case Declarado:
     fichero_->reloj = veredicto.declarado.reloj;
