@@ -8,7 +8,7 @@
 namespace tesmo {
 
 std::span<const Comprobacion> ComprobacionesDeAuditoria() {
-  static constexpr std::array<Comprobacion, 19> TABLA{{
+  static constexpr std::array<Comprobacion, 20> TABLA{{
       {"registros", "Número de registros", MirarRegistros},
       {"orden", "Orden de las fechas", MirarOrden},
       {"codigos", "Códigos de dato ausente", MirarCodigos},
@@ -17,6 +17,7 @@ std::span<const Comprobacion> ComprobacionesDeAuditoria() {
       {"reloj", "Reloj", MirarReloj},
       {"cierre", "Cierre del haz", MirarCierre},
       {"noche", "Radiación de noche", MirarNoche},
+      {"dia", "Radiación de día", MirarDia},
       {"directa", "Directa normal y extraterrestre", MirarDirectaNormal},
       {"radiacion", "Radiación posible", MirarRadiacionPosible},
       {"saturacion", "Humedad y saturación", MirarSaturacion},

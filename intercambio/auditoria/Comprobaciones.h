@@ -16,6 +16,7 @@ namespace tesmo {
 [[nodiscard]] Hallazgo MirarReloj(const MateriaAuditoria &materia);
 [[nodiscard]] Hallazgo MirarCierre(const MateriaAuditoria &materia);
 [[nodiscard]] Hallazgo MirarNoche(const MateriaAuditoria &materia);
+[[nodiscard]] Hallazgo MirarDia(const MateriaAuditoria &materia);
 [[nodiscard]] Hallazgo MirarDirectaNormal(const MateriaAuditoria &materia);
 [[nodiscard]] Hallazgo MirarRadiacionPosible(const MateriaAuditoria &materia);
 

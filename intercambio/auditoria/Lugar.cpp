@@ -1,5 +1,6 @@
 #include "intercambio/auditoria/Comprobaciones.h"
 #include "intercambio/auditoria/Hallazgos.h"
+#include "intercambio/auditoria/Radiaciondehora.h"
 #include "intercambio/sintesis/Humedadsintetica.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 
@@ -42,13 +43,10 @@ DiasDelMes Diarias(const std::vector<double> &t, std::size_t mes, Mejor mejor) {
 
 /// Media diaria de la global de un mes [kWh/m²]; AUSENTE si no la hay.
 double GlobalDiaria(const MateriaAuditoria &materia, std::size_t mes) {
-  const std::vector<double> &global = Valores(materia, Campo::GlobalHorizontal);
-  const std::vector<double> &directa = Valores(materia, Campo::DirectaHorizontal);
-  const std::vector<double> &difusa = Valores(materia, Campo::DifusaHorizontal);
   double suma = 0.0;
   for (std::size_t i = PrimerDiaDe(mes) * HORAS_POR_DIA; i < (PrimerDiaDe(mes) + DiasDe(mes)) * HORAS_POR_DIA;
        ++i)
-    suma += std::isnan(global[i]) ? directa[i] + difusa[i] : global[i];
+    suma += GlobalDe(materia, i);
   return suma / 1000.0 / static_cast<double>(DiasDe(mes));
 }
 
@@ -112,7 +110,7 @@ Hallazgo MirarAltitud(const MateriaAuditoria &materia) {
 }
 
 Hallazgo MirarNormales(const MateriaAuditoria &materia) {
-  constexpr std::size_t FALTAS_GRAVES = 24; // la mitad de las cifras del año: es otro sitio
+  constexpr std::size_t FALTAS_GRAVES = MESES * 5 / 2; // la mitad de las cifras del año: es otro sitio
   if (materia.normales == nullptr) return NoComprobada("no se conocen las normales del lugar");
   if (!Trae(materia, Campo::TemperaturaSeca)) return NoComprobada("no hay temperaturas");
   Diferencias diferencias;

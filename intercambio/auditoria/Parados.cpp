@@ -20,14 +20,17 @@ struct Plazo {
   bool imprescindible; ///< sin él no hay año: parado casi siempre es grave
 };
 constexpr auto SIN_LIMITE = static_cast<std::size_t>(HORAS_DEL_ANIO);
-constexpr std::array<Plazo, 10> PLAZOS{{
+constexpr std::array<Plazo, 13> PLAZOS{{
     {Campo::TemperaturaSeca, 36, AUSENTE, 36, true},
     {Campo::TemperaturaRocio, 36, AUSENTE, 36, false},
     {Campo::HumedadRelativa, 36, 100.0, 120, true},
     {Campo::HumedadAbsoluta, 48, AUSENTE, 48, true},
+    {Campo::TemperaturaCielo, 48, AUSENTE, 48, true},
+    {Campo::InfrarrojaHorizontal, 48, AUSENTE, 48, false},
     {Campo::Presion, 48, AUSENTE, 48, false},
     {Campo::GlobalHorizontal, 6, 0.0, SIN_LIMITE, true},
     {Campo::DirectaNormal, 6, 0.0, SIN_LIMITE, false},
+    {Campo::DirectaHorizontal, 6, 0.0, SIN_LIMITE, true},
     {Campo::DifusaHorizontal, 6, 0.0, SIN_LIMITE, true},
     {Campo::VelocidadViento, 24, 0.0, 96, false},
     {Campo::DireccionViento, 72, 0.0, SIN_LIMITE, false},

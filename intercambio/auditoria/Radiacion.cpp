@@ -1,5 +1,6 @@
 #include "intercambio/auditoria/Comprobaciones.h"
 #include "intercambio/auditoria/Hallazgos.h"
+#include "intercambio/auditoria/Radiaciondehora.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,8 +17,6 @@ namespace {
 /// Bajo esta altura del sol toda la hora, lo que quede de luz (crepúsculo civil, 6°) no llega a medirse como
 /// radiación: coseno del cenit de −6°.
 const double COSENO_NOCHE = std::cos(96.0 * 3.14159265358979 / 180.0);
-/// Lo que un piranómetro puede marcar sin sol [W/m²] (desviación térmica, con signo cambiado, de Long y Shi).
-constexpr double RADIACION_NOCTURNA = 4.0;
 /// Horas con más desajuste de las que un año tiene por nubes que cruzan y horas rasantes.
 constexpr double PARTE_DE_AVISO = 0.05;
 constexpr double PARTE_GRAVE = 0.25;
@@ -25,25 +24,6 @@ constexpr double PARTE_GRAVE = 0.25;
 bool HayHaz(const MateriaAuditoria &materia) {
   return materia.sol.Hay() && Trae(materia, Campo::GlobalHorizontal) && Trae(materia, Campo::DirectaNormal) &&
          Trae(materia, Campo::DifusaHorizontal);
-}
-
-/// Coseno del cenit en el centro de la hora, nunca negativo.
-double Coseno(const MateriaAuditoria &materia, std::size_t i) {
-  return std::max(0.0, materia.sol.cosenoCentro[i]);
-}
-
-/// Directa normal del fichero, o la que sale de la horizontal y del propio sol; AUSENTE si no la hay o si el
-/// sol está demasiado bajo para dividir por su coseno.
-double DirectaNormalDe(const MateriaAuditoria &materia, std::size_t i) {
-  constexpr double COSENO_MINIMO = 0.15; // sol a menos de 9°: un minuto de reloj ya mueve el cociente
-  const double normal = Valores(materia, Campo::DirectaNormal)[i];
-  if (!std::isnan(normal)) return normal;
-  const double coseno = Coseno(materia, i);
-  if (coseno < COSENO_MINIMO) return AUSENTE;
-  const double directa = Valores(materia, Campo::DirectaHorizontal)[i];
-  if (!std::isnan(directa)) return directa / coseno;
-  return (Valores(materia, Campo::GlobalHorizontal)[i] - Valores(materia, Campo::DifusaHorizontal)[i]) /
-         coseno;
 }
 
 /// Horas del año que cumplen @p mala.
@@ -67,11 +47,13 @@ constexpr LimiteFisico LIMITE_DIFUSA{Campo::DifusaHorizontal, 0.75, 1.2, 30.0};
 constexpr LimiteFisico LIMITE_DIRECTA{Campo::DirectaHorizontal, 1.0, 1.0, 0.0};
 
 HorasMalas PorEncima(const MateriaAuditoria &materia, const LimiteFisico &limite) {
+  const bool esGlobal = limite.campo == Campo::GlobalHorizontal; // un .met la da en dos partes
   const std::vector<double> &valores = Valores(materia, limite.campo);
   return Reunir([&](std::size_t i) {
+    const double valor = esGlobal ? GlobalDe(materia, i) : valores[i];
     const double mu = std::max(0.0, materia.sol.cosenoMayor[i]);
     const double maximo = materia.sol.extraterrestre[i] * limite.a * std::pow(mu, limite.b) + limite.c;
-    return valores[i] > maximo + RADIACION_NOCTURNA;
+    return valor > maximo + RADIACION_NOCTURNA;
   });
 }
 
@@ -84,20 +66,24 @@ struct Cierre {
 };
 
 Cierre CierreDelAnio(const MateriaAuditoria &materia) {
-  constexpr double SUMA_MINIMA = 50.0;              // Long y Shi: sólo con DHI + DNI·cos z > 50 W/m²
+  // Long y Shi: sólo con más de 50 W/m². Los suyos son de DHI + DNI·cos z; aquí, de ésa o de la global, la
+  // mayor, para que una global sin haz ni difusa también cuente.
+  constexpr double MINIMA = 50.0;
   constexpr double COSENO_75 = 0.25881904510252074; // y dos holguras, a un lado y otro de 75° de cenit
   constexpr double HOLGURA_ALTO = 0.08, HOLGURA_BAJO = 0.15;
   constexpr double DISPARATE = 200.0; // [W/m²]
   Cierre cierre;
   for (std::size_t i = 0; i < static_cast<std::size_t>(HORAS_DEL_ANIO); ++i) {
     const double difusa = Valores(materia, Campo::DifusaHorizontal)[i];
-    const double suma = difusa + Valores(materia, Campo::DirectaNormal)[i] * Coseno(materia, i);
-    const double desajuste = Valores(materia, Campo::GlobalHorizontal)[i] - suma;
-    if (!(suma > SUMA_MINIMA) || std::isnan(desajuste)) continue;
+    const double suma = difusa + Valores(materia, Campo::DirectaNormal)[i] * CosenoDe(materia, i);
+    const double global = Valores(materia, Campo::GlobalHorizontal)[i];
+    const double desajuste = global - suma;
+    const double mayor = std::max(suma, global);
+    if (std::isnan(desajuste) || mayor <= MINIMA) continue;
     cierre.suma2 += desajuste * desajuste;
     ++cierre.horas;
-    const double holgura = Coseno(materia, i) > COSENO_75 ? HOLGURA_ALTO : HOLGURA_BAJO;
-    if (std::abs(desajuste) > holgura * suma) cierre.malas.push_back(i);
+    const double holgura = CosenoDe(materia, i) > COSENO_75 ? HOLGURA_ALTO : HOLGURA_BAJO;
+    if (std::abs(desajuste) > holgura * mayor) cierre.malas.push_back(i);
     if (std::abs(desajuste) > DISPARATE) cierre.disparates.push_back(i);
   }
   return cierre;

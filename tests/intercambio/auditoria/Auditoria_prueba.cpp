@@ -41,8 +41,23 @@ void Copiar(MateriaAuditoria &materia, std::size_t desde, std::size_t a, std::si
   }
 }
 
-void Parar(MateriaAuditoria &materia, Campo campo, std::size_t desde, std::size_t horas) {
-  for (std::size_t i = desde; i < desde + horas; ++i) Poner(materia, campo, i, 3.3);
+void Parar(MateriaAuditoria &materia, Campo campo, std::size_t desde, std::size_t horas, double en = 3.3) {
+  for (std::size_t i = desde; i < desde + horas; ++i) Poner(materia, campo, i, en);
+}
+
+const std::vector<Campo> RADIACIONES{Campo::GlobalHorizontal, Campo::DirectaNormal, Campo::DifusaHorizontal};
+void Anular(MateriaAuditoria &materia, const std::vector<Campo> &campos, std::size_t desde,
+            std::size_t horas) {
+  for (Campo campo : campos) Parar(materia, campo, desde, horas, 0.0);
+}
+
+/// Las líneas de las horas de un tramo en que el sol del sitio limpio pasa de 11,5° de altura.
+std::vector<int> HorasAltas(std::size_t desde, std::size_t horas) {
+  const MateriaAuditoria materia = MateriaLimpia();
+  std::vector<int> lineas;
+  for (std::size_t i = desde; i < desde + horas; ++i)
+    if (materia.sol.cosenoCentro[i] > 0.2) lineas.push_back(LineaDe(i));
+  return lineas;
 }
 
 std::vector<Defecto> Defectos() {
@@ -105,6 +120,50 @@ std::vector<Defecto> Defectos() {
        "radiacion",
        {LineaDe(MEDIODIA)},
        Veredicto::AptoConAvisos},
+      {"SinHazNiDifusa", // y la global, buena: importada, toda sería directa
+       [](M &m) {
+         Anular(m, {Campo::DirectaNormal, Campo::DifusaHorizontal}, 0, 8760);
+       },
+       "cierre dia",
+       "cierre",
+       {},
+       Veredicto::NoApto},
+      {"UnaSemanaSinHazNiDifusa",
+       [](M &m) {
+         Anular(m, {Campo::DirectaNormal, Campo::DifusaHorizontal}, Posicion(6, 1, 1), 168);
+       },
+       "cierre dia",
+       "cierre",
+       {},
+       Veredicto::AptoConAvisos},
+      {"UnAnioSinRadiacion",
+       [](M &m) { Anular(m, RADIACIONES, 0, 8760); },
+       "dia",
+       "dia",
+       {},
+       Veredicto::NoApto},
+      {"UnMesSinRadiacion",
+       [](M &m) { Anular(m, RADIACIONES, Posicion(6, 1, 1), 720); },
+       "dia",
+       "dia",
+       {},
+       Veredicto::NoApto},
+      {"UnDiaSinRadiacion", [](M &m) { Anular(m, RADIACIONES, Posicion(6, 1, 1), 24); }, "dia", "dia",
+       HorasAltas(Posicion(6, 1, 1), 24), Veredicto::AptoConAvisos},
+      {"SinDifusa",
+       [](M &m) {
+         for (std::size_t i = 0; i < 8760; ++i) {
+           const double difusa = m.anio[Campo::DifusaHorizontal].valores[i];
+           Poner(m, Campo::GlobalHorizontal, i, m.anio[Campo::GlobalHorizontal].valores[i] - difusa);
+           Poner(m, Campo::DifusaHorizontal, i, 0.0);
+         }
+       },
+       "dia",
+       "dia",
+       {},
+       Veredicto::NoApto},
+      {"InfrarrojaParada", [](M &m) { Parar(m, Campo::InfrarrojaHorizontal, NOCHE, 60, 300.0); }, "parados",
+       "parados", Tramo(NOCHE, 60), Veredicto::AptoConAvisos},
       {"SobreSaturacion",
        [](M &m) {
          Poner(m, Campo::HumedadRelativa, NOCHE, 104.0);
@@ -232,10 +291,42 @@ TEST(Auditoria, UnaDirectaHorizontalImposibleSeVePorSuNormal) {
   EXPECT_EQ(Mirar(materia, "directa").lineas, std::vector<int>{LineaDe(MEDIODIA)});
 }
 
+/// Un .met limpio con una columna cambiada en todo el año.
+MateriaAuditoria MetCon(Campo campo, double valor) {
+  MateriaAuditoria materia = MateriaMetLimpia();
+  Parar(materia, campo, 0, 8760, valor);
+  return materia;
+}
+
+TEST(Auditoria, LasColumnasPropiasDeUnMetTambienSeParan) {
+  EXPECT_EQ(Mirar(MetCon(Campo::TemperaturaCielo, 0.0), "parados").gravedad, Gravedad::Grave);
+  EXPECT_EQ(Mirar(MetCon(Campo::DirectaHorizontal, 0.0), "dia").gravedad, Gravedad::Grave);
+  EXPECT_EQ(Mirar(MetCon(Campo::DirectaHorizontal, 20.0), "parados").gravedad, Gravedad::Grave);
+  MateriaAuditoria nublado = MateriaMetLimpia(); // quince días cubiertos son tiempo, no un sensor
+  Parar(nublado, Campo::DirectaHorizontal, Posicion(11, 10, 1), 360, 0.0);
+  EXPECT_EQ(Faltas(nublado), "");
+}
+
+TEST(Auditoria, LaGlobalDeUnMetEsLaSumaDeSusPartes) {
+  MateriaAuditoria materia = MateriaMetLimpia();
+  Poner(materia, Campo::DirectaHorizontal, MEDIODIA, 1000.0);
+  EXPECT_EQ(Mirar(materia, "radiacion").gravedad, Gravedad::Conforme);
+  Poner(materia, Campo::DifusaHorizontal, MEDIODIA, 700.0);
+  EXPECT_EQ(Mirar(materia, "radiacion").lineas, std::vector<int>{LineaDe(MEDIODIA)});
+}
+
+TEST(Auditoria, LoQueUnaTormentaDejaAOscurasNoEsFalta) {
+  MateriaAuditoria materia = MateriaLimpia();
+  Anular(materia, RADIACIONES, MEDIODIA, 5);
+  EXPECT_EQ(Faltas(materia), "");
+  Anular(materia, RADIACIONES, MEDIODIA, 6);
+  EXPECT_EQ(Faltas(materia), "dia");
+}
+
 TEST(Auditoria, SinSitioLoQueNecesitaElSolNoSeComprueba) {
   MateriaAuditoria materia = MateriaLimpia();
   materia.sol = {};
-  for (const char *clave : {"cierre", "noche", "directa", "radiacion"})
+  for (const char *clave : {"cierre", "noche", "dia", "directa", "radiacion"})
     EXPECT_EQ(Mirar(materia, clave).gravedad, Gravedad::NoComprobada) << clave;
 }
 

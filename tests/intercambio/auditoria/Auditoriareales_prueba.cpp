@@ -33,8 +33,9 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         // tres horas de viento de −0,5 m/s, que no es una velocidad
         FicheroReal{"PVGIS_TMY_37.095_-2.3585_PSA_Tabernas.epw", "huecos rango", Veredicto::AptoConAvisos},
-        FicheroReal{"PVGIS_tmy_45.000_8.000_2005_2023.epw", "", Veredicto::Apto},
-        FicheroReal{"PVGIS_tmy_45.000_8.000_2005_2023.csv", "", Veredicto::Apto},
+        // del 16 al 18 de mayo y otras horas sueltas, ninguna radiación a mediodía
+        FicheroReal{"PVGIS_tmy_45.000_8.000_2005_2023.epw", "dia", Veredicto::AptoConAvisos},
+        FicheroReal{"PVGIS_tmy_45.000_8.000_2005_2023.csv", "dia", Veredicto::AptoConAvisos},
         // la misma presión en las 8760 horas
         FicheroReal{"TMY3_703165TY_SandPoint_Alaska.csv", "parados", Veredicto::AptoConAvisos}),
     [](const auto &dato) {
