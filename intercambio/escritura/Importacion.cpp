@@ -26,6 +26,7 @@ constexpr double GRADOS_POR_HORA = 15.0;
 enum Campo : std::size_t {
   CAMPO_NOMBRE = 0,
   CAMPO_CORTO = 1,
+  CAMPO_PROVINCIA = 2,
   CAMPO_CUARTO = 3,
   CAMPO_REFERENCIA = 4,
   CAMPO_FICHERO = 5,
@@ -58,9 +59,12 @@ public:
     if (!Preparar()) return;
     const std::vector<FicheroConjunto> ficheros{
         {ficha_.fichero, TextoDelMet()}, {nombreGdr_, TextoDeGdr()}, {nombreLista_, lista_.Contenido()}};
+    if (!ConservarFuente()) return;
     resultado_.error = SustituirJuntos(directorio_, ficheros, tras);
     if (!resultado_.error.empty()) {
       resultado_.fallo = FalloImportacion::Salida;
+      std::error_code error;
+      if (!copia_.empty()) fs::remove(copia_, error); // la fuente sigue donde estaba
       return;
     }
     for (const FicheroConjunto &fichero : ficheros)
@@ -83,9 +87,19 @@ private:
     if (ficha_.nombre != peticion_.nombre) Avisar("el nombre queda en «" + ficha_.nombre + "»");
     anterior_ = lista_.Buscar(lista_.ComoSeLeera(ficha_.nombre));
     if (anterior_ && !peticion_.reemplazar)
-      return Fallar(FalloImportacion::Existe, "ya hay una localidad «" + ficha_.nombre + "»");
+      return Fallar(FalloImportacion::Existe,
+                    "ya hay una localidad «" + ficha_.nombre + "» en " + (*anterior_)[CAMPO_PROVINCIA]);
     resultado_.reemplazada = anterior_.has_value();
+    AvisarDeOtraProvincia();
     return PrepararSitio() && ElegirNombres() && PonerEnLaLista();
+  }
+
+  /// El nombre es único en toda la base: reemplazar una localidad puede sacarla de su provincia.
+  void AvisarDeOtraProvincia() {
+    if (!anterior_) return;
+    const std::string &tenia = (*anterior_)[CAMPO_PROVINCIA];
+    if (tenia != lista_.ComoSeLeera(ficha_.provincia))
+      Avisar("estaba en " + tenia + "; pasa a " + ficha_.provincia);
   }
 
   bool PrepararSitio() {
@@ -185,11 +199,43 @@ private:
                   std::string(LISTA) + " no se entiende: no se puede añadir nada");
   }
 
+  /// Si el fichero leído es el que se va a escribir, deja una copia suya a su lado: sin ella no se podría
+  /// repetir la importación con otro reloj.
+  bool ConservarFuente() {
+    const fs::path destino = directorio_ / RutaDesdeTexto(ficha_.fichero);
+    std::error_code error;
+    if (peticion_.fuente.empty() ||
+        !fs::equivalent(BuscarSinMayusculas(RutaDesdeTexto(peticion_.fuente)), destino, error))
+      return true;
+    std::string copia = ficha_.fichero + ".original";
+    for (int i = 2; HayFichero(directorio_, copia); ++i)
+      copia = ficha_.fichero + ".original-" + std::to_string(i);
+    copia_ = directorio_ / RutaDesdeTexto(copia);
+    const std::optional<std::string> contenido = LeerFicheroEntero(destino);
+    if (!contenido || !EscribirFicheroEntero(copia_, *contenido))
+      return Fallar(FalloImportacion::Salida,
+                    copia + ": no se puede escribir en " + TextoDeRuta(directorio_));
+    Avisar("el fichero leído es el que se escribe: el original queda en " + copia);
+    return true;
+  }
+
   [[nodiscard]] std::string TextoDelMet() const {
     const CabeceraMet cabecera{"Importado por Tesmo: " + ficha_.nombre + ", " + ficha_.provincia +
                                    (peticion_.origen.empty() ? "" : "; de " + peticion_.origen),
                                ficha_.latitud, ficha_.longitud, ficha_.altitud, ficha_.meridiano};
     return TextoMet(cabecera, ColumnasDe(anio_));
+  }
+
+  std::string Zona() {
+    if (!peticion_.zona.empty()) return peticion_.zona;
+    const std::string tenia = gdr_.ZonaDe(ficha_.corto);
+    if (!tenia.empty()) return tenia;
+    if (!peticion_.zonaPropuesta.empty()) {
+      Avisar("no se ha dicho la zona: se toma " + peticion_.zonaPropuesta + ", la de las normales del lugar");
+      return peticion_.zonaPropuesta;
+    }
+    Avisar("no se ha dicho la zona: los días extremos la toman del interior");
+    return ZONA_INTERIOR;
   }
 
   std::string TextoDeGdr() {
@@ -199,11 +245,7 @@ private:
     registro.longitud = ficha_.longitud;
     registro.meridiano = ficha_.meridiano;
     registro.altitud = ficha_.altitud;
-    registro.zona = peticion_.zona.empty() ? gdr_.ZonaDe(ficha_.corto) : peticion_.zona;
-    if (registro.zona.empty()) {
-      registro.zona = ZONA_INTERIOR;
-      Avisar("no se ha dicho la zona: los días extremos la toman del interior");
-    }
+    registro.zona = Zona();
     const VistaDeGdr vista = gdr_.Poner(registro);
     if (vista == VistaDeGdr::PasaDelLimite)
       Avisar("los días extremos no encontrarán esta localidad: sólo se miran los " +
@@ -224,6 +266,7 @@ private:
   ListaGdr gdr_;
   FichaLocalidad ficha_;
   std::optional<CamposLocalidad> anterior_;
+  fs::path copia_; ///< la de la fuente, si era el destino
 };
 
 std::vector<std::string> NombresDeListas(const fs::path &directorio) {

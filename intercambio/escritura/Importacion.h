@@ -17,9 +17,14 @@ inline constexpr const char *ZONA_INTERIOR = "INTERIOR";
 struct PeticionImportacion {
   std::string nombre;    ///< de la localidad; se limpia (TextoDeCampo)
   std::string provincia; ///< lo mismo
-  std::string zona;      ///< "COSTA" o "INTERIOR"; vacía: la que ya tuviera y, si no, "INTERIOR"
+  std::string zona;      ///< "COSTA" o "INTERIOR"; vacía: la que ya tuviera; si no, zonaPropuesta
   std::string origen;    ///< de dónde sale el año, para la primera línea del .met
   bool reemplazar = false;
+  /// Si no se dice la zona y la localidad no tenía: "COSTA", "INTERIOR" o vacía, que es "INTERIOR".
+  std::string zonaPropuesta = {};
+  /// Ruta del fichero de que salió el año: si es el propio .met de la localidad, se conserva a su lado con
+  /// ".original" detrás. Vacía: no se mira.
+  std::string fuente = {};
 };
 
 enum class FalloImportacion {

@@ -89,7 +89,7 @@ TEST_F(Importacion, UnaQueYaEstaSoloSeReemplazaSiSePide) {
   const std::string gdr = Leer("GDR.TXT");
   const ResultadoImportacion negado = Importar("Rota", "Cádiz");
   EXPECT_EQ(negado.fallo, FalloImportacion::Existe);
-  EXPECT_EQ(negado.error, "ya hay una localidad «Rota»");
+  EXPECT_EQ(negado.error, "ya hay una localidad «Rota» en Cádiz");
   for (double &t : anio_[SerieAlmacenada::TemperaturaSeca].valores) t += 1.0;
   const ResultadoImportacion hecho = Importar("Rota", "Cádiz", true, "");
   EXPECT_EQ(hecho.error, "");
@@ -110,6 +110,58 @@ TEST_F(Importacion, LaReemplazadaConservaSusNombresSiSonSuyos) {
   EXPECT_TRUE(Leer("GDR.TXT").starts_with("rt "));
   EXPECT_TRUE(Leer("LocalidadesCC").starts_with("2\nRota,rt,Cádiz,c,r,OTRO.MET,37.25,-3.5,15,680,7\n"))
       << Leer("LocalidadesCC");
+}
+
+TEST_F(Importacion, ReemplazarUnaDeOtraProvinciaLoDice) {
+  ASSERT_EQ(Importar("Rota", "Cádiz").error, "");
+  EXPECT_EQ(Importar("Rota", "Clientes").error, "ya hay una localidad «Rota» en Cádiz");
+  const ResultadoImportacion hecho = Importar("Rota", "Clientes", true);
+  EXPECT_EQ(hecho.avisos, std::vector<std::string>{"estaba en Cádiz; pasa a Clientes"});
+  EXPECT_EQ(hecho.registro.provincia, "Clientes");
+}
+
+TEST_F(Importacion, LaZonaEsLaDichaLaQueTeniaOLaPropuesta) {
+  PeticionImportacion peticion{"Rota", "Cádiz", "", "", true};
+  peticion.zonaPropuesta = ZONA_COSTA;
+  const ResultadoImportacion nueva = ImportarLocalidad(raiz_.Ruta().string(), peticion, anio_);
+  EXPECT_EQ(nueva.avisos,
+            std::vector<std::string>{"no se ha dicho la zona: se toma COSTA, la de las normales del lugar"});
+  EXPECT_TRUE(Leer("GDR.TXT").starts_with("Rota COSTA ")) << Leer("GDR.TXT");
+  peticion.zonaPropuesta = ZONA_INTERIOR;
+  EXPECT_TRUE(ImportarLocalidad(raiz_.Ruta().string(), peticion, anio_).avisos.empty());
+  EXPECT_TRUE(Leer("GDR.TXT").starts_with("Rota COSTA ")) << Leer("GDR.TXT");
+  peticion.zona = ZONA_INTERIOR;
+  static_cast<void>(ImportarLocalidad(raiz_.Ruta().string(), peticion, anio_));
+  EXPECT_TRUE(Leer("GDR.TXT").starts_with("Rota INTERIOR ")) << Leer("GDR.TXT");
+}
+
+TEST_F(Importacion, SiSeLeyoElMetQueSeEscribeElOriginalQuedaASuLado) {
+  ASSERT_EQ(Importar("Rota").error, "");
+  raiz_.Escribir("Rota.met", "trece columnas");
+  PeticionImportacion peticion{"Rota", "Granada", "", "", true};
+  peticion.fuente = (raiz_ / "ROTA.MET").string(); // se lee sin mirar mayúsculas
+  const ResultadoImportacion hecho = ImportarLocalidad(raiz_.Ruta().string(), peticion, anio_);
+  EXPECT_EQ(hecho.avisos,
+            std::vector<std::string>{
+                "el fichero leído es el que se escribe: el original queda en Rota.met.original"});
+  EXPECT_EQ(Leer("Rota.met.original"), "trece columnas");
+  const std::string importado = Leer("Rota.met");
+  EXPECT_TRUE(importado.starts_with("Importado por Tesmo: "));
+  EXPECT_EQ(ImportarLocalidad(raiz_.Ruta().string(), peticion, anio_).error, "");
+  EXPECT_EQ(Leer("Rota.met.original"), "trece columnas");
+  EXPECT_EQ(Leer("Rota.met.original-2"), importado);
+  peticion.fuente = raiz_.Escribir("otro.met", "otro");
+  EXPECT_TRUE(ImportarLocalidad(raiz_.Ruta().string(), peticion, anio_).avisos.empty());
+}
+
+TEST_F(Importacion, SiNoSePuedeEscribirNoQuedaNiLaCopiaDelOriginal) {
+  raiz_.Escribir("LocalidadesCC", "1\nRota,Rota,Cádiz,,Rota,Rota.met,1,2,3,4,0\n");
+  fs::create_directory(raiz_ / "GDR.TXT");
+  PeticionImportacion peticion{"Rota", "Cádiz", "", "", true};
+  peticion.fuente = raiz_.Escribir("Rota.met", "trece columnas");
+  EXPECT_EQ(ImportarLocalidad(raiz_.Ruta().string(), peticion, anio_).fallo, FalloImportacion::Salida);
+  EXPECT_EQ(EnElDirectorio(), (std::vector<std::string>{"GDR.TXT", "LocalidadesCC", "Rota.met"}));
+  EXPECT_EQ(Leer("Rota.met"), "trece columnas");
 }
 
 TEST_F(Importacion, LaReemplazadaNoPisaElFicheroQueComparte) {
