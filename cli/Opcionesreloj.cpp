@@ -35,6 +35,8 @@ void AnadirReloj(CLI::App &orden, OpcionesReloj &opciones) {
   AnadirValor(
       orden, "--huso", opciones.huso, "H",
       "Huso de la hora oficial de invierno, -14 a 14 (si no se da, el del fichero o el de la longitud)");
+  AnadirValor(orden, "--altitud", opciones.altitud, "M",
+              "Altitud del sitio, -500 a 9000 (si no se da, la del fichero)");
   AnadirMapa(orden, opciones.mapa);
   orden.add_flag("--rellenar", opciones.rellenar,
                  "Llena los huecos de más de tres horas con los días vecinos");
@@ -61,15 +63,17 @@ EleccionReloj InterpretarReloj(const OpcionesReloj &opciones) {
 }
 
 OpcionesLectura InterpretarLectura(const OpcionesReloj &opciones) {
+  constexpr double ALTITUD_MINIMA_M = -500.0, ALTITUD_MAXIMA_M = 9000.0;
   OpcionesLectura lectura;
+  if (opciones.altitud)
+    lectura.altitud = LeerNumero(*opciones.altitud, "--altitud", ALTITUD_MINIMA_M, ALTITUD_MAXIMA_M);
   lectura.mapa = InterpretarMapa(opciones.mapa);
   if (opciones.rellenar) lectura.huecosLargos = HuecosLargos::RellenarVecinos;
   return lectura;
 }
 
 void AvisarDeFichero(const std::string &fichero, const AnioDeFichero &anio, Contexto &contexto) {
-  for (const NotaLectura &nota : anio.lectura.avisos) Avisar(contexto, fichero + ": " + nota.texto);
-  for (const std::string &aviso : anio.veredicto.avisos) Avisar(contexto, fichero + ": " + aviso);
+  for (const std::string &aviso : AvisosDe(anio)) Avisar(contexto, fichero + ": " + aviso);
   for (const std::string &error : anio.errores)
     contexto.error << "Error: " << fichero << ": " << error << '\n';
 }

@@ -14,7 +14,7 @@ namespace tesmo::cli {
 
 /// Opciones de las órdenes que llevan un fichero ajeno a la hora de los cálculos, tal como se teclean.
 struct OpcionesReloj {
-  std::optional<std::string> reloj, desfase, huso, mapa;
+  std::optional<std::string> reloj, desfase, huso, altitud, mapa;
   bool rellenar = false;
 };
 /// Sólo la opción --mapa.

@@ -25,6 +25,22 @@ PeticionImportacion Proponer(const std::string &ruta, const MateriaAuditoria &ma
   return peticion;
 }
 
+/// En hora oficial el huso es parte del reloj; en las otras, sólo el meridiano que se escribirá.
+double HusoPropuesto(const MateriaAuditoria &materia, TiempoEtiqueta tiempo) {
+  const double huso = ElegirReloj(materia.reloj).husoHoras;
+  return tiempo == TiempoEtiqueta::OficialEstandar
+             ? huso
+             : HusoDeSitio(huso * GRADOS_POR_HUSO, materia.anio.sitio.longitud);
+}
+
+/// El reloj elegido. El huso que nadie tocó no se da por dicho: así se escribe el mismo que en un lote.
+EleccionReloj EleccionDe(const FicheroImportable &fichero) {
+  const RelojFichero &reloj = fichero.reloj;
+  EleccionReloj eleccion{reloj.tiempo, reloj.desfaseMin, reloj.husoHoras};
+  if (reloj.husoHoras == HusoPropuesto(fichero.materia, reloj.tiempo)) eleccion.husoHoras.reset();
+  return eleccion;
+}
+
 /// Los errores de una lectura en una frase.
 std::string EnUnaFrase(const std::vector<std::string> &errores) {
   std::string texto;
@@ -46,12 +62,8 @@ FicheroImportable PrepararFichero(const std::string &ruta, const std::vector<Nor
   fichero.materia =
       PrepararAuditoria(lectura, lectura.anio ? NormalesDelSitio(normales, lectura.anio->sitio) : nullptr);
   fichero.auditoria = Auditar(fichero.materia);
-  fichero.reloj = RelojDeAuditoria(fichero.materia.reloj);
-  // En hora oficial el huso es parte del reloj; en las otras, sólo el meridiano que se escribirá.
-  if (fichero.reloj.tiempo != TiempoEtiqueta::OficialEstandar) {
-    fichero.reloj.husoHoras =
-        HusoDeSitio(fichero.reloj.husoHoras * GRADOS_POR_HUSO, fichero.materia.anio.sitio.longitud);
-  }
+  fichero.reloj = ElegirReloj(fichero.materia.reloj);
+  fichero.reloj.husoHoras = HusoPropuesto(fichero.materia, fichero.reloj.tiempo);
   fichero.peticion = Proponer(ruta, fichero.materia);
   fichero.legible = lectura.anio.has_value();
   return fichero;
@@ -61,17 +73,19 @@ FicheroImportado ImportarFichero(const std::string &directorio, const FicheroImp
   OpcionesLectura opciones;
   opciones.huecosLargos = fichero.huecosLargos;
   opciones.mapa = fichero.mapa;
-  const RelojFichero &reloj = fichero.reloj;
-  AnioDeFichero leido =
-      LeerAnioDeFichero(fichero.ruta, {reloj.tiempo, reloj.desfaseMin, reloj.husoHoras}, opciones);
+  opciones.altitud = fichero.altitud;
+  AnioDeFichero leido = LeerAnioDeFichero(fichero.ruta, EleccionDe(fichero), opciones);
   FicheroImportado importado;
+  importado.avisos = AvisosDe(leido);
   if (!leido.errores.empty()) {
     importado.resultado.fallo = FalloImportacion::Peticion;
     importado.resultado.error = EnUnaFrase(leido.errores);
     return importado;
   }
   importado.informe = std::move(leido.conversion.informe);
-  importado.resultado = ImportarLocalidad(directorio, fichero.peticion, *leido.conversion.anio);
+  PeticionImportacion peticion = fichero.peticion;
+  peticion.fuente = fichero.ruta;
+  importado.resultado = ImportarLocalidad(directorio, peticion, *leido.conversion.anio);
   return importado;
 }
 

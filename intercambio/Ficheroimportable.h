@@ -6,6 +6,7 @@
 #include "intercambio/escritura/Importacion.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,7 @@ struct FicheroImportable {
   RelojFichero reloj; ///< con el que se convertirá; al preparar, el que los datos dicen
   PeticionImportacion peticion;
   HuecosLargos huecosLargos = HuecosLargos::Rechazar;
+  std::optional<double> altitud = std::nullopt; ///< del sitio [m], si la del fichero no vale; vacía: la suya
   bool legible = false; ///< se pudo leer algún registro; sin ellos no hay nada que importar
 };
 
@@ -33,6 +35,7 @@ struct FicheroImportable {
 struct FicheroImportado {
   ResultadoImportacion resultado; ///< con su error si la lectura o la conversión fallaron
   InformeConversion informe;
+  std::vector<std::string> avisos; ///< de la lectura y del reloj, también si no se pudo importar
 };
 
 /// Lee de nuevo el fichero, ahora tapando los huecos, lo lleva a hora solar y lo pone en @p directorio.

@@ -45,6 +45,7 @@ void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, s
                 int linea, SitioClima &sitio, Cuaderno &cuaderno) {
   sitio.latitud = Angulo(latitud, LATITUD_MAXIMA, "latitud", linea, cuaderno);
   sitio.longitud = Angulo(longitud, LONGITUD_MAXIMA, "longitud", linea, cuaderno);
+  if (!std::isnan(sitio.altitud)) return;
   if (altitud && *altitud >= ALTITUD_MINIMA && *altitud <= ALTITUD_MAXIMA) {
     sitio.altitud = *altitud;
     return;

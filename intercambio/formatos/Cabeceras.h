@@ -9,8 +9,9 @@ namespace tesmo {
 
 /// Piezas comunes de las cabeceras.
 
-/// Pone latitud y longitud, que han de estar, y altitud, que puede faltar (con aviso). Un valor ausente o que
-/// no cabe en su ángulo es un error de la @p linea; con 0, del mapa de columnas.
+/// Pone latitud y longitud, que han de estar, y altitud, que puede faltar (con aviso). La altitud que @p
+/// sitio ya tenga manda sobre la del fichero. Un valor ausente o que no cabe en su ángulo es un error de la
+/// @p linea; con 0, del mapa de columnas.
 void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, std::optional<double> altitud,
                 int linea, SitioClima &sitio, Cuaderno &cuaderno);
 

@@ -90,6 +90,7 @@ ResultadoLectura LeerTextoClima(std::string_view texto, const OpcionesLectura &o
   ResultadoLectura resultado;
   Cuaderno cuaderno(resultado);
   AnioCanonico anio;
+  anio.sitio.altitud = opciones.altitud.value_or(AUSENTE);
   anio.formato = opciones.mapa ? FormatoClima::Delimitado : ReconocerFormato(texto);
   resultado.formato = anio.formato;
   LeerSegunFormato(texto, opciones, anio, cuaderno);

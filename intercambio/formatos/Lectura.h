@@ -69,6 +69,8 @@ struct OpcionesLectura {
   /// Da el año, si alguna hora se pudo leer, aunque haya errores y sin tocar los huecos: lo que el fichero
   /// dice, tal como lo dice.
   bool paraAuditar = false;
+  /// Altitud del sitio [m]: manda sobre la que el fichero diga. Vacía, la suya.
+  std::optional<double> altitud = std::nullopt;
   /// Cómo leer un texto delimitado cualquiera. Si está, no se reconoce el formato: se sigue el mapa.
   std::shared_ptr<const MapaColumnas> mapa = nullptr;
 };

@@ -48,6 +48,14 @@ TEST_F(OrdenConvertir, UnTextoConSuMapaYElHusoQueSeDiga) {
   EXPECT_EQ(Orden({"auditar", csv, "--mapa", mapa}).estado, 0);
 }
 
+TEST_F(OrdenConvertir, LaAltitudQueSeDaMandaSobreLaDelFichero) {
+  const std::string epw = raiz_.Escribir("x.epw", Unir(LineasEpw()));
+  const std::string salida = (raiz_ / "y.epw").string();
+  ASSERT_EQ(Orden({"convertir", epw, "--altitud", "-120.5", "-o", salida}).estado, 0);
+  EXPECT_NE(Contenido(salida).find(",-120.5\n"), std::string::npos) << Contenido(salida).substr(0, 80);
+  EXPECT_EQ(Orden({"convertir", epw, "--altitud", "9001", "-o", salida}).estado, 2);
+}
+
 TEST_F(OrdenConvertir, UsoIncorrectoEstado2YEntradaOSalidaQueFaltan) {
   const std::string epw = raiz_.Escribir("x.epw", Unir(LineasEpw()));
   EXPECT_EQ(Orden({"convertir", epw, "-o", "y.txt"}).estado, 2);
