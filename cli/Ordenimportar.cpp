@@ -7,10 +7,12 @@
 #include "core/Ficheros.h"
 #include "core/Rutas.h"
 #include "intercambio/Importacionlote.h"
+#include "intercambio/sintesis/Normalesprograma.h"
 
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <system_error>
 
@@ -49,6 +51,38 @@ std::vector<std::string> Desplegar(const std::string &ruta) {
     throw Fallo(Estado::FaltaEntrada,
                 ruta + ": no tiene ficheros climáticos (.epw, .csv, .met, .tmy3, .txt)");
   return ficheros;
+}
+
+/// Los ficheros que se importan, cada uno una vez aunque se dé por dos caminos.
+struct Entradas {
+  std::vector<std::string> rutas;
+  std::vector<bool> deCarpeta; ///< nadie los nombró: si no son climáticos, se saltan
+
+  void Anadir(const std::string &ruta, bool esDeCarpeta) {
+    std::error_code error;
+    const fs::path propia = fs::weakly_canonical(RutaDesdeTexto(ruta), error);
+    const auto [sitio, nueva] = sitios_.try_emplace(error ? RutaDesdeTexto(ruta) : propia, rutas.size());
+    if (nueva) {
+      rutas.push_back(ruta);
+      deCarpeta.push_back(esDeCarpeta);
+    } else if (!esDeCarpeta) {
+      deCarpeta[sitio->second] = false;
+    }
+  }
+
+private:
+  std::map<fs::path, std::size_t> sitios_;
+};
+
+Entradas Reunir(const std::vector<std::string> &dados) {
+  Entradas entradas;
+  for (const std::string &dado : dados) {
+    if (dado.empty()) throw Fallo(Estado::FaltaEntrada, "FICHERO: la ruta está vacía");
+    const std::vector<std::string> desplegados = Desplegar(RutaAbsoluta(dado));
+    const bool esCarpeta = desplegados.front() != RutaAbsoluta(dado);
+    for (const std::string &ruta : desplegados) entradas.Anadir(ruta, esCarpeta);
+  }
+  return entradas;
 }
 
 /// Lo que se va sabiendo del lote.
@@ -125,16 +159,16 @@ OpcionesLote Interpretar(const Datos &datos) {
 
 void Ejecutar(const Datos &datos, Contexto &contexto) {
   OpcionesLote opciones = Interpretar(datos);
-  std::vector<std::string> rutas;
-  for (const std::string &dado : datos.ficheros) {
-    if (dado.empty()) throw Fallo(Estado::FaltaEntrada, "FICHERO: la ruta está vacía");
-    const std::vector<std::string> desplegados = Desplegar(RutaAbsoluta(dado));
-    rutas.insert(rutas.end(), desplegados.begin(), desplegados.end());
-    opciones.saltarDesconocidos.resize(rutas.size(), desplegados.front() != RutaAbsoluta(dado));
-  }
+  opciones.normales = NormalesDelPrograma();
+  const Entradas entradas = Reunir(datos.ficheros);
+  const std::vector<std::string> &rutas = entradas.rutas;
+  opciones.saltarDesconocidos = entradas.deCarpeta;
   if (datos.localidad && rutas.size() > 1)
     throw Fallo(Estado::UsoIncorrecto,
                 "--localidad da un solo nombre y hay " + std::to_string(rutas.size()) + " ficheros");
+  if (datos.reloj.altitud && rutas.size() > 1)
+    throw Fallo(Estado::UsoIncorrecto,
+                "--altitud es la de un solo sitio y hay " + std::to_string(rutas.size()) + " ficheros");
   IniciarBase(datos.base ? RutaAbsoluta(*datos.base) : std::string(), contexto);
   Marcha marcha(rutas.size(), contexto);
   ImportarLote(DameConfiguracion().RutaMeteo(""), rutas, opciones,
@@ -165,7 +199,10 @@ void RegistrarImportar(CLI::App &raiz, Contexto &contexto) {
   AnadirValor(orden, "--localidad", datos->localidad, "NOMBRE",
               "Nombre de la localidad (si no se da, el que diga el fichero)");
   AnadirReloj(orden, datos->reloj);
-  AnadirValor(orden, "--zona", datos->zona, "CUAL", "COSTA o INTERIOR, para los días extremos (INTERIOR)");
+  AnadirValor(
+      orden, "--zona", datos->zona, "CUAL",
+      "COSTA o INTERIOR, para los días extremos (si no se da, la que tuviera, la de las normales del\n"
+      "lugar o INTERIOR)");
   AnadirBase(orden, datos->base);
   orden.add_flag("--reemplazar", datos->reemplazar, "Sustituye las localidades que ya estén");
   orden.callback(

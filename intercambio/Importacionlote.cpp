@@ -2,6 +2,7 @@
 
 #include "core/Codificacion.h"
 #include "core/Ficheros.h"
+#include "intercambio/auditoria/Materia.h"
 #include "intercambio/escritura/Nombrescatalogo.h"
 
 #include <algorithm>
@@ -98,6 +99,9 @@ void Importar(const std::string &directorio, const OpcionesLote &opciones, std::
               FicheroDeLote &fichero) {
   PeticionImportacion peticion = opciones.peticion;
   if (peticion.nombre.empty()) peticion.nombre = NombreDeLocalidad(fichero.ruta, fichero.anio.sitio);
+  peticion.fuente = fichero.ruta;
+  if (const NormalesLocalidad *normales = NormalesDelSitio(opciones.normales, fichero.anio.sitio))
+    peticion.zonaPropuesta = normales->zona;
   peticion.origen = TextoDeRuta(RutaDesdeTexto(fichero.ruta).filename());
   fichero.nombre = TextoDeCampo(peticion.nombre);
   if (!hechos.insert(fichero.nombre).second) {

@@ -2,6 +2,7 @@
 
 #include "intercambio/Aniodefichero.h"
 #include "intercambio/escritura/Importacion.h"
+#include "intercambio/sintesis/Normales.h"
 
 #include <cstddef>
 #include <functional>
@@ -19,6 +20,7 @@ struct OpcionesLote {
   /// Por la posición de cada fichero: si es de formato desconocido, no es un error y se salta. Los que no
   /// están, no se saltan.
   std::vector<bool> saltarDesconocidos = {};
+  std::vector<NormalesLocalidad> normales = {}; ///< de las del lugar se propone la zona
 };
 
 /// Lo que pasó con un fichero de un lote.

@@ -51,12 +51,35 @@ TEST_F(OrdenImportar, UnaCarpetaEnteraConSuMarcha) {
   EXPECT_EQ(ConBase({"localidades", "--provincia", "P"}).Lineas().size(), 2U);
 }
 
+TEST_F(OrdenImportar, UnFicheroDadoDosVecesSeImportaUna) {
+  const std::string epw = Epw("c/a.epw", "Uno");
+  const Ejecucion e = ConBase({"importar", (raiz_ / "c").string(), epw, (raiz_ / "c/../c/a.epw").string(),
+                               "--provincia", "P", "--zona", "COSTA"});
+  EXPECT_EQ(e.estado, 0) << e.error;
+  EXPECT_EQ(ConBase({"localidades", "--provincia", "P"}).Lineas().size(), 1U);
+}
+
+TEST_F(OrdenImportar, SacarlaDeSuProvinciaSeDice) {
+  const Ejecucion e = ConBase({"importar", Epw("x.epw", "Jaén"), "--provincia", "Clientes", "--reemplazar"});
+  EXPECT_EQ(e.estado, 0) << e.error;
+  EXPECT_NE(e.error.find("Aviso: x.epw: estaba en Jaén; pasa a Clientes\n"), std::string::npos) << e.error;
+}
+
+TEST_F(OrdenImportar, SinZonaSeTomaLaDeLasNormalesDelPrograma) {
+  LineasFichero lineas = LineasEpw();
+  lineas[0] = "LOCATION,Almerimar,AN,ESP,Mano,084870,36.8464,-2.3569,1.0,21.0";
+  const Ejecucion e = ConBase({"importar", raiz_.Escribir("x.epw", Unir(lineas)), "--provincia", "Almería"});
+  ASSERT_EQ(e.estado, 0) << e.error;
+  EXPECT_NE(Contenido(raiz_ / "base/Meteo/GDR.TXT").find("Almerimar COSTA "), std::string::npos) << e.error;
+}
+
 TEST_F(OrdenImportar, UnaQueYaEstaPideReemplazar) {
   const std::string epw = Epw("x.epw", "Rota");
   const Ejecucion e = ConBase({"importar", epw, "--provincia", "Cádiz"});
   EXPECT_EQ(e.estado, 4);
   EXPECT_EQ(e.salida, "");
-  EXPECT_NE(e.error.find("Error: x.epw: ya hay una localidad «Rota»; no se importa (véase --reemplazar)\n"),
+  EXPECT_NE(e.error.find(
+                "Error: x.epw: ya hay una localidad «Rota» en Cádiz; no se importa (véase --reemplazar)\n"),
             std::string::npos)
       << e.error;
   const Ejecucion otra = ConBase({"importar", epw, "--provincia", "Cádiz", "--reemplazar"});
@@ -72,6 +95,18 @@ TEST_F(OrdenImportar, ElRelojSePuedeElegir) {
       ConBase({"importar", epw, "--provincia", "Granada", "--reloj", "utc", "--desfase", "-50"});
   ASSERT_EQ(e.estado, 0) << e.error;
   EXPECT_NE(e.salida.find("  Reloj: UTC, etiqueta − 50 min"), std::string::npos) << e.salida;
+}
+
+TEST_F(OrdenImportar, LaAltitudQueElFicheroNoSabeSeDice) {
+  LineasFichero lineas = LineasEpw();
+  CambiarCampo(lineas[0], 9, "");
+  const std::string epw = raiz_.Escribir("x.epw", Unir(lineas));
+  const Ejecucion e =
+      ConBase({"importar", epw, "--provincia", "P", "--localidad", "Alta", "--altitud", "1500"});
+  ASSERT_EQ(e.estado, 0) << e.error;
+  EXPECT_EQ(e.error.find("altitud"), std::string::npos) << e.error;
+  EXPECT_NE(Contenido(raiz_ / "base/Meteo/LocalidadesCC").find(",Alta.met,37.18,-3.78,15,1500,0\n"),
+            std::string::npos);
 }
 
 TEST_F(OrdenImportar, LoDesconocidoSeSaltaEnUnaCarpetaYNoSiSeNombra) {
@@ -92,7 +127,10 @@ TEST_F(OrdenImportar, UsoIncorrectoEstado2) {
       {"importar", epw, "--provincia", "P", "--zona", "costa"},
       {"importar", epw, "--provincia", "P", "--reloj", "local"},
       {"importar", epw, "--provincia", "P", "--desfase", "91"},
-      {"importar", epw, epw, "--provincia", "P", "--localidad", "L"}};
+      {"importar", epw, "--provincia", "P", "--altitud", "-501"},
+      {"importar", epw, "--provincia", "P", "--altitud", "alta"},
+      {"importar", epw, Epw("y.epw", "Otra"), "--provincia", "P", "--altitud", "5"},
+      {"importar", epw, Epw("y.epw", "Otra"), "--provincia", "P", "--localidad", "L"}};
   for (const auto &mala : malas) EXPECT_EQ(ConBase(mala).estado, 2) << mala.back();
 }
 

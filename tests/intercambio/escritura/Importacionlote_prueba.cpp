@@ -23,7 +23,8 @@ protected:
   void Importar(const std::vector<std::string> &rutas, unsigned hilos, const std::string &destino = "m") {
     OpcionesLote opciones;
     opciones.peticion.provincia = "P";
-    opciones.peticion.zona = ZONA_COSTA;
+    opciones.peticion.zona = zona_;
+    opciones.normales = normales_;
     opciones.hilos = hilos;
     opciones.saltarDesconocidos = saltar_;
     hechos_.clear();
@@ -37,6 +38,8 @@ protected:
   prueba::DirectorioTemporal raiz_;
   std::vector<FicheroDeLote> hechos_;
   std::vector<bool> saltar_;
+  std::string zona_ = ZONA_COSTA;
+  std::vector<NormalesLocalidad> normales_;
 };
 
 TEST_F(ImportacionDeUnLote, ElCatalogoNoDependeDeLosHilos) {
@@ -85,6 +88,30 @@ TEST_F(ImportacionDeUnLote, LoQueNoEsClimaSeSaltaSiSePide) {
 TEST_F(ImportacionDeUnLote, UnMetSeLlamaComoSuFichero) {
   Importar({raiz_.Escribir("Baza.met", prueba::Unir(prueba::LineasMetTrece()))}, 1);
   EXPECT_EQ(hechos_[0].nombre, "Baza");
+}
+
+TEST_F(ImportacionDeUnLote, SinZonaSeTomaLaDeLasNormalesDelLugar) {
+  NormalesLocalidad normales;
+  normales.latitud = 37.18, normales.longitud = -3.78, normales.altitud = 567.0; // el sitio del EPW
+  normales.zona = ZONA_COSTA;
+  normales_ = {normales};
+  zona_.clear();
+  Importar({Epw("a.epw", "A")}, 1);
+  EXPECT_TRUE(prueba::Contenido(raiz_ / "m/GDR.TXT").starts_with("A COSTA "));
+  normales_[0].latitud = 40.0;
+  Importar({Epw("b.epw", "B")}, 1);
+  EXPECT_NE(prueba::Contenido(raiz_ / "m/GDR.TXT").find("\nB INTERIOR "), std::string::npos);
+}
+
+TEST_F(ImportacionDeUnLote, UnMetDeLaPropiaBaseDejaSuOriginal) {
+  const std::string met = raiz_.Escribir("m/Baza.met", prueba::Unir(prueba::LineasMetTrece()));
+  raiz_.Escribir("m/LocalidadesCC", "1\nBaza,Baza,P,,Baza,Baza.met,37.18,-3.78,15,567,0\n");
+  const std::string original = prueba::Contenido(met);
+  FicheroImportable fichero = PrepararFichero(met, {});
+  fichero.peticion.provincia = "P";
+  fichero.peticion.reemplazar = true;
+  EXPECT_EQ(ImportarFichero((raiz_ / "m").string(), fichero).resultado.error, "");
+  EXPECT_EQ(prueba::Contenido(raiz_ / "m/Baza.met.original"), original);
 }
 
 TEST(NombreDeUnaLocalidad, ElDelSitioOElDelFichero) {
