@@ -7,6 +7,8 @@
 
 #include <charconv>
 #include <cmath>
+#include <filesystem>
+#include <optional>
 
 namespace tesmo::cli {
 
@@ -67,25 +69,6 @@ std::vector<std::string> Proteger(const std::vector<std::string> &argumentos) {
 std::string Desproteger(std::string texto) {
   std::erase(texto, PROTECCION);
   return texto;
-}
-
-CLI::Option *AnadirValor(CLI::App &orden, const std::string &nombres, std::optional<std::string> &destino,
-                         const std::string &tipo, const std::string &ayuda) {
-  const auto guardar = [&destino](const std::string &texto) { destino = Desproteger(texto); };
-  return orden.add_option_function<std::string>(nombres, guardar, ayuda)->type_name(tipo);
-}
-
-CLI::Option *AnadirArgumento(CLI::App &orden, const std::string &nombre, std::optional<std::string> &destino,
-                             const std::string &ayuda) {
-  return AnadirValor(orden, nombre, destino, "", ayuda);
-}
-
-CLI::Option *AnadirArgumentos(CLI::App &orden, const std::string &nombre, std::vector<std::string> &destino,
-                              const std::string &ayuda) {
-  const auto guardar = [&destino](const std::vector<std::string> &textos) {
-    for (const std::string &texto : textos) destino.push_back(Desproteger(texto));
-  };
-  return orden.add_option_function<std::vector<std::string>>(nombre, guardar, ayuda)->type_name("");
 }
 
 double LeerNumero(const std::string &texto, const std::string &que) {

@@ -2,9 +2,6 @@
 
 #include "meteo/Fecha.h"
 
-#include <CLI/CLI.hpp>
-
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -19,16 +16,6 @@ namespace tesmo::cli {
 /// una opción larga quedan protegidos, de modo que sólo pueden ser valores. Desproteger deshace lo hecho.
 [[nodiscard]] std::vector<std::string> Proteger(const std::vector<std::string> &argumentos);
 [[nodiscard]] std::string Desproteger(std::string texto);
-
-/// Opciones y argumentos de una orden. Los valores llegan como texto: interpretarlos es cosa de la orden.
-CLI::Option *AnadirValor(CLI::App &orden, const std::string &nombres, std::optional<std::string> &destino,
-                         const std::string &tipo, const std::string &ayuda);
-/// Argumento por su posición; su nombre va en mayúsculas y sin acentos.
-CLI::Option *AnadirArgumento(CLI::App &orden, const std::string &nombre, std::optional<std::string> &destino,
-                             const std::string &ayuda);
-/// Argumentos repetidos al final.
-CLI::Option *AnadirArgumentos(CLI::App &orden, const std::string &nombre, std::vector<std::string> &destino,
-                              const std::string &ayuda);
 
 /// Los lectores siguientes lanzan Fallo (uso incorrecto) nombrando @p que y el texto.
 

@@ -1,14 +1,13 @@
 #include "cli/Lineadeordenes.h"
 
-#include "cli/Argumentos.h"
-#include "cli/Formateador.h"
+#include "cli/Interprete.h"
 #include "cli/Ordenes.h"
 #include "core/Error.h"
 #include "core/Mensajes.h"
 #include "localidades/Ciudad.h"
 
 #include <algorithm>
-#include <memory>
+#include <utility>
 
 namespace tesmo::cli {
 
@@ -61,17 +60,14 @@ std::string Ejemplos(const std::string &lineas) {
   return texto;
 }
 
-void Configurar(CLI::App &raiz, Contexto &contexto) {
-  raiz.allow_windows_style_options(false);
-  raiz.option_defaults()->group(GRUPO_OPCIONES);
-  raiz.formatter(std::make_shared<Formateador>());
-  raiz.set_help_flag("-h,--help,--ayuda", "Enseña esta ayuda");
-  raiz.require_subcommand(1);
-  raiz.footer(
-      Ejemplos("localidades\nserie --localidad Almería TS HR\nserie --help") +
-      "\n\nCada orden tiene su ayuda: " + NOMBRE +
-      " ORDEN --help.\nEstado de salida: 0 hecho, 2 uso incorrecto, 3 falta una entrada, 4 no se pudo "
-      "escribir una salida.");
+std::string PieDelPrograma() {
+  return Ejemplos("localidades\nserie --localidad Almería TS HR\nserie --help") +
+         "\n\nCada orden tiene su ayuda: " + NOMBRE +
+         " ORDEN --help.\nEstado de salida: 0 hecho, 2 uso incorrecto, 3 falta una entrada, 4 no se pudo "
+         "escribir una salida.";
+}
+
+void RegistrarOrdenes(CLI::App &raiz, Contexto &contexto) {
   RegistrarLocalidades(raiz, contexto);
   RegistrarAire(raiz, contexto);
   RegistrarCorriente(raiz, contexto);
@@ -88,64 +84,44 @@ void Configurar(CLI::App &raiz, Contexto &contexto) {
   RegistrarAuditar(raiz, contexto);
 }
 
-/// La orden más interior de las que se reconocieron.
-const CLI::App &OrdenDada(const CLI::App &raiz) {
-  const CLI::App *orden = &raiz;
-  while (!orden->get_subcommands().empty()) orden = orden->get_subcommands().front();
-  return *orden;
-}
-
-std::string NombreCompleto(const CLI::App &orden) {
-  return orden.get_parent() == nullptr ? orden.get_name()
-                                       : NombreCompleto(*orden.get_parent()) + " " + orden.get_name();
-}
-
-int Escribir(Estado estado, const std::string &texto, const CLI::App &raiz, Contexto &contexto) {
+/// @p orden: la que se dio, desde el programa
+int Escribir(Estado estado, const std::string &texto, const std::string &orden, Contexto &contexto) {
   if (!texto.empty()) contexto.error << "Error: " << texto << '\n';
-  if (estado == Estado::UsoIncorrecto)
-    contexto.error << "Pruebe: " << NombreCompleto(OrdenDada(raiz)) << " --help\n";
+  if (estado == Estado::UsoIncorrecto) contexto.error << "Pruebe: " << orden << " --help\n";
   return static_cast<int>(estado);
 }
 
-void Interpretar(CLI::App &raiz, const std::vector<std::string> &argumentos) {
-  std::vector<std::string> alReves = Proteger(argumentos);
-  std::reverse(alReves.begin(), alReves.end()); // CLI11 los consume por el final
-  raiz.parse(std::move(alReves));
-}
-
-int Cumplir(CLI::App &raiz, const std::vector<std::string> &argumentos, Contexto &contexto) {
+int Cumplir(const Interpretacion &pedido, Contexto &contexto) {
+  if (pedido.error) return Escribir(Estado::UsoIncorrecto, *pedido.error, pedido.orden, contexto);
   try {
-    Interpretar(raiz, argumentos);
-    contexto.accion();
-  } catch (const CLI::CallForHelp &) {
-    contexto.salida << raiz.help();
-  } catch (const CLI::ParseError &fallo) {
-    return Escribir(Estado::UsoIncorrecto, ErrorEnEspanol(fallo, OrdenDada(raiz)), raiz, contexto);
+    if (pedido.ayuda) {
+      contexto.salida << *pedido.ayuda;
+    } else {
+      contexto.accion();
+    }
   } catch (const Fallo &fallo) {
-    return Escribir(fallo.DameEstado(), fallo.what(), raiz, contexto);
+    return Escribir(fallo.DameEstado(), fallo.what(), pedido.orden, contexto);
   }
   contexto.salida.flush();
   if (contexto.salida.good()) return static_cast<int>(Estado::Hecho);
-  return Escribir(Estado::FaltaSalida, "no se pudo escribir el resultado", raiz, contexto);
+  return Escribir(Estado::FaltaSalida, "no se pudo escribir el resultado", pedido.orden, contexto);
 }
 
 } // namespace
 
 CLI::App &NuevaOrden(CLI::App &raiz, const std::string &nombre, const AyudaOrden &ayuda) {
-  CLI::App *orden = raiz.add_subcommand(nombre, ayuda.descripcion);
-  orden->group(GRUPO_ORDENES);
-  orden->get_help_ptr()->group(GRUPO_OPCIONES); // la copia de la raíz pierde el grupo
-  orden->footer(ayuda.detalle + "\n\n" + Ejemplos(ayuda.ejemplos));
-  return *orden;
+  return AnadirOrden(raiz, nombre, ayuda.descripcion, ayuda.detalle + "\n\n" + Ejemplos(ayuda.ejemplos));
 }
 
 int Ejecutar(const std::vector<std::string> &argumentos, std::ostream &salida, std::ostream &error) {
   Contexto contexto{salida, error};
   const PresentadorDeLineas presentador(error);
   const Avisos avisos(contexto);
-  CLI::App raiz("Tesmo desde la línea de órdenes: año meteorológico típico, aire húmedo y sol.", NOMBRE);
-  Configurar(raiz, contexto);
-  return Cumplir(raiz, argumentos, contexto);
+  Interprete interprete(NOMBRE,
+                        "Tesmo desde la línea de órdenes: año meteorológico típico, aire húmedo y sol.",
+                        PieDelPrograma());
+  RegistrarOrdenes(interprete.Raiz(), contexto);
+  return Cumplir(interprete.Interpretar(argumentos), contexto);
 }
 
 } // namespace tesmo::cli

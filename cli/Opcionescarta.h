@@ -1,6 +1,6 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
+#include "cli/Interprete.h"
 
 #include <array>
 #include <optional>

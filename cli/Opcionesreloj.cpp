@@ -38,8 +38,8 @@ void AnadirReloj(CLI::App &orden, OpcionesReloj &opciones) {
   AnadirValor(orden, "--altitud", opciones.altitud, "M",
               "Altitud del sitio, -500 a 9000 (si no se da, la del fichero)");
   AnadirMapa(orden, opciones.mapa);
-  orden.add_flag("--rellenar", opciones.rellenar,
-                 "Llena los huecos de más de tres horas con los días vecinos");
+  AnadirInterruptor(orden, "--rellenar", opciones.rellenar,
+                    "Llena los huecos de más de tres horas con los días vecinos");
 }
 
 EleccionReloj InterpretarReloj(const OpcionesReloj &opciones) {

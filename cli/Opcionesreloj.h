@@ -1,10 +1,9 @@
 #pragma once
 
 #include "cli/Contexto.h"
+#include "cli/Interprete.h"
 #include "intercambio/Aniodefichero.h"
 #include "intercambio/formatos/Mapacolumnas.h"
-
-#include <CLI/CLI.hpp>
 
 #include <memory>
 #include <optional>

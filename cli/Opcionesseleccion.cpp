@@ -51,7 +51,8 @@ void AnadirRegistro(CLI::App &orden, std::optional<std::string> &registro) {
 }
 
 void AnadirJson(CLI::App &orden, bool &json) {
-  orden.add_flag("--json", json, "Escribe el resultado en JSON; lo que no es un número finito, null");
+  AnadirInterruptor(orden, "--json", json,
+                    "Escribe el resultado en JSON; lo que no es un número finito, null");
 }
 
 void AnadirSeleccion(CLI::App &orden, OpcionesSeleccion &opciones) {

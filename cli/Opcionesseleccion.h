@@ -2,9 +2,8 @@
 
 #include "app/Seleccion.h"
 #include "cli/Contexto.h"
+#include "cli/Interprete.h"
 #include "meteo/Magnitudes.h"
-
-#include <CLI/CLI.hpp>
 
 #include <optional>
 #include <string>

@@ -7,8 +7,8 @@ namespace tesmo::cli {
 void AnadirVariables(CLI::App &orden, OpcionesVariables &opciones) {
   AnadirRegistro(orden, opciones.registro);
   AnadirJson(orden, opciones.json);
-  AnadirArgumentos(orden, "VARIABLE", opciones.variables, "Código (TS, RSDr, …, HAkg) o rótulo exacto")
-      ->required();
+  Exigir(
+      AnadirArgumentos(orden, "VARIABLE", opciones.variables, "Código (TS, RSDr, …, HAkg) o rótulo exacto"));
 }
 
 } // namespace tesmo::cli

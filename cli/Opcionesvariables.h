@@ -1,8 +1,7 @@
 #pragma once
 
+#include "cli/Interprete.h"
 #include "cli/Opcionesseleccion.h"
-
-#include <CLI/CLI.hpp>
 
 #include <optional>
 #include <string>

@@ -70,12 +70,10 @@ void RegistrarAire(CLI::App &raiz, Contexto &contexto) {
                   "[m³/kg], uno por\n"
                   "línea. Lo que se sale de límites se lleva a ellos y se dice en la salida de errores.",
                   "aire pont_hr 25 50\naire pont_w -5 0.002 93000\naire pont_h 20 40000 --json"});
-  AnadirArgumento(orden, "ORDEN", datos->orden, "pont_w, pont_th, pont_tr, pont_hr, pont_h o ponw_h")
-      ->required();
-  AnadirArgumento(orden, "A", datos->a, "Temperatura seca [ºC]; en ponw_h, humedad absoluta [kg/kg]")
-      ->required();
-  AnadirArgumento(orden, "B", datos->b, "Lo que dice la orden: w [kg/kg], th o tr [ºC], hr [%], h [J/kg]")
-      ->required();
+  Exigir(AnadirArgumento(orden, "ORDEN", datos->orden, "pont_w, pont_th, pont_tr, pont_hr, pont_h o ponw_h"));
+  Exigir(AnadirArgumento(orden, "A", datos->a, "Temperatura seca [ºC]; en ponw_h, humedad absoluta [kg/kg]"));
+  Exigir(AnadirArgumento(orden, "B", datos->b,
+                         "Lo que dice la orden: w [kg/kg], th o tr [ºC], hr [%], h [J/kg]"));
   AnadirArgumento(orden, "P", datos->p, "Presión [Pa] (101325)");
   AnadirJson(orden, datos->json);
   AlEjecutar(orden, contexto, datos, Ejecutar);

@@ -123,11 +123,10 @@ void RegistrarAuditar(CLI::App &raiz, Contexto &contexto) {
        "apto), y cada\ncomprobación con las líneas que no la pasan. En JSON, una lista con un objeto "
        "por fichero; las líneas,\nparejas de la primera y la última de cada tramo.",
        "auditar Almeria.epw\nauditar *.epw --json"});
-  AnadirArgumentos(orden, "FICHERO", datos->ficheros, "Ficheros que se auditan")->required();
+  Exigir(AnadirArgumentos(orden, "FICHERO", datos->ficheros, "Ficheros que se auditan"));
   AnadirMapa(orden, datos->mapa);
   AnadirJson(orden, datos->json);
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

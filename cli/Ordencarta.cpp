@@ -122,7 +122,7 @@ void RegistrarCarta(CLI::App &raiz, Contexto &contexto) {
        "carta -o enero.png --localidad Granada --hasta 1/31/24 --horas 9-18\n"
        "carta --ordenes --sin w,h,ve --tmax 40"});
   AnadirValor(orden, "-o,--salida", datos->salida, "FICHERO", "Dibujo .svg, .png o .pdf");
-  orden.add_flag("--ordenes", datos->ordenes, "Escribe los trazos en vez de dibujarlos");
+  AnadirInterruptor(orden, "--ordenes", datos->ordenes, "Escribe los trazos en vez de dibujarlos");
   AnadirCarta(orden, datos->carta);
   AnadirSeleccion(orden, datos->seleccion);
   AnadirValor(orden, "--horas", datos->horas, "A-B", "Horas del día que se marcan, las dos incluidas (1-24)");

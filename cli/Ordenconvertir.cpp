@@ -86,12 +86,11 @@ void RegistrarConvertirAnio(CLI::App &raiz, Contexto &contexto) {
   AnadirArgumento(orden, "FICHERO", datos->fichero, "Fichero climático que se convierte");
   AnadirValor(orden, "--localidad", datos->localidad, "NOMBRE",
               "Una localidad de la base, en vez de un fichero");
-  AnadirValor(orden, "-o,--salida", datos->salida, "SALIDA", "Fichero .met, .epw o .csv (obligatorio)")
-      ->required();
+  Exigir(
+      AnadirValor(orden, "-o,--salida", datos->salida, "SALIDA", "Fichero .met, .epw o .csv (obligatorio)"));
   AnadirReloj(orden, datos->reloj);
   AnadirBase(orden, datos->base);
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

@@ -228,7 +228,7 @@ void AnadirOpciones(CLI::App &orden, Datos &datos) {
               "Escribe en él extreCal.met y extreRef.met en vez de la tabla");
   AnadirValor(orden, "--decimal", datos.decimal, "CUAL", "De esos ficheros: punto o coma (punto)");
   AnadirValor(orden, "--salida", datos.salida, "FICHERO", "Añade a ese fichero el informe del cálculo");
-  orden.add_flag("--traza", datos.traza, "Escribe los pasos intermedios en vez de la tabla");
+  AnadirInterruptor(orden, "--traza", datos.traza, "Escribe los pasos intermedios en vez de la tabla");
   AnadirJson(orden, datos.json);
   AnadirBase(orden, datos.base);
   AnadirRegistro(orden, datos.registro);

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "cli/Contexto.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/Interprete.h"
 
 #include <memory>
 #include <string>
@@ -40,7 +39,7 @@ CLI::App &NuevaOrden(CLI::App &raiz, const std::string &nombre, const AyudaOrden
 /// Al reconocerse @p orden, deja en el contexto su acción: @p accion con los datos tecleados y el contexto.
 template <class Datos, class Accion>
 void AlEjecutar(CLI::App &orden, Contexto &contexto, const std::shared_ptr<Datos> &datos, Accion accion) {
-  orden.callback([datos, &contexto, accion] {
+  AlReconocer(orden, [datos, &contexto, accion] {
     contexto.accion = [datos, &contexto, accion] { accion(*datos, contexto); };
   });
 }

@@ -106,7 +106,7 @@ void RegistrarEstadisticas(CLI::App &raiz, Contexto &contexto) {
   AnadirValor(orden, "--base-cal", datos->baseCalefaccion, "GRADOS", "Base de calefacción [ºC] (15)");
   AnadirValor(orden, "--base-ref", datos->baseRefrigeracion, "GRADOS", "Base de refrigeración [ºC] (25)");
   AnadirValor(orden, "--horas", datos->horas, "A-B", "Horas del día que cuentan, las dos incluidas (1-24)");
-  orden.add_flag("--mensual", datos->mensual, "Una línea por mes, con la fecha de los extremos");
+  AnadirInterruptor(orden, "--mensual", datos->mensual, "Una línea por mes, con la fecha de los extremos");
   AnadirVariables(orden, *datos);
   AlEjecutar(orden, contexto, datos, Ejecutar);
 }

@@ -77,11 +77,10 @@ void RegistrarExportar(CLI::App &raiz, Contexto &contexto) {
        "exportar --localidad Almería -o almeria.met TS HR G\n"
        "exportar --localidad Almería --separador puntoycoma --decimal coma --sin-cabecera -o a.csv TS HAkg"});
   AnadirSeleccion(orden, datos->seleccion);
-  AnadirValor(orden, "-o,--salida", datos->salida, "FICHERO", "Fichero que se escribe (obligatorio)")
-      ->required();
+  Exigir(AnadirValor(orden, "-o,--salida", datos->salida, "FICHERO", "Fichero que se escribe (obligatorio)"));
   AnadirValor(orden, "--separador", datos->separador, "CUAL", "tab, espacio, coma o puntoycoma (tab)");
   AnadirValor(orden, "--decimal", datos->decimal, "CUAL", "punto o coma (punto)");
-  orden.add_flag("--sin-cabecera", datos->sinCabecera, "Sin las líneas de la localidad");
+  AnadirInterruptor(orden, "--sin-cabecera", datos->sinCabecera, "Sin las líneas de la localidad");
   AnadirRegistro(orden, datos->registro);
   AnadirArgumentos(orden, "VARIABLE", datos->variables,
                    "Código (TS, RSDr, …, HAkg) o rótulo exacto; sin ninguna, sólo las fechas");

@@ -105,14 +105,13 @@ OrdenNueva RegistrarUna(CLI::App &horizonte, Contexto &contexto, const std::stri
                         const AyudaOrden &ayuda, Accion accion) {
   const auto datos = std::make_shared<Datos>();
   CLI::App &orden = NuevaOrden(horizonte, nombre, ayuda);
-  AnadirArgumento(orden, "FICHERO", datos->entrada, "Perfil de horizonte de cualquier formato")->required();
+  Exigir(AnadirArgumento(orden, "FICHERO", datos->entrada, "Perfil de horizonte de cualquier formato"));
   AlEjecutar(orden, contexto, datos, accion);
   return {orden, datos};
 }
 
 void AnadirSalida(CLI::App &orden, Datos &datos) {
-  AnadirValor(orden, "-o,--salida", datos.salida, "FICHERO", "Fichero que se escribe (obligatorio)")
-      ->required();
+  Exigir(AnadirValor(orden, "-o,--salida", datos.salida, "FICHERO", "Fichero que se escribe (obligatorio)"));
 }
 
 void RegistrarLeer(CLI::App &horizonte, Contexto &contexto) {
@@ -151,9 +150,9 @@ void RegistrarConvertir(CLI::App &horizonte, Contexto &contexto) {
       Convertir);
   AnadirSalida(orden, *datos);
   AnadirValor(orden, "--a", datos->formato, "NOMBRE", "nativo, completo, pvgis, tabla o alturas");
-  orden.add_flag("--reflejar", datos->reflejar, "Cambia el este por el oeste");
+  AnadirInterruptor(orden, "--reflejar", datos->reflejar, "Cambia el este por el oeste");
   AnadirValor(orden, "--girar", datos->girar, "N", "Gira N cuartos de vuelta hacia el oeste, tras reflejar");
-  orden.add_flag("--cerrar", datos->cerrar, "Añade al norte los puntos que cierran la vuelta");
+  AnadirInterruptor(orden, "--cerrar", datos->cerrar, "Añade al norte los puntos que cierran la vuelta");
 }
 
 void RegistrarEfecto(CLI::App &horizonte, Contexto &contexto) {
@@ -164,7 +163,7 @@ void RegistrarEfecto(CLI::App &horizonte, Contexto &contexto) {
        "el horizonte tapa.",
        "horizonte efecto sierra.csv 36.84"},
       Efecto);
-  AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD)->required();
+  Exigir(AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD));
   AnadirJson(orden, datos->json);
 }
 
@@ -176,7 +175,7 @@ void RegistrarHorizonte(CLI::App &raiz, Contexto &contexto) {
                  {"Perfiles de horizonte: leerlos, guardarlos y convertirlos",
                   "Acimutes y alturas en grados, con el acimut 0 al sur y el oeste positivo.",
                   "horizonte leer sierra.txt\nhorizonte convertir pvgis.csv -o sierra.csv"});
-  horizonte.require_subcommand(1);
+  ExigirOrdenDentro(horizonte);
   RegistrarLeer(horizonte, contexto);
   RegistrarGuardar(horizonte, contexto);
   RegistrarConvertir(horizonte, contexto);

@@ -193,9 +193,8 @@ void RegistrarImportar(CLI::App &raiz, Contexto &contexto) {
                   "importar ESP_Almeria.epw --provincia Almería --zona COSTA\n"
                   "importar tmy.csv --provincia Granada --localidad Baza --reloj utc --desfase -50\n"
                   "importar carpeta --provincia Clientes --reemplazar"});
-  AnadirArgumentos(orden, "FICHERO", datos->ficheros, "Ficheros o carpetas que se importan")->required();
-  AnadirValor(orden, "--provincia", datos->provincia, "PROVINCIA", "Donde se listan (obligatoria)")
-      ->required();
+  Exigir(AnadirArgumentos(orden, "FICHERO", datos->ficheros, "Ficheros o carpetas que se importan"));
+  Exigir(AnadirValor(orden, "--provincia", datos->provincia, "PROVINCIA", "Donde se listan (obligatoria)"));
   AnadirValor(orden, "--localidad", datos->localidad, "NOMBRE",
               "Nombre de la localidad (si no se da, el que diga el fichero)");
   AnadirReloj(orden, datos->reloj);
@@ -204,9 +203,8 @@ void RegistrarImportar(CLI::App &raiz, Contexto &contexto) {
       "COSTA o INTERIOR, para los días extremos (si no se da, la que tuviera, la de las normales del\n"
       "lugar o INTERIOR)");
   AnadirBase(orden, datos->base);
-  orden.add_flag("--reemplazar", datos->reemplazar, "Sustituye las localidades que ya estén");
-  orden.callback(
-      [datos, &contexto] { contexto.accion = [datos, &contexto] { Ejecutar(*datos, contexto); }; });
+  AnadirInterruptor(orden, "--reemplazar", datos->reemplazar, "Sustituye las localidades que ya estén");
+  AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 
 } // namespace tesmo::cli

@@ -39,8 +39,7 @@ void RegistrarSintetizar(CLI::App &raiz, Contexto &contexto) {
                                 "Meteo/GDR.TXT. El mismo fichero de\n"
                                 "medias da siempre los mismos bytes.",
                                 "sintetizar -o mis-datos\nsintetizar --normales otras.csv -o mis-datos"});
-  AnadirValor(orden, "-o,--salida", datos->salida, "DIRECTORIO", "Donde se escriben (obligatorio)")
-      ->required();
+  Exigir(AnadirValor(orden, "-o,--salida", datos->salida, "DIRECTORIO", "Donde se escriben (obligatorio)"));
   AnadirValor(orden, "--normales", datos->normales, "CSV",
               "Medias mensuales (si no se dan, datos/normales.csv junto al programa)");
   AnadirRegistro(orden, datos->registro);

@@ -64,11 +64,10 @@ void RegistrarUna(CLI::App &sol, Contexto &contexto, const std::string &nombre, 
                   Tabla (*calcular)(const Momento &), bool conHora) {
   const auto datos = std::make_shared<Datos>();
   CLI::App &orden = NuevaOrden(sol, nombre, ayuda);
-  AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD)->required();
-  AnadirArgumento(orden, "MES", datos->mes, "1 a 12")->required();
-  AnadirArgumento(orden, "DIA", datos->dia, "1 a 31; uno que el mes no tiene cuenta en el siguiente")
-      ->required();
-  if (conHora) AnadirArgumento(orden, "HORA", datos->hora, "Hora solar verdadera, 0 a 24")->required();
+  Exigir(AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD));
+  Exigir(AnadirArgumento(orden, "MES", datos->mes, "1 a 12"));
+  Exigir(AnadirArgumento(orden, "DIA", datos->dia, "1 a 31; uno que el mes no tiene cuenta en el siguiente"));
+  if (conHora) Exigir(AnadirArgumento(orden, "HORA", datos->hora, "Hora solar verdadera, 0 a 24"));
   AnadirRegistro(orden, datos->registro);
   AnadirJson(orden, datos->json);
   AlEjecutar(orden, contexto, datos, [calcular](const Datos &pedido, Contexto &donde) {
@@ -87,7 +86,7 @@ void RegistrarSol(CLI::App &raiz, Contexto &contexto) {
        "Horas en tiempo solar verdadero: 12 es el mediodía. Año de 365 días: un día que el mes no tiene "
        "cuenta en el siguiente, y el 29 de febrero es el 1 de marzo.",
        "sol salida 36.84 6 21\nsol posicion -33.5 12 21 9.5"});
-  sol.require_subcommand(1);
+  ExigirOrdenDentro(sol);
   RegistrarUna(
       sol, contexto, "salida",
       {"Horas de salida y de puesta y declinación",

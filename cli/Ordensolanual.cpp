@@ -29,9 +29,8 @@ void RegistrarSolAnual(CLI::App &sol, Contexto &contexto) {
                                 "cenit [º] a la hora más media; "
                                 "de noche, 0, 0 y 90.",
                                 "sol anual 36.84 -o FPS.TXT"});
-  AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD)->required();
-  AnadirValor(orden, "-o,--salida", datos->salida, "FICHERO", "Fichero que se escribe (obligatorio)")
-      ->required();
+  Exigir(AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD));
+  Exigir(AnadirValor(orden, "-o,--salida", datos->salida, "FICHERO", "Fichero que se escribe (obligatorio)"));
   AlEjecutar(orden, contexto, datos, Ejecutar);
 }
 

@@ -56,10 +56,9 @@ void RegistrarUna(CLI::App &sol, Contexto &contexto, const std::string &nombre, 
                   std::string (*calcular)(const Datos &), bool conMes) {
   const auto datos = std::make_shared<Datos>();
   CLI::App &orden = NuevaOrden(sol, nombre, ayuda);
-  AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD)->required();
-  if (conMes) AnadirArgumento(orden, "MES", datos->mes, "1 a 12")->required();
-  AnadirArgumento(orden, "DIA", datos->dia, "1 a 31; uno que el mes no tiene cuenta en el siguiente")
-      ->required();
+  Exigir(AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD));
+  if (conMes) Exigir(AnadirArgumento(orden, "MES", datos->mes, "1 a 12"));
+  Exigir(AnadirArgumento(orden, "DIA", datos->dia, "1 a 31; uno que el mes no tiene cuenta en el siguiente"));
   AnadirJson(orden, datos->json);
   AlEjecutar(orden, contexto, datos,
              [calcular](const Datos &pedido, Contexto &donde) { donde.salida << calcular(pedido); });
