@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Instala lo que falte, construye con los avisos como errores, AddressSanitizer y UBSan, y pasa todas las pruebas.
-# Termina con 0 sólo si se ejecutó al menos una y todas pasaron.
+# Instala lo que falte, construye con los avisos como errores, AddressSanitizer en todo y UBSan en lo que calcula, y
+# pasa todas las pruebas. Termina con 0 sólo si se ejecutó al menos una y todas pasaron.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
 source cmake/preparar.sh

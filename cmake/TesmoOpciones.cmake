@@ -28,10 +28,10 @@ else()
   endif()
 endif()
 
-# Con saneadores, lo que no calcula se compila sin optimizar y sin UBSan: ahí no hay cuentas que vigilar y los dos
-# doblan lo que tarda cada fichero. AddressSanitizer queda en todo. Vale para los destinos que declare después la
-# carpeta que la llama.
-macro(tesmo_sin_optimizar_con_saneadores)
+# Con saneadores, las ventanas, las órdenes y las pruebas llevan sólo AddressSanitizer, sin optimizar: UBSan y -O1
+# doblan lo que tarda cada fichero, y las cuentas están en los motores y en la matemática del dibujo, que los conservan.
+# Vale para los destinos que declare después la carpeta que la llama.
+macro(tesmo_solo_asan)
   if(TESMO_SANEADORES AND NOT MSVC)
     add_compile_options(-O0 -g0 -fno-sanitize=undefined)
   endif()
@@ -52,14 +52,21 @@ function(tesmo_precompilar_como destino otro)
   endif()
 endfunction()
 
-# tesmo_motor(nombre FUENTES f1 f2… USA m1 m2…): biblioteca estática tesmo_<nombre>, sin Qt.
-function(tesmo_motor nombre)
+# tesmo_biblioteca(nombre FUENTES f1 f2… USA m1 m2…): biblioteca estática tesmo_<nombre> sobre otras del proyecto.
+function(tesmo_biblioteca nombre)
   cmake_parse_arguments(M "" "" "FUENTES;USA" ${ARGN})
   add_library(tesmo_${nombre} STATIC ${M_FUENTES})
   target_link_libraries(tesmo_${nombre} PUBLIC tesmo_opciones)
   foreach(m IN LISTS M_USA)
     target_link_libraries(tesmo_${nombre} PUBLIC tesmo_${m})
   endforeach()
+endfunction()
+
+# tesmo_motor(nombre FUENTES f1 f2… USA m1 m2…): la que sólo incluye la biblioteca estándar, el sistema y lo que USA.
+# Lo comprueba tests/capas.
+function(tesmo_motor nombre)
+  tesmo_biblioteca(${nombre} ${ARGN})
+  set_property(GLOBAL APPEND PROPERTY TESMO_MOTORES ${nombre})
 endfunction()
 
 # tesmo_prueba(nombre [CON_QT] [DE_UNA_VEZ] FUENTES … USA …): ejecutable GoogleTest con un caso de ctest por prueba, o

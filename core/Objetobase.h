@@ -58,8 +58,7 @@ public:
   /// Reescribe en @p texto el separador decimal al de la región; nunca toca el último carácter (se conserva).
   static void AjustarSeparador(std::string &texto);
   /// Lee un real tecleado con cualquiera de los dos separadores. Fuera de [@p minimo, @p maximo] lo dice en
-  /// una caja; lo que no es un número no se dice aquí. En ambos casos levanta la marca de la llamada y
-  /// devuelve
+  /// una caja; lo que no es un número no se dice aquí. En ambos casos levanta la marca de la llamada y da
   /// @p porDefecto, que no se compara con los límites.
   [[nodiscard]] float LeerReal(const std::string &texto, float minimo, float maximo, float porDefecto);
   /// Como LeerReal, truncando hacia cero antes de comparar con los límites.
