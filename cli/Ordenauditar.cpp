@@ -92,11 +92,13 @@ std::optional<Auditado> AuditarFichero(const std::string &fichero, const Opcione
 }
 
 void Ejecutar(const Datos &datos, Contexto &contexto) {
-  const std::vector<NormalesLocalidad> normales = NormalesDelPrograma();
+  const std::vector<NormalesLocalidad> delPrograma = NormalesDelPrograma();
   const OpcionesLectura opciones{.paraAuditar = true, .mapa = InterpretarMapa(datos.mapa)};
   Json lista = Json::array();
   bool falta = false, primera = true;
   for (const std::string &fichero : datos.ficheros) {
+    const std::vector<NormalesLocalidad> normales =
+        delPrograma.empty() ? NormalesDeSuBase(RutaAbsoluta(fichero)) : delPrograma;
     const std::optional<Auditado> auditado = AuditarFichero(fichero, opciones, normales, contexto);
     falta = falta || !auditado;
     if (!auditado) continue;

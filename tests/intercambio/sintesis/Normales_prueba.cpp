@@ -1,4 +1,5 @@
 #include "intercambio/sintesis/Normales.h"
+#include "intercambio/sintesis/Normalesprograma.h"
 
 #include "tests/comun/Apoyos.h"
 #include "tests/intercambio/sintesis/Apoyosintesis.h"
@@ -196,6 +197,18 @@ TEST(Normales, MuchasFaltasSeResumen) {
   const auto errores = Errores(texto);
   ASSERT_EQ(errores.size(), 21U);
   EXPECT_EQ(errores.back(), "n.csv: y 31 faltas más");
+}
+
+TEST(NormalesDeUnaBase, UnaCopiaDeLaBaseLlevaLasSuyas) {
+  const prueba::DirectorioTemporal raiz;
+  const std::string met = raiz.Escribir("copia/Meteo/Almeria.met", "");
+  EXPECT_TRUE(NormalesDeSuBase(met).empty());
+  raiz.Escribir("copia/datos/normales.csv", prueba::Contenido(RutaDesdeTexto(prueba::RutaNormales())));
+  const std::vector<NormalesLocalidad> normales = NormalesDeSuBase(met);
+  ASSERT_EQ(normales.size(), prueba::NormalesDelPrograma().size());
+  EXPECT_EQ(normales.front().nombre, prueba::NormalesDelPrograma().front().nombre);
+  raiz.Escribir("copia/datos/normales.csv", "no se entiende\n");
+  EXPECT_TRUE(NormalesDeSuBase(met).empty());
 }
 
 } // namespace
