@@ -1,11 +1,16 @@
 #include "intercambio/Aniodefichero.h"
 #include "intercambio/Ficheroimportable.h"
+#include "intercambio/auditoria/Textoauditoria.h"
+#include "intercambio/escritura/Textoanio.h"
 #include "tests/comun/Apoyos.h"
 #include "tests/intercambio/formatos/Generadorclima.h"
+#include "tests/intercambio/reloj/Aniofisico.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 
 namespace tesmo {
 namespace {
@@ -65,6 +70,28 @@ TEST_F(ImportacionDeUnFichero, LosAvisosDeLaLecturaLleganConElResultado) {
   EXPECT_EQ(hecho.resultado.error, "");
   EXPECT_TRUE(Dice(hecho.avisos, "línea 109")) << (hecho.avisos.empty() ? "" : hecho.avisos.front());
   EXPECT_EQ(hecho.avisos, AvisosDe(LeerAnioDeFichero((raiz_ / "x.epw").string(), {})));
+}
+
+TEST_F(ImportacionDeUnFichero, ElMetQueResultaEsAptoComoSuFuente) {
+  const RelojFichero reloj{TiempoEtiqueta::OficialEstandar, 1.0, -30.0};
+  AnioCanonico anio = prueba::AnioFisico({.reloj = reloj});
+  for (std::size_t i = 0; i < anio.lineas.size(); ++i) { // las suyas duran días sin cambiar
+    const double kelvin = anio[Campo::TemperaturaSeca].valores[i] + 273.15;
+    const double marea = 150.0 * std::cos(static_cast<double>(i) * std::numbers::pi / 6.0);
+    anio[Campo::Presion].valores[i] += marea;
+    anio[Campo::InfrarrojaHorizontal].Poner(i, 0.8 * 5.67e-8 * std::pow(kelvin, 4.0), Procedencia::Copiada);
+  }
+  const ResultadoConversion conversion = LlevarAHoraSolar(anio, reloj);
+  ASSERT_TRUE(conversion.anio) << conversion.error;
+  const FicheroImportable fuente =
+      PrepararFichero(raiz_.Escribir("x.epw", TextoDeAnio(*conversion.anio, FormatoSalida::Epw)), {});
+  EXPECT_EQ(fuente.auditoria.veredicto, Veredicto::Apto)
+      << TextoAuditoria("x.epw", fuente.materia, fuente.auditoria);
+  const FicheroImportado hecho = Importar(fuente);
+  ASSERT_EQ(hecho.resultado.error, "");
+  const FicheroImportable met =
+      PrepararFichero((raiz_ / ("m/" + hecho.resultado.registro.fichero)).string(), {});
+  EXPECT_EQ(met.auditoria.veredicto, Veredicto::Apto) << TextoAuditoria("x.met", met.materia, met.auditoria);
 }
 
 } // namespace
