@@ -86,15 +86,19 @@ bool Preparar(const Rutas &rutas, const FicheroConjunto &fichero, ApunteConjunto
   return true;
 }
 
-/// ¿Sigue todo como lo dejó el diario, de modo que se puede acabar? Un fichero ya cambiado no tiene su nuevo.
+/// ¿Sigue todo como lo dejó el diario, de modo que se puede acabar? Un fichero ya cambiado no tiene su nuevo;
+/// si no queda ninguno por cambiar, lo que alguien hiciera después es cosa suya.
 bool SePuedeTerminar(const fs::path &directorio, const std::vector<ApunteConjunto> &apuntes) {
+  bool pendientes = false, intactos = true;
   for (std::size_t i = 0; i < apuntes.size(); ++i) {
     const Rutas rutas(directorio, apuntes[i].nombre, i);
-    if (!Existe(rutas.nueva)) continue;
-    if (HuellaDe(rutas.nueva) != apuntes[i].huellaNueva || HuellaDe(rutas.destino) != apuntes[i].anterior)
-      return false;
+    const bool pendiente = Existe(rutas.nueva);
+    pendientes = pendientes || pendiente;
+    intactos = intactos && (pendiente ? HuellaDe(rutas.nueva) == apuntes[i].huellaNueva &&
+                                            HuellaDe(rutas.destino) == apuntes[i].anterior
+                                      : HuellaDe(rutas.destino) == apuntes[i].huellaNueva);
   }
-  return true;
+  return intactos || !pendientes;
 }
 
 /// El nombre del fichero que no se pudo cambiar; vacío si se cambiaron todos.

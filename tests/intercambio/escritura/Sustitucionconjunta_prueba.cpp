@@ -96,6 +96,25 @@ TEST_F(SustitucionConjunta, SiAlguienCambioDespuesUnFicheroSeDeshaceSinPisarlo) 
   EXPECT_EQ(Mirar(), (Estado{{"dos", "2 viejo"}, {"tres", "3 a mano"}, {"ajeno", "x"}}));
 }
 
+TEST_F(SustitucionConjunta, SiAlguienBorroLoYaCambiadoNoSeSigue) {
+  Reponer();
+  static_cast<void>(prueba::MuereTras(
+      7, [&](const auto &tras) { static_cast<void>(SustituirJuntos(raiz_.Ruta(), ficheros_, tras)); }));
+  fs::remove(raiz_ / "uno"); // el primero, ya puesto: los otros dos lo nombrarían sin que lo haya
+  EXPECT_EQ(Recuperar(), Recuperacion::Deshecha);
+  EXPECT_EQ(Mirar(), antes_);
+}
+
+TEST_F(SustitucionConjunta, LoQueSeCambiaTrasAcabarSeRespeta) {
+  Reponer();
+  static_cast<void>(prueba::MuereTras(
+      9, [&](const auto &tras) { static_cast<void>(SustituirJuntos(raiz_.Ruta(), ficheros_, tras)); }));
+  raiz_.Escribir("tres", "3 a mano");
+  EXPECT_EQ(Recuperar(), Recuperacion::Terminada);
+  EXPECT_EQ(prueba::Contenido(raiz_ / "uno"), "1 nuevo");
+  EXPECT_EQ(prueba::Contenido(raiz_ / "tres"), "3 a mano");
+}
+
 TEST_F(SustitucionConjunta, DeshacerSePuedeInterrumpirYRepetir) {
   for (int pasos = 1; pasos < 8; ++pasos) {
     Reponer();
