@@ -3,6 +3,7 @@
 #include "core/Cerrojo.h"
 #include "core/Codificacion.h"
 #include "core/Ficheros.h"
+#include "intercambio/escritura/Composicion.h"
 #include "intercambio/escritura/Estadisticasgdr.h"
 #include "intercambio/escritura/Listagdr.h"
 #include "intercambio/escritura/Listalocalidades.h"
@@ -22,6 +23,7 @@ namespace {
 constexpr const char *LISTA = "LocalidadesCC";
 constexpr const char *REGISTROS = "GDR.TXT";
 constexpr const char *EXTENSION = ".met";
+constexpr const char *NOMBRE_DE_NADIE = "Localidad";
 constexpr double GRADOS_POR_HORA = 15.0;
 enum Campo : std::size_t {
   CAMPO_NOMBRE = 0,
@@ -84,7 +86,10 @@ private:
     ficha_.provincia = TextoDeCampo(peticion_.provincia);
     if (ficha_.nombre.empty()) return Fallar(FalloImportacion::Peticion, "falta el nombre de la localidad");
     if (ficha_.provincia.empty()) return Fallar(FalloImportacion::Peticion, "falta la provincia");
-    if (ficha_.nombre != peticion_.nombre) Avisar("el nombre queda en «" + ficha_.nombre + "»");
+    if (ficha_.nombre == NOMBRE_DE_NADIE)
+      Avisar("«" + ficha_.nombre + "» es lo que enseña una ventana sin localidad: no se podrá elegir");
+    if (ficha_.nombre != ComponerAcentos(peticion_.nombre))
+      Avisar("el nombre queda en «" + ficha_.nombre + "»");
     anterior_ = lista_.Buscar(lista_.ComoSeLeera(ficha_.nombre));
     if (anterior_ && !peticion_.reemplazar)
       return Fallar(FalloImportacion::Existe,

@@ -1,6 +1,7 @@
 #include "intercambio/escritura/Nombrescatalogo.h"
 
 #include "core/Codificacion.h"
+#include "intercambio/escritura/Composicion.h"
 #include "intercambio/sintesis/Nombrecorto.h"
 #include "localidades/Lineaslocalidades.h"
 
@@ -43,7 +44,7 @@ std::string Corto(std::string_view nombre) {
 
 std::string TextoDeCampo(std::string_view texto) {
   std::string limpio;
-  for (const char c : texto) {
+  for (const char c : ComponerAcentos(texto)) {
     const bool blanco = c == ' ' || c == ',' || EsControl(c);
     if (!blanco) {
       limpio += c;

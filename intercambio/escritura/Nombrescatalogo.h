@@ -7,7 +7,8 @@
 namespace tesmo {
 
 /// @p texto como campo de "LocalidadesCC": comas y caracteres de control pasan a blancos, los blancos
-/// seguidos se juntan, los de los extremos se quitan y se corta a 49 bytes sin partir un carácter.
+/// seguidos se juntan, los de los extremos se quitan, los acentos sueltos se unen a su letra
+/// (ComponerAcentos) y se corta a 49 bytes sin partir un carácter.
 [[nodiscard]] std::string TextoDeCampo(std::string_view texto);
 
 /// Nombre corto para la localidad @p nombre, libre según @p ocupado: letras sin acento, cifras, punto, guion

@@ -191,6 +191,18 @@ TEST_F(Importacion, DosNombresQueSeAcortanIgualNoSePisan) {
   EXPECT_EQ(EnElDirectorio().size(), 5U);
 }
 
+TEST_F(Importacion, ElMismoNombreConElAcentoSueltoEsLaMisma) {
+  ASSERT_EQ(Importar("Motril", "Almería").error, "");
+  ASSERT_TRUE(Importar("Almería", "Almeri\u0301a").avisos.empty());
+  EXPECT_EQ(Importar("Almeri\u0301a", "Almería").fallo, FalloImportacion::Existe);
+  EXPECT_TRUE(Leer("LocalidadesCC").starts_with("2\nMotril,")) << Leer("LocalidadesCC");
+}
+
+TEST_F(Importacion, UnNombreQueNoSePodraElegirSeAvisa) {
+  EXPECT_EQ(Importar("Localidad").avisos.size(), 1U);
+  EXPECT_TRUE(Importar("Localidades").avisos.empty());
+}
+
 TEST_F(Importacion, UnMetQueNoEstaEnLaListaNoSePisa) {
   raiz_.Escribir("rota.MET", "de alguien");
   EXPECT_EQ(Importar("Rota").registro.fichero, "Rota-2.met");

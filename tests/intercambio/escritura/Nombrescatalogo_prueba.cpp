@@ -40,6 +40,13 @@ TEST(NombresDelCatalogo, LosCamposNoLlevanComasNiSaltosNiPasanDe49Bytes) {
   EXPECT_EQ(TextoDeCampo(" , "), "");
 }
 
+TEST(NombresDelCatalogo, UnAcentoSueltoSeUneASuLetra) {
+  EXPECT_EQ(TextoDeCampo("Almeri\u0301a"), "Almería");
+  EXPECT_EQ(TextoDeCampo("A\u0301vila, Logron\u0303o, Gu\u0308ejar, Ve\u0300nec\u0327"),
+            "Ávila Logroño Güejar Vèneç");
+  EXPECT_EQ(TextoDeCampo("b\u0301 \u0301a"), "b\u0301 \u0301a"); // sin letra que lo lleve
+}
+
 TEST(NombresDelCatalogo, NoTodoTextoEsNombreDeFichero) {
   for (const char *malo : {"", ".", "..", "a/b", "a\\b", "C:x", "a*", "nul", "COM1.met", ".oculto", "a\nb"})
     EXPECT_FALSE(EsNombreDeFichero(malo)) << malo;
