@@ -1,5 +1,6 @@
 #include "tests/cli/Proceso.h"
 #include "tests/comun/Lugares.h"
+#include "tests/intercambio/formatos/Generadorclima.h"
 
 #include <nlohmann/json.hpp>
 
@@ -54,6 +55,28 @@ TEST_F(OrdenAuditar, ElJsonDaElVeredictoYLosTramosDeLineas) {
     visto = visto || comprobacion["lineas"] == Json::parse("[[50,50]]");
   }
   EXPECT_TRUE(visto) << e.salida;
+}
+
+TEST_F(OrdenAuditar, ElJsonSaleEnUtf8AunqueLaCiudadVengaEnLatin1) {
+  LineasFichero lineas = LineasEpw();
+  CambiarCampo(lineas[0], 1,
+               "Almer\xED"
+               "a");
+  const Ejecucion e = Orden({"auditar", raiz_.Escribir("x.epw", Unir(lineas)), "--json"});
+  EXPECT_EQ(e.estado, 0) << e.error;
+  EXPECT_EQ(Json::parse(e.salida)[0]["sitio"]["nombre"], "Almería");
+}
+
+TEST_F(OrdenAuditar, SinNadaQueAuditarElJsonEsUnaListaVacia) {
+  const Ejecucion e = Orden({"auditar", (raiz_ / "nohay.epw").string(), "--json"});
+  EXPECT_EQ(e.estado, 3);
+  EXPECT_EQ(e.salida, "[]\n");
+}
+
+TEST_F(OrdenAuditar, LaCopiaDeUnaBaseSeAuditaConSusNormales) {
+  const std::string copia = raiz_.Escribir("copia/Almeria.met", Contenido(almeria_));
+  const Ejecucion e = Orden({"auditar", copia});
+  EXPECT_NE(e.salida.find("como las normales de Almería"), std::string::npos) << e.salida;
 }
 
 TEST_F(OrdenAuditar, UnFicheroQueFaltaDaEstado3YLosDemasSeAuditan) {

@@ -2,6 +2,7 @@
 #include "tests/intercambio/formatos/Generadorclima.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace tesmo::prueba {
 namespace {
@@ -140,6 +141,21 @@ TEST_F(OrdenImportar, LoQueNoSePuedeLeerEstado3YLosDemasSeImportan) {
   EXPECT_EQ(e.estado, 3);
   EXPECT_NE(e.error.find("Error: nohay.epw: "), std::string::npos) << e.error;
   EXPECT_EQ(ConBase({"localidades", "--provincia", "P"}).Lineas().size(), 1U);
+}
+
+TEST_F(OrdenImportar, UnaListaQueNoSePuedeLeerEstado4YNadaCambia) {
+  const std::string epw = Epw("x.epw", "Baza");
+  for (const char *lista : {"GDR.TXT", "LocalidadesCC"}) {
+    const std::string destino = std::string(lista) + "-base";
+    std::filesystem::create_directories(raiz_ / destino / "Meteo" / lista);
+    raiz_.Escribir(destino + "/config.ini", "Directorios de prueba\nMET = Meteo\\\n");
+    const Ejecucion e = Orden({"importar", epw, "--provincia", "P", "--base", (raiz_ / destino).string()});
+    EXPECT_EQ(e.estado, 4) << lista << e.error;
+    EXPECT_NE(e.error.find(std::string(lista) + ": no se puede escribir en "), std::string::npos) << e.error;
+    EXPECT_FALSE(std::filesystem::exists(raiz_ / destino / "Meteo/Baza.met")) << lista;
+    const std::filesystem::directory_iterator meteo(raiz_ / destino / "Meteo");
+    EXPECT_EQ(std::distance(meteo, std::filesystem::directory_iterator()), 1) << lista;
+  }
 }
 
 TEST_F(OrdenImportar, UnaImportacionAMediasSeTerminaAlEmpezar) {

@@ -225,16 +225,18 @@ TEST_F(Importacion, LosDemasBytesDeLasListasQuedanComoEstaban) {
   EXPECT_EQ(EnElDirectorio(), (std::vector<std::string>{"Nijar.met", "gdr.txt", "localidadescc"}));
 }
 
-TEST_F(Importacion, ElRegistro178SeAvisa) {
+TEST_F(Importacion, ElRegistro178SeAvisaTambienAlReemplazarlo) {
   std::string gdr;
   for (int i = 0; i < 177; ++i) {
     gdr += "L" + std::to_string(i) + " C 1 2 3 10\n";
     for (int fila = 0; fila < 6; ++fila) gdr += "1 1 1 1 1 1 1 1 1 1 1 1\n";
   }
   raiz_.Escribir("GDR.TXT", gdr);
-  EXPECT_EQ(Importar("Rota").avisos,
-            std::vector<std::string>{"los días extremos no encontrarán esta localidad: sólo se miran los 177 "
-                                     "primeros registros de GDR.TXT y el suyo es el 178"});
+  const std::vector<std::string> aviso{
+      "los días extremos no encontrarán esta localidad: sólo se miran los 177 "
+      "primeros registros de GDR.TXT y el suyo es el 178"};
+  EXPECT_EQ(Importar("Rota").avisos, aviso);
+  EXPECT_EQ(Importar("Rota", "Granada", true).avisos, aviso);
 }
 
 TEST_F(Importacion, SinZonaSeDiceQueEsDelInterior) {
