@@ -29,6 +29,12 @@ std::optional<int> Entero(std::string_view texto) {
   return valor;
 }
 
+std::string RutaDada(const std::optional<std::string> &texto, const std::string &opcion, Estado siVacia) {
+  if (!texto) return {};
+  if (texto->empty()) throw Fallo(siVacia, opcion + ": la ruta está vacía");
+  return RutaAbsoluta(*texto);
+}
+
 std::vector<std::string_view> Partir(std::string_view texto, char separador) {
   std::vector<std::string_view> partes;
   for (std::size_t corte = texto.find(separador); corte != std::string_view::npos;
@@ -126,6 +132,14 @@ std::string RutaAbsoluta(const std::string &texto) {
   std::error_code error;
   const std::filesystem::path absoluta = std::filesystem::absolute(RutaDesdeTexto(texto), error);
   return error ? texto : TextoDeRuta(absoluta);
+}
+
+std::string RutaDeEntrada(const std::optional<std::string> &texto, const std::string &opcion) {
+  return RutaDada(texto, opcion, Estado::FaltaEntrada);
+}
+
+std::string RutaDeSalida(const std::optional<std::string> &texto, const std::string &opcion) {
+  return RutaDada(texto, opcion, Estado::FaltaSalida);
 }
 
 } // namespace tesmo::cli

@@ -2,6 +2,7 @@
 
 #include "meteo/Fecha.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -35,5 +36,9 @@ void ComprobarDia(int mes, int dia, const std::string &que);
 
 /// Ruta absoluta de lo tecleado. Ha de llamarse antes de iniciar la configuración, que cambia de directorio.
 [[nodiscard]] std::string RutaAbsoluta(const std::string &texto);
+/// Lo mismo con el valor de @p opcion; vacía si no se dio. Lanzan Fallo (falta una entrada o una salida) si
+/// se dio vacía.
+[[nodiscard]] std::string RutaDeEntrada(const std::optional<std::string> &texto, const std::string &opcion);
+[[nodiscard]] std::string RutaDeSalida(const std::optional<std::string> &texto, const std::string &opcion);
 
 } // namespace tesmo::cli

@@ -34,12 +34,6 @@ Periodo LeerPeriodo(const OpcionesSeleccion &opciones, Periodo periodo) {
   return periodo;
 }
 
-std::string RutaDada(const std::optional<std::string> &texto, const char *opcion) {
-  if (!texto) return {};
-  if (texto->empty()) throw Fallo(Estado::FaltaEntrada, std::string(opcion) + ": la ruta está vacía");
-  return RutaAbsoluta(*texto);
-}
-
 } // namespace
 
 void AnadirBase(CLI::App &orden, std::optional<std::string> &base) {
@@ -91,9 +85,9 @@ PeticionSeleccion Interpretar(const OpcionesSeleccion &opciones) {
   peticion.presion = presion.presion;
   peticion.altitud = presion.altitud;
   peticion.localidad = opciones.localidad.value_or("");
-  peticion.fichero = RutaDada(opciones.fichero, "--fichero");
-  peticion.horizonte = RutaDada(opciones.horizonte, "--horizonte");
-  peticion.base = RutaDada(opciones.base, "--base");
+  peticion.fichero = RutaDeEntrada(opciones.fichero, "--fichero");
+  peticion.horizonte = RutaDeEntrada(opciones.horizonte, "--horizonte");
+  peticion.base = RutaDeEntrada(opciones.base, "--base");
   return peticion;
 }
 

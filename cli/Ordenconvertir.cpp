@@ -32,14 +32,14 @@ std::string FicheroDeLocalidad(const std::string &localidad, SitioClima &sitio, 
   return DameConfiguracion().RutaMeteo(registro->fichero);
 }
 
-AnioSolar Leer(const Datos &datos, const EleccionReloj &eleccion, const OpcionesLectura &lectura,
+/// @p entrada: la ruta del fichero que se dio, vacía si se dio una localidad
+AnioSolar Leer(const Datos &datos, const std::string &entrada, const EleccionReloj &eleccion,
                Contexto &contexto) {
+  const OpcionesLectura lectura = InterpretarLectura(datos.reloj);
   SitioClima sitio;
   double meridiano = AUSENTE;
-  std::string ruta;
-  if (datos.fichero) {
-    ruta = RutaAbsoluta(*datos.fichero);
-  } else {
+  std::string ruta = entrada;
+  if (datos.localidad) {
     IniciarBase(datos.base ? RutaAbsoluta(*datos.base) : std::string(), contexto);
     ruta = FicheroDeLocalidad(*datos.localidad, sitio, meridiano);
   }
@@ -57,15 +57,13 @@ AnioSolar Leer(const Datos &datos, const EleccionReloj &eleccion, const Opciones
 void Ejecutar(const Datos &datos, Contexto &contexto) {
   if (datos.fichero.has_value() == datos.localidad.has_value())
     throw Fallo(Estado::UsoIncorrecto, "hay que dar FICHERO o --localidad, y sólo uno de los dos");
-  if (datos.fichero && datos.fichero->empty())
-    throw Fallo(Estado::FaltaEntrada, "FICHERO: la ruta está vacía");
-  if (datos.salida->empty()) throw Fallo(Estado::FaltaSalida, "-o: la ruta está vacía");
+  const std::string entrada = RutaDeEntrada(datos.fichero, "FICHERO");
+  const std::string salida = RutaDeSalida(datos.salida, "-o");
   const EleccionReloj eleccion = InterpretarReloj(datos.reloj);
-  const std::string salida = RutaAbsoluta(*datos.salida);
   const std::optional<FormatoSalida> formato = FormatoDeSalida(salida);
   if (!formato)
     throw Fallo(Estado::UsoIncorrecto, "-o: «" + *datos.salida + "» no acaba en .met, .epw ni .csv");
-  const AnioSolar anio = Leer(datos, eleccion, InterpretarLectura(datos.reloj), contexto);
+  const AnioSolar anio = Leer(datos, entrada, eleccion, contexto);
   if (!EscribirFicheroEntero(RutaDesdeTexto(salida), TextoDeAnio(anio, *formato)))
     throw Fallo(Estado::FaltaSalida, "no se puede escribir: " + *datos.salida);
 }

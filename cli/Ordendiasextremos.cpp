@@ -66,18 +66,6 @@ void LeerEstacion(const std::optional<std::string> &percentil, const std::option
   if (temporada) ajustes.temporada = LeerTemporada(*temporada, "--temporada-" + sufijo);
 }
 
-std::string RutaDeSalida(const std::optional<std::string> &texto, const char *opcion) {
-  if (!texto) return {};
-  if (texto->empty()) throw Fallo(Estado::FaltaSalida, std::string(opcion) + ": la ruta está vacía");
-  return RutaAbsoluta(*texto);
-}
-
-std::string RutaDeEntrada(const std::optional<std::string> &texto, const char *opcion) {
-  if (!texto) return {};
-  if (texto->empty()) throw Fallo(Estado::FaltaEntrada, std::string(opcion) + ": la ruta está vacía");
-  return RutaAbsoluta(*texto);
-}
-
 Peticion Interpretar(const Datos &datos) {
   if (datos.localidad.has_value() == datos.gdr.has_value())
     throw Fallo(Estado::UsoIncorrecto, "hay que dar --localidad o --gdr, y sólo una de las dos");

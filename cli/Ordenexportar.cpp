@@ -53,8 +53,7 @@ void Ejecutar(const Datos &datos, Contexto &contexto) {
   const PeticionSeleccion peticion = Interpretar(datos.seleccion);
   const std::string separador = Elegir(SEPARADORES, datos.separador.value_or("tab"), "--separador");
   const char decimal = Elegir(DECIMALES, datos.decimal.value_or("punto"), "--decimal");
-  if (datos.salida->empty()) throw Fallo(Estado::FaltaSalida, "-o: la ruta está vacía");
-  const std::string salida = RutaAbsoluta(*datos.salida);
+  const std::string salida = RutaDeSalida(datos.salida, "-o");
   IniciarRegistro(datos.registro);
   std::optional<Programa> programa;
   Cargar(peticion, contexto, programa);

@@ -28,11 +28,6 @@ HorizonteLeido LeerEntrada(const Datos &datos, Contexto &contexto) {
   return LeerHorizonteDado(RutaAbsoluta(*datos.entrada), *datos.entrada, contexto);
 }
 
-std::string RutaDeSalida(const Datos &datos) {
-  if (datos.salida->empty()) throw Fallo(Estado::FaltaSalida, "-o: la ruta está vacía");
-  return RutaAbsoluta(*datos.salida);
-}
-
 void EscribirSalida(const std::string &ruta, const std::string &texto) {
   if (!EscribirFicheroEntero(RutaDesdeTexto(ruta), texto))
     throw Fallo(Estado::FaltaSalida, "no se puede escribir el fichero: " + ruta);
@@ -56,7 +51,7 @@ void Leer(const Datos &datos, Contexto &contexto) {
 }
 
 void Guardar(const Datos &datos, Contexto &contexto) {
-  const std::string salida = RutaDeSalida(datos);
+  const std::string salida = RutaDeSalida(datos.salida, "-o");
   const PerfilHorizonte perfil = LeerEntrada(datos, contexto).perfil;
   EscribirSalida(salida, TextoDePerfil(perfil));
   if (perfil.Tamano() > 1) {
@@ -76,7 +71,7 @@ FormatoHorizonte FormatoDeSalida(const Datos &datos) {
 void Convertir(const Datos &datos, Contexto &contexto) {
   const FormatoHorizonte formato = FormatoDeSalida(datos);
   const int cuartos = datos.girar ? LeerEntero(*datos.girar, "--girar", -CUARTOS, CUARTOS) : 0;
-  const std::string salida = RutaDeSalida(datos);
+  const std::string salida = RutaDeSalida(datos.salida, "-o");
   PerfilHorizonte perfil = LeerEntrada(datos, contexto).perfil;
   if (datos.reflejar) perfil = ReflejarPerfil(perfil);
   if (cuartos != 0) perfil = GirarPerfil(perfil, cuartos);

@@ -77,9 +77,9 @@ private:
 Entradas Reunir(const std::vector<std::string> &dados) {
   Entradas entradas;
   for (const std::string &dado : dados) {
-    if (dado.empty()) throw Fallo(Estado::FaltaEntrada, "FICHERO: la ruta está vacía");
-    const std::vector<std::string> desplegados = Desplegar(RutaAbsoluta(dado));
-    const bool esCarpeta = desplegados.front() != RutaAbsoluta(dado);
+    const std::string ruta = RutaDeEntrada(dado, "FICHERO");
+    const std::vector<std::string> desplegados = Desplegar(ruta);
+    const bool esCarpeta = desplegados.front() != ruta;
     for (const std::string &ruta : desplegados) entradas.Anadir(ruta, esCarpeta);
   }
   return entradas;

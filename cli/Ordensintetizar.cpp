@@ -16,13 +16,12 @@ struct Datos {
 };
 
 void Ejecutar(const Datos &datos, Contexto &contexto) {
-  if (datos.salida->empty()) throw Fallo(Estado::FaltaSalida, "-o: la ruta está vacía");
-  if (datos.normales && datos.normales->empty())
-    throw Fallo(Estado::FaltaEntrada, "--normales: la ruta está vacía");
+  const std::string salida = RutaDeSalida(datos.salida, "-o");
+  const std::string normales =
+      datos.normales ? RutaDeEntrada(datos.normales, "--normales") : RutaNormalesDelPrograma();
   IniciarRegistro(datos.registro);
-  const std::string normales = datos.normales ? RutaAbsoluta(*datos.normales) : RutaNormalesDelPrograma();
   ResultadoSintesis resultado;
-  const bool hecho = Sintetizar(normales, RutaAbsoluta(*datos.salida), resultado);
+  const bool hecho = Sintetizar(normales, salida, resultado);
   for (const std::string &aviso : resultado.avisos) Avisar(contexto, aviso);
   if (hecho) return;
   for (const std::string &error : resultado.errores) contexto.error << "Error: " << error << '\n';

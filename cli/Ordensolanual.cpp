@@ -15,8 +15,8 @@ struct Datos {
 
 void Ejecutar(const Datos &datos, Contexto & /*contexto*/) {
   const float latitud = LeerLatitud(*datos.latitud);
-  if (datos.salida->empty()) throw Fallo(Estado::FaltaSalida, "-o: la ruta está vacía");
-  if (!EscribirFicheroAnual(latitud, RutaAbsoluta(*datos.salida))) throw Fallo(Estado::FaltaSalida, "");
+  const std::string salida = RutaDeSalida(datos.salida, "-o");
+  if (!EscribirFicheroAnual(latitud, salida)) throw Fallo(Estado::FaltaSalida, "");
 }
 
 } // namespace

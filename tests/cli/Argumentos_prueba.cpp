@@ -44,13 +44,13 @@ TEST(ArgumentosDeOrden, TrasDosGuionesTodoSonValores) {
   EXPECT_EQ(Desproteger(protegidos[1]), "--json");
 }
 
-/// El texto del fallo de uso que lanza @p accion; vacío si no lanza.
+/// El texto del fallo que lanza @p accion, que ha de ser @p estado; vacío si no lanza.
 template <class Accion>
-std::string FalloDe(Accion accion) {
+std::string FalloDe(Accion accion, Estado estado = Estado::UsoIncorrecto) {
   try {
     accion();
   } catch (const Fallo &fallo) {
-    EXPECT_EQ(fallo.DameEstado(), Estado::UsoIncorrecto);
+    EXPECT_EQ(fallo.DameEstado(), estado);
     return fallo.what();
   }
   return {};
@@ -92,6 +92,16 @@ TEST(ArgumentosDeOrden, HorasDelDia) {
   EXPECT_EQ(LeerHoras("9-9", "--horas"), std::pair(9, 9));
   for (const char *texto : {"0-5", "5-25", "20-6", "5", "", "1-2-3", "-"})
     EXPECT_NE(FalloDe([&] { static_cast<void>(LeerHoras(texto, "--horas")); }), "") << texto;
+}
+
+TEST(ArgumentosDeOrden, UnaRutaVaciaFallaSegunSeLeaOSeEscriba) {
+  EXPECT_EQ(FalloDe([] { static_cast<void>(RutaDeEntrada("", "--mapa")); }, Estado::FaltaEntrada),
+            "--mapa: la ruta está vacía");
+  EXPECT_EQ(FalloDe([] { static_cast<void>(RutaDeSalida("", "-o")); }, Estado::FaltaSalida),
+            "-o: la ruta está vacía");
+  EXPECT_EQ(RutaDeSalida(std::nullopt, "-o"), "");
+  EXPECT_EQ(RutaDeEntrada("a.met", "--fichero"), RutaAbsoluta("a.met"));
+  EXPECT_NE(RutaDeSalida("a.met", "-o"), "a.met");
 }
 
 } // namespace
