@@ -48,10 +48,9 @@ EleccionReloj InterpretarReloj(const OpcionesReloj &opciones) {
        {"solar", TiempoEtiqueta::SolarVerdadero},
        {"oficial", TiempoEtiqueta::OficialEstandar},
        {"utc", TiempoEtiqueta::Utc}}};
-  constexpr double MAXIMO_MIN = 90.0;
   EleccionReloj eleccion;
   if (opciones.desfase)
-    eleccion.desfaseMin = LeerNumero(*opciones.desfase, "--desfase", -MAXIMO_MIN, MAXIMO_MIN);
+    eleccion.desfaseMin = LeerNumero(*opciones.desfase, "--desfase", -DESFASE_MAXIMO_MIN, DESFASE_MAXIMO_MIN);
   if (opciones.huso) eleccion.husoHoras = LeerNumero(*opciones.huso, "--huso", -HUSO_MAXIMO, HUSO_MAXIMO);
   const std::string nombre = opciones.reloj.value_or("auto");
   for (const auto &[texto, tiempo] : RELOJES) {
