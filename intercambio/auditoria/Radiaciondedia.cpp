@@ -48,7 +48,7 @@ HorasMalas SinDifusa(const MateriaAuditoria &materia, const HorasMalas &altas) {
   return malas.size() > HORAS_TOLERADAS ? malas : HorasMalas();
 }
 
-/// Las de las rachas sin haz más largas que un mes nublado.
+/// Las de las rachas sin haz más largas que un mes nublado; las que no tienen radiación ninguna ya se dicen.
 HorasMalas SinDirecta(const MateriaAuditoria &materia, const HorasMalas &altas) {
   HorasMalas malas, racha;
   const auto cerrar = [&] {
@@ -56,6 +56,7 @@ HorasMalas SinDirecta(const MateriaAuditoria &materia, const HorasMalas &altas) 
     racha.clear();
   };
   for (std::size_t i : altas) {
+    if (GlobalDe(materia, i) <= RADIACION_NOCTURNA) continue;
     if (DirectaHorizontalDe(materia, i) <= 0.0)
       racha.push_back(i);
     else

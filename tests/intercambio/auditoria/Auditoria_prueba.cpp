@@ -315,6 +315,14 @@ TEST(Auditoria, LaGlobalDeUnMetEsLaSumaDeSusPartes) {
   EXPECT_EQ(Mirar(materia, "radiacion").lineas, std::vector<int>{LineaDe(MEDIODIA)});
 }
 
+TEST(Auditoria, UnAnioAOscurasNoSeCuentaDosVeces) {
+  MateriaAuditoria materia = MateriaLimpia();
+  Anular(materia, RADIACIONES, 0, 8760);
+  const std::string texto = Mirar(materia, "dia").texto;
+  EXPECT_TRUE(texto.starts_with("sin radiación: ")) << texto;
+  EXPECT_EQ(texto.find("directa"), std::string::npos) << texto;
+}
+
 TEST(Auditoria, LoQueUnaTormentaDejaAOscurasNoEsFalta) {
   MateriaAuditoria materia = MateriaLimpia();
   Anular(materia, RADIACIONES, MEDIODIA, 5);
