@@ -24,17 +24,13 @@ std::string Par(int x, int y) { return std::to_string(x) + " " + std::to_string(
 
 } // namespace
 
-void LienzoOrdenes::PonColor(ColorBgr color) { texto_ += "color 0x" + Hexadecimal(color) + "\n"; }
+void LienzoOrdenes::PonColor(ColorBgr color) { salida_ << "color 0x" << Hexadecimal(color) << '\n'; }
 
-void LienzoOrdenes::PonGrueso(int grueso) { texto_ += "grueso " + std::to_string(grueso) + "\n"; }
+void LienzoOrdenes::PonGrueso(int grueso) { salida_ << "grueso " << std::to_string(grueso) << '\n'; }
 
-void LienzoOrdenes::MoverA(int x, int y) { Apuntar("mover ", x, y); }
+void LienzoOrdenes::MoverA(int x, int y) { salida_ << "mover " << Par(x, y) << '\n'; }
 
-void LienzoOrdenes::LineaA(int x, int y) { Apuntar("linea ", x, y); }
-
-void LienzoOrdenes::Apuntar(const char *que, int x, int y) {
-  texto_.append(que).append(Par(x, y)).append("\n");
-}
+void LienzoOrdenes::LineaA(int x, int y) { salida_ << "linea " << Par(x, y) << '\n'; }
 
 std::string LienzoSvg::Documento() const {
   const std::string ancho = std::to_string(ancho_);

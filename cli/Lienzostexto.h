@@ -2,22 +2,23 @@
 
 #include "psicro/Lienzo.h"
 
+#include <ostream>
 #include <string>
 
 namespace tesmo::cli {
 
-/// Apunta cada llamada en una línea: "color 0xBBGGRR", "grueso N", "mover X Y" y "linea X Y".
+/// Escribe cada llamada, según llega, en una línea: "color 0xBBGGRR", "grueso N", "mover X Y" y "linea X Y".
 class LienzoOrdenes : public Lienzo {
 public:
-  [[nodiscard]] const std::string &Texto() const { return texto_; }
+  /// @param salida le sobrevive
+  explicit LienzoOrdenes(std::ostream &salida) : salida_(salida) {}
   void PonColor(ColorBgr color) override;
   void PonGrueso(int grueso) override;
   void MoverA(int x, int y) override;
   void LineaA(int x, int y) override;
 
 private:
-  void Apuntar(const char *que, int x, int y);
-  std::string texto_;
+  std::ostream &salida_;
 };
 
 /// Dibujo en SVG: un trazado por cada pluma distinta, sobre fondo blanco y recortado a su tamaño [píxeles].

@@ -101,9 +101,8 @@ void Ejecutar(const Datos &datos, Contexto &contexto) {
     for (const EstadoHorario &estado : nube) MarcarPunto(lienzo, carta, estado.t, estado.w, COLOR_MARCA);
   };
   if (datos.ordenes) {
-    LienzoOrdenes lienzo;
+    LienzoOrdenes lienzo(contexto.salida);
     dibujar(lienzo);
-    contexto.salida << lienzo.Texto();
   } else if (!guardar(salida, tamano.ancho, tamano.alto, dibujar)) {
     throw Fallo(Estado::FaltaSalida, "no se pudo escribir: " + salida);
   }

@@ -32,11 +32,12 @@ void DibujarHumedadConstante(const Psicro &carta, Pluma &pluma) {
   const double tFinal = rangoT.maximo + MAS_ALLA_DE_TMAX;
   CorrienteAire aire;
   Recorrido recorrido;
-  recorrido.Acumulando(rangoW.minimo, rangoW.maximo, rangoW.paso, [&](float w) {
+  recorrido.Acumulando(rangoW.minimo, rangoW.maximo, rangoW.paso, Recorrido::LINEA, [&](float w) {
     aire.pont_w(rangoT.maximo, w, carta.damePresion());
     const float rocio = aire.temperaturaRocio();
     carta.moverA(pluma, rocio, w);
-    recorrido.Acumulando(rocio, tFinal, rangoT.paso, [&](float t) { carta.lineaA(pluma, t, w); });
+    recorrido.Acumulando(rocio, tFinal, rangoT.paso, Recorrido::PUNTO,
+                         [&](float t) { carta.lineaA(pluma, t, w); });
   });
 }
 
@@ -48,7 +49,7 @@ void DibujarHumedadRelativa(const Psicro &carta, Pluma &pluma) {
   recorrido.Truncando(rango.minimo, rango.maximo, rango.paso, [&](float hr) {
     aire.pont_hr(0.0F, hr, carta.damePresion());
     MoverAlPrimerPunto(carta, pluma, aire.humedadAbsoluta());
-    recorrido.Acumulando(PRIMERA_T, tFinal, PASO_T, [&](float t) {
+    recorrido.Acumulando(PRIMERA_T, tFinal, PASO_T, Recorrido::PUNTO, [&](float t) {
       aire.pont_hr(t, hr, carta.damePresion());
       carta.lineaA(pluma, t, aire.humedadAbsoluta());
     });

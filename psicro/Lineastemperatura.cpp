@@ -29,7 +29,7 @@ void DibujarTemperaturaSeca(const Psicro &carta, Pluma &pluma) {
     aire.pont_hr(t, SATURADO, carta.damePresion());
     const float ws = aire.humedadAbsoluta();
     MoverALaSaturacion(carta, pluma, t, ws);
-    recorrido.Acumulando(0.0F, ws, wPaso, [&](float w) { carta.lineaA(pluma, t, w); });
+    recorrido.Acumulando(0.0F, ws, wPaso, Recorrido::PUNTO, [&](float w) { carta.lineaA(pluma, t, w); });
   });
 }
 

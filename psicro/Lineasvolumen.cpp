@@ -24,13 +24,14 @@ void DibujarVolumenEspecifico(const Psicro &carta, Pluma &pluma) {
   const float presion = carta.damePresion();
   CorrienteAire aire;
   Recorrido recorrido;
-  recorrido.Acumulando(rango.minimo, rango.maximo + VOLUMEN_DE_MAS, rango.paso, [&](float v) {
-    const double t0 = static_cast<double>(v) * presion / aire::RA_CARTA - aire::T0;
-    const float t = CorteConLaSaturacion(v, presion);
-    aire.pont_w(t, static_cast<float>(humedadSaturacion(t, presion)), presion);
-    carta.moverA(pluma, aire.temperatura(), aire.humedadAbsoluta());
-    carta.lineaA(pluma, t0, 0.0);
-  });
+  recorrido.Acumulando(rango.minimo, rango.maximo + VOLUMEN_DE_MAS, rango.paso, Recorrido::LINEA,
+                       [&](float v) {
+                         const double t0 = static_cast<double>(v) * presion / aire::RA_CARTA - aire::T0;
+                         const float t = CorteConLaSaturacion(v, presion);
+                         aire.pont_w(t, static_cast<float>(humedadSaturacion(t, presion)), presion);
+                         carta.moverA(pluma, aire.temperatura(), aire.humedadAbsoluta());
+                         carta.lineaA(pluma, t0, 0.0);
+                       });
 }
 
 } // namespace tesmo

@@ -2,16 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 namespace tesmo::cli {
 namespace {
 
 TEST(LienzoOrdenes, UnaLineaPorLlamadaConBlancosSencillos) {
-  LienzoOrdenes lienzo;
+  std::ostringstream salida;
+  LienzoOrdenes lienzo(salida);
   lienzo.PonColor(0x0A00FF);
   lienzo.PonGrueso(2);
   lienzo.MoverA(-3, 4);
   lienzo.LineaA(5, -600);
-  EXPECT_EQ(lienzo.Texto(), "color 0x0A00FF\ngrueso 2\nmover -3 4\nlinea 5 -600\n");
+  EXPECT_EQ(salida.str(), "color 0x0A00FF\ngrueso 2\nmover -3 4\nlinea 5 -600\n");
 }
 
 TEST(LienzoSvg, VacioTieneTamanoYFondoBlanco) {

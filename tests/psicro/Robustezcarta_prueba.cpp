@@ -1,3 +1,4 @@
+#include "core/Error.h"
 #include "psicro/Pluma.h"
 #include "psicro/Psicrometrico.h"
 #include "psicro/Recorrido.h"
@@ -22,9 +23,13 @@ class LienzoContador : public Lienzo {
 public:
   void PonColor(ColorBgr /*color*/) override { ++llamadas; }
   void PonGrueso(int /*grueso*/) override { ++llamadas; }
-  void MoverA(int /*x*/, int /*y*/) override { ++llamadas; }
+  void MoverA(int /*x*/, int /*y*/) override {
+    ++llamadas;
+    ++movimientos;
+  }
   void LineaA(int /*x*/, int /*y*/) override { ++llamadas; }
   long llamadas = 0;
+  long movimientos = 0;
 };
 
 long Lineas(Familia familia, const Rango &rango) {
@@ -41,7 +46,7 @@ long Lineas(Familia familia, const Rango &rango) {
 
 std::vector<float> Acumulados(float desde, double hasta, float paso) {
   std::vector<float> valores;
-  Recorrido().Acumulando(desde, hasta, paso, [&](float v) { valores.push_back(v); });
+  Recorrido().Acumulando(desde, hasta, paso, Recorrido::PUNTO, [&](float v) { valores.push_back(v); });
   return valores;
 }
 
@@ -98,9 +103,42 @@ TEST(Recorrido, SinSitioNoDaNingunValor) {
   EXPECT_TRUE(Truncados(NADA, 1.0F, 1.0F).empty());
 }
 
-TEST(Recorrido, NuncaDaMasDeLosPasosQueCabenEnUnaFamilia) {
-  EXPECT_EQ(Acumulados(0.0F, 1e30, 1.0F).size(), static_cast<std::size_t>(Recorrido::MAXIMO));
-  EXPECT_EQ(Truncados(0.0F, 1e30F, 1.0F).size(), static_cast<std::size_t>(Recorrido::MAXIMO));
+TEST(Recorrido, NuncaGastaMasDeSuTopeYAlAgotarseLoDiceUnaVez) {
+  constexpr int TOPE = 1000;
+  Textos registro;
+  AbrirRegistroEn([&](std::string_view texto) { registro.emplace_back(texto); });
+  int puntos = 0;
+  int lineas = 0;
+  Recorrido recorrido(TOPE);
+  recorrido.Acumulando(0.0F, 1e30, 1.0F, Recorrido::PUNTO, [&](float) {
+    ++puntos;
+    if (puntos == TOPE / 2) recorrido.Truncando(0.0F, 1e30F, 1.0F, [&](float) { ++lineas; });
+  });
+  CerrarRegistro();
+  EXPECT_EQ(puntos, TOPE / 2);
+  EXPECT_EQ(lineas, TOPE / 2 / Recorrido::LINEA);
+  EXPECT_EQ(registro.size(), 1U);
+}
+
+TEST(Recorrido, UnaFamiliaSinFinSeQuedaEnSuTopeDeLineas) {
+  EXPECT_EQ(Truncados(0.0F, 1e30F, 1.0F).size(),
+            static_cast<std::size_t>(Recorrido::MAXIMO / Recorrido::LINEA));
+}
+
+TEST(RobustezCarta, LosPasosFinosNoPierdenLineas) {
+  constexpr float PASO_FINO = 1e-5F;
+  Psicro carta;
+  carta.ponVista(0, 0, 0, 0, 1);
+  for (const Familia f : TODAS) carta.ponVisible(f, f == Familia::W);
+  Rango rango = carta.dameRango(Familia::W);
+  rango.paso = PASO_FINO;
+  carta.ponRango(Familia::W, rango);
+  carta.ponRango(Familia::T, {0.0F, 50.0F, 0.1F});
+  LienzoContador lienzo;
+  carta.dibujar(lienzo, 900, 600);
+  long lineas = 0;
+  for (float w = rango.minimo; w <= rango.maximo; w += PASO_FINO) ++lineas;
+  EXPECT_EQ(lienzo.movimientos, lineas);
 }
 
 TEST(RobustezCarta, UnPasoQueNoAvanzaDibujaSoloLaPrimeraLinea) {
