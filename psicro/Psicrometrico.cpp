@@ -65,7 +65,8 @@ float Psicro::x(double t) const {
 
 float Psicro::y(double w) const {
   const double wMax = dameRango(Familia::W).maximo;
-  return static_cast<float>(-static_cast<double>(alto_) / wMax * (w - wMax));
+  const auto humedad = static_cast<double>(static_cast<float>(w)); // wMax también es de 32 bits
+  return static_cast<float>(-static_cast<double>(alto_) / wMax * (humedad - wMax));
 }
 
 float Psicro::t(std::int32_t x) const {

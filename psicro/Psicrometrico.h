@@ -87,7 +87,7 @@ public:
   /// Abscisa [píxeles, sin desplazamiento ni aumento] de la temperatura @p t [°C]. El redondeo a float hace
   /// que x(tMax) sea exactamente el ancho.
   [[nodiscard]] float x(double t) const;
-  /// Ordenada [píxeles, hacia abajo] de la humedad absoluta @p w [kg/kg].
+  /// Ordenada [píxeles, hacia abajo] de la humedad absoluta @p w [kg/kg], redondeada a float: y(wMax) es 0.
   [[nodiscard]] float y(double w) const;
   /// Temperatura [°C] de la abscisa @p x [píxeles].
   [[nodiscard]] float t(std::int32_t x) const;

@@ -60,7 +60,7 @@ TEST(Psicro, LosExtremosDeLaCartaCaenEnLosBordesConCualquierTamano) {
     ASSERT_EQ(carta.x(0.0), 0.0F) << lado;
     ASSERT_EQ(carta.x(50.0), l) << lado;
     ASSERT_EQ(carta.y(0.0), l) << lado;
-    ASSERT_EQ(carta.y(static_cast<double>(0.03F)), 0.0F) << lado;
+    ASSERT_EQ(carta.y(0.03), 0.0F) << lado;
     ASSERT_EQ(carta.t(lado), 50.0F) << lado;
     ASSERT_EQ(carta.t(0), 0.0F) << lado;
     ASSERT_EQ(carta.w(0), 0.03F) << lado;
