@@ -17,7 +17,8 @@ namespace tesmo::cli {
 
 namespace {
 
-constexpr const char *ENTRADA = "-"; ///< la entrada del programa en vez de un fichero
+constexpr const char *ENTRADA = "-";                        ///< la entrada del programa en vez de un fichero
+constexpr const char *FICHERO_DE_LA_ENTRADA = "/dev/stdin"; ///< donde no lo hay, no se compara
 
 struct Datos {
   std::optional<std::string> fichero, registro;
@@ -28,7 +29,9 @@ class Registro {
 public:
   Registro(const std::optional<std::string> &ruta, std::ostream &salida) : salida_(salida) {
     if (!ruta) return;
-    fichero_.open(RutaDesdeTexto(*ruta), std::ios::trunc);
+    // Añadiendo: un «escribir» en este mismo fichero lo vacía, y lo siguiente ha de ir tras lo suyo.
+    std::ofstream(RutaDesdeTexto(*ruta), std::ios::trunc).close();
+    fichero_.open(RutaDesdeTexto(*ruta), std::ios::app);
     if (ruta->empty() || !fichero_.is_open())
       throw Fallo(Estado::FaltaSalida, "--registro: no se puede escribir: " + *ruta);
   }
@@ -93,10 +96,11 @@ std::optional<std::string> LeerGuion(const std::optional<std::string> &ruta) {
 
 /// El registro empieza vaciando su fichero: sobre el guion lo perdería.
 void ExigirDistintos(const Datos &datos) {
-  if (!datos.registro || datos.fichero.value_or(ENTRADA) == ENTRADA) return;
-  std::error_code sinInteres; // el que falte no es el mismo
-  if (std::filesystem::equivalent(RutaDesdeTexto(*datos.fichero), RutaDesdeTexto(*datos.registro),
-                                  sinInteres))
+  if (!datos.registro) return;
+  const std::string lineas = datos.fichero.value_or(ENTRADA);
+  std::error_code sinInteres; // el que falte, o no sea un fichero, no es el mismo
+  if (std::filesystem::equivalent(RutaDesdeTexto(lineas == ENTRADA ? FICHERO_DE_LA_ENTRADA : lineas),
+                                  RutaDesdeTexto(*datos.registro), sinInteres))
     throw Fallo(Estado::UsoIncorrecto,
                 "--registro: «" + *datos.registro + "» es el mismo fichero que las líneas; dé otro");
 }

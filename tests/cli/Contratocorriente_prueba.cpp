@@ -84,6 +84,27 @@ TEST_F(OrdenCorriente, ElRegistroNoPuedeSerElPropioGuion) {
   }
 }
 
+TEST_F(OrdenCorriente, ElRegistroNoPuedeSerElFicheroQueEntraPorLaEntrada) {
+  const std::string lineas = "a pont_w 12 0\na dame t\n";
+  const std::string guion = raiz_.Escribir("g.txt", lineas);
+  const Ejecucion e = Orden({"corriente", "-", "--registro", guion}, {}, guion);
+  EXPECT_EQ(e.estado, 2);
+  EXPECT_NE(e.error.find(guion), std::string::npos) << e.error;
+  EXPECT_EQ(Contenido(guion), lineas);
+}
+
+TEST_F(OrdenCorriente, EscribirEnElPropioRegistroLoVaciaYLoSiguienteVaDetras) {
+  const std::string aparte = (raiz_ / "aparte.txt").string();
+  const std::string registro = (raiz_ / "registro.txt").string();
+  const std::string guion =
+      raiz_.Escribir("g.txt", "a pont_w 12 0\na dame t\na escribir \"" + aparte + "\"\na escribir \"" +
+                                  registro + "\"\na dame p\na dame t\n");
+  const Ejecucion e = Orden({"corriente", guion, "--registro", registro});
+  EXPECT_EQ(e.estado, 0) << e.error;
+  ASSERT_NE(Contenido(aparte), "");
+  EXPECT_EQ(Contenido(registro), Contenido(aparte) + "101325.000000\n12.000000\n");
+}
+
 TEST_F(OrdenCorriente, ElRegistroRecibeLosTextosYSigueTrasEscribir) {
   const std::string registro = raiz_.Escribir("registro.txt", "lo de antes\n");
   const std::string guion =
