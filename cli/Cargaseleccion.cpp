@@ -74,8 +74,15 @@ void AvisarSiEsCorto(const PeticionSeleccion &peticion, const Programa &programa
 
 } // namespace
 
+float AltitudUsada(float pedida, Contexto &contexto) {
+  if (AltitudCreible(pedida)) return pedida;
+  Avisar(contexto, "--altitud: se admite de -500 a 9000 m; con otra la presión es la del nivel del mar");
+  return 0.0F;
+}
+
 void Cargar(const PeticionSeleccion &peticion, Contexto &contexto, std::optional<Programa> &programa) {
   IniciarBase(peticion.base, contexto);
+  if (peticion.altitud) static_cast<void>(AltitudUsada(*peticion.altitud, contexto));
   if (peticion.fichero.empty()) {
     programa.emplace();
   } else {

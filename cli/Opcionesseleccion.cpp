@@ -19,7 +19,7 @@ std::string TextoDeCasilla(const std::optional<std::string> &texto, const char *
   return *texto;
 }
 
-/// Un real optativo; los límites son los de los motores, que acotan y lo anotan.
+/// Un real optativo, sin límites: los de la altitud se miran al usarla.
 std::optional<float> LeerReal(const std::optional<std::string> &texto, const char *opcion) {
   if (!texto) return std::nullopt;
   return static_cast<float>(LeerNumero(*texto, opcion));
@@ -61,7 +61,7 @@ void AnadirSeleccion(CLI::App &orden, OpcionesSeleccion &opciones) {
   AnadirValor(orden, "--albedo", opciones.albedo, "FRACCION", "Reflectancia del suelo, 0 a 1 (0.2)");
   AnadirValor(orden, "--presion", opciones.presion, "PA", "Presión atmosférica");
   AnadirValor(orden, "--altitud", opciones.altitud, "M",
-              "Altitud que fija la presión (la que trae el fichero)");
+              "Altitud que fija la presión, -500 a 9000 (la que trae el fichero)");
   AnadirValor(orden, "--horizonte", opciones.horizonte, "FICHERO", "Perfil de horizonte");
   AnadirBase(orden, opciones.base);
 }

@@ -59,6 +59,10 @@ void IniciarBase(const std::string &base, Contexto &contexto);
 /// Abre el registro de diagnósticos en @p registro si se da. Lanza Fallo (falta una salida) si no se puede.
 void IniciarRegistro(const std::optional<std::string> &registro);
 
+/// La altitud [m] que fija la presión si se pide @p pedida: la que no se cree (AltitudCreible) se avisa y
+/// vale 0, haya o no un fichero con la suya.
+[[nodiscard]] float AltitudUsada(float pedida, Contexto &contexto);
+
 /// Carga en @p programa lo pedido y deja al día las series derivadas. Lanza Fallo si falta algo; avisa si el
 /// fichero es corto.
 void Cargar(const PeticionSeleccion &peticion, Contexto &contexto, std::optional<Programa> &programa);

@@ -74,7 +74,7 @@ std::vector<EstadoHorario> Preparar(const Datos &datos, Contexto &contexto, Psic
     ExigirDatos(datos);
     const PeticionPresion pedida = InterpretarPresion(datos.seleccion);
     if (pedida.presion) carta.ponPresion(*pedida.presion);
-    if (pedida.altitud) carta.ponAltitud(*pedida.altitud);
+    if (pedida.altitud) carta.ponAltitud(AltitudUsada(*pedida.altitud, contexto));
     IniciarRegistro(datos.registro);
     return {};
   }

@@ -41,7 +41,7 @@ TEST_F(OrdenCarta, LosTrazosSonColorMoverYLineaConLosColoresPorSuOrden) {
 TEST_F(OrdenCarta, PuntosHechosAMano) {
   const Lista lineas = Trazos({});
   EXPECT_TRUE(Esta(lineas, "linea 90 600"));   // 5 ºC: 5·900/50, en la humedad 0
-  EXPECT_TRUE(Esta(lineas, "mover 0 600"));    // entalpía 0: aire seco a 0 ºC
+  EXPECT_TRUE(Esta(lineas, "mover 0 600"));    // humedad relativa 0: aire seco a 0 ºC
   EXPECT_TRUE(Esta(lineas, "linea -214 600")); // 0,74 m³/kg: 0,74·101325/287 − 273,15 = −11,895 ºC
 }
 
@@ -85,6 +85,28 @@ TEST_F(OrdenCarta, LaAltitudYLaPresionDicenLoMismo) {
   EXPECT_NE(Trazos({"--altitud", "1000"}), Trazos({}));
   // A 90000 Pa el extremo seco de 0,74 m³/kg está a 0,74·90000/287 − 273,15 = −41,094 ºC.
   EXPECT_TRUE(Esta(Trazos({"--presion", "90000"}), "linea -739 600"));
+}
+
+TEST_F(OrdenCarta, LaAltitudQueNoSeCreeSeAvisaYVale0ConNubeYSinElla) {
+  const auto con = [this](const char *altitud, bool nube) {
+    Lista opciones{"carta", "--ordenes", "--altitud", altitud};
+    if (nube) opciones.insert(opciones.end(), {"--localidad", "Rota", "--hasta", "1/1/24"});
+    return nube ? ConBase(opciones) : Orden(opciones);
+  };
+  for (const bool nube : {false, true}) {
+    const std::string aNivelDelMar = con("0", nube).salida;
+    for (const char *altitud : {"10000", "-501"}) {
+      const Ejecucion e = con(altitud, nube);
+      EXPECT_EQ(e.estado, 0);
+      EXPECT_NE(e.error.find("Aviso: --altitud"), std::string::npos) << e.error;
+      EXPECT_EQ(e.salida, aNivelDelMar) << altitud;
+    }
+    for (const char *altitud : {"9000", "-500"}) {
+      const Ejecucion e = con(altitud, nube);
+      EXPECT_EQ(e.error.find("--altitud"), std::string::npos) << e.error;
+      EXPECT_NE(e.salida, aNivelDelMar) << altitud;
+    }
+  }
 }
 
 TEST_F(OrdenCarta, LaNubeMarcaLasHorasPedidas) {

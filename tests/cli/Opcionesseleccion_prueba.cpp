@@ -51,7 +51,7 @@ TEST(SeleccionDeOrden, PresionOAltitudYSoloUna) {
   EXPECT_EQ(Interpretar(opciones).altitud, 650.0F);
 }
 
-TEST(SeleccionDeOrden, PresionYAltitudSonNumerosYLosMotoresLosAcotan) {
+TEST(SeleccionDeOrden, PresionYAltitudSonNumerosSinMasLimites) {
   OpcionesSeleccion opciones = DeLocalidad();
   opciones.presion = "x";
   EXPECT_EQ(EstadoDe(opciones), Estado::UsoIncorrecto);
