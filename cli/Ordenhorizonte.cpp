@@ -76,6 +76,8 @@ void Convertir(const Datos &datos, Contexto &contexto) {
   if (datos.reflejar) perfil = ReflejarPerfil(perfil);
   if (cuartos != 0) perfil = GirarPerfil(perfil, cuartos);
   if (datos.cerrar) perfil = CerrarVuelta(perfil);
+  std::string fallo;
+  if (!CabeEnFormato(perfil, formato, fallo)) throw Fallo(Estado::FaltaSalida, *datos.salida + ": " + fallo);
   EscribirSalida(salida, TextoDeHorizonte(perfil, formato));
 }
 

@@ -10,8 +10,8 @@ HorizonteLeido LeerHorizonteDado(const std::string &ruta, const std::string &dad
                 "no se puede leer el perfil de horizonte: " + DescribirFallo(dada, fallo));
   }
   if (leido->origenSupuesto) {
-    Avisar(contexto, dada + ": no dice desde dónde cuenta los acimutes y se han supuesto por sus valores; "
-                            "si no es así, «horizonte convertir» los gira y los refleja");
+    Avisar(contexto, dada + ": " + std::string(QueSeSupuso(*leido)) +
+                         "; si no es así, «horizonte convertir» los gira y los refleja");
   }
   return *std::move(leido);
 }

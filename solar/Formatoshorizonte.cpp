@@ -4,12 +4,15 @@
 #include "core/Ficheros.h"
 #include "core/Formato.h"
 #include "core/Lectornumeros.h"
+#include "solar/Edicionhorizonte.h"
 #include "solar/Giroshorizonte.h"
 #include "solar/Listadohorizonte.h"
 #include "solar/Perfilcompleto.h"
+#include "solar/Puntoshorizonte.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace tesmo {
 
@@ -46,6 +49,18 @@ bool EsCabeceraNativa(std::string_view linea) {
   return !linea.empty() && lector.Final();
 }
 
+/// Un entero y justo ese número de parejas: sus fines de línea pueden estar en cualquier sitio.
+bool EsNativoExacto(std::string_view texto) {
+  LectorNumeros lector(texto);
+  const std::optional<int> puntos = lector.Entero();
+  if (!puntos || *puntos > PerfilHorizonte::PUNTOS_MAXIMOS) return false;
+  for (int i = 0; i < *puntos; ++i) {
+    if (!lector.Real() || !lector.Literal(',') || !lector.Real()) return false;
+  }
+  lector.SaltarBlancos();
+  return *puntos > 0 && lector.Final();
+}
+
 /// El formato nativo no exige fines de línea: "2 -10, 5 20, 8" también lo es.
 bool EsNativoSeguido(std::string_view linea) {
   LectorNumeros lector(linea);
@@ -80,6 +95,7 @@ bool LeerTexto(std::string_view texto, HorizonteLeido &leido, FalloLectura &fall
   }
   const std::string_view primera = PrimeraLinea(texto).texto;
   if (EsCabeceraNativa(primera) && !EsListaDeAlturas(texto)) return LeerNativo(texto, leido, fallo);
+  if (EsNativoExacto(texto)) return LeerNativo(texto, leido, fallo);
   if (LeerDeOtroPrograma(texto, leido, fallo)) return true;
   return EsNativoSeguido(primera) && LeerNativo(texto, leido, fallo);
 }
@@ -129,8 +145,37 @@ std::optional<HorizonteLeido> LeerHorizonteDeFichero(const std::string &ruta, Fa
   return std::nullopt;
 }
 
+std::string_view QueSeSupuso(const HorizonteLeido &leido) {
+  switch (leido.formato) {
+  case FormatoHorizonte::Alturas:
+    return "trae alturas sueltas y se ha supuesto que empiezan en el norte y giran hacia el este";
+  case FormatoHorizonte::Pvgis:
+    return "no dice desde dónde cuenta los acimutes y se ha supuesto que desde el sur, como PVGIS";
+  default:
+    return "no dice desde dónde cuenta los acimutes y se han supuesto por sus valores";
+  }
+}
+
 PerfilHorizonte PerfilParaUsar(const HorizonteLeido &leido) {
   return EsPropio(leido.formato) ? leido.perfil : CerrarVuelta(leido.perfil);
+}
+
+bool CabeEnFormato(const PerfilHorizonte &perfil, FormatoHorizonte formato, std::string &fallo) {
+  if (EsPropio(formato)) return true;
+  const std::string nombre = "el formato " + std::string(DatosDe(formato).nombre) + " no admite ";
+  if (perfil.Tamano() == 0 && formato != FormatoHorizonte::Alturas) {
+    fallo = nombre + "un perfil sin puntos";
+    return false;
+  }
+  for (const PuntoHorizonte &punto : PuntosDe(perfil)) {
+    if (std::fabs(punto.acimut) <= EdicionHorizonte::ACIMUT_MAXIMO &&
+        std::fabs(punto.altura) <= EdicionHorizonte::ALTURA_MAXIMA)
+      continue;
+    fallo = nombre + "el punto de acimut " + FormatoGeneral15(static_cast<double>(punto.acimut), '.') +
+            " y altura " + FormatoGeneral15(static_cast<double>(punto.altura), '.');
+    return false;
+  }
+  return true;
 }
 
 std::string TextoDeHorizonte(const PerfilHorizonte &perfil, FormatoHorizonte formato) {

@@ -53,9 +53,15 @@ struct HorizonteLeido {
 /// Lo mismo desde un fichero; el fallo de uno que no se puede abrir no tiene línea.
 [[nodiscard]] std::optional<HorizonteLeido> LeerHorizonteDeFichero(const std::string &ruta,
                                                                    FalloLectura &fallo);
+/// Qué se ha supuesto de un perfil con origenSupuesto, sin mayúscula ni punto.
+[[nodiscard]] std::string_view QueSeSupuso(const HorizonteLeido &leido);
 /// El perfil que hay que usar: el leído, y con la vuelta cerrada al norte si viene de otro programa.
 [[nodiscard]] PerfilHorizonte PerfilParaUsar(const HorizonteLeido &leido);
 
+/// ¿Se puede escribir @p perfil en @p formato y volverlo a leer? Si no, @p fallo dice por qué. En los dos
+/// propios cabe todo; los demás no admiten puntos de más de 180° de acimut o de 100° de altura, y los que van
+/// punto a punto tampoco un perfil sin ninguno.
+[[nodiscard]] bool CabeEnFormato(const PerfilHorizonte &perfil, FormatoHorizonte formato, std::string &fallo);
 /// El fichero de @p perfil en @p formato. En el nativo van aquí todos los puntos; el de siempre, que sólo
 /// lleva los pares, es TextoDePerfil.
 [[nodiscard]] std::string TextoDeHorizonte(const PerfilHorizonte &perfil, FormatoHorizonte formato);

@@ -15,7 +15,7 @@ namespace {
 
 constexpr double VUELTA = 360.0;
 constexpr double MEDIA_VUELTA = 180.0;
-constexpr double ALTURA_MAXIMA = 90.0;
+constexpr double ALTURA_MAXIMA = 100.0;    ///< hasta donde llega el programa
 constexpr std::size_t ALTURAS_MINIMAS = 3; ///< con menos no hay quien distinga una lista de otra cosa
 constexpr std::size_t COLUMNAS_DE_TABLA = 2;
 constexpr std::size_t COLUMNAS_DE_PVGIS = 6; ///< acimut, altura y dos parejas del sol
@@ -35,7 +35,7 @@ bool FilaEnLimites(const FilaNumerica &fila, const Columnas &columnas, FalloLect
   if (std::fabs(acimut) > VUELTA) {
     fallo = {fila.linea, "el acimut " + Numero(acimut) + " no está entre -360 y 360"};
   } else if (std::fabs(altura) > ALTURA_MAXIMA) {
-    fallo = {fila.linea, "la altura " + Numero(altura) + " no está entre -90 y 90"};
+    fallo = {fila.linea, "la altura " + Numero(altura) + " no está entre -100 y 100"};
   } else {
     return true;
   }
@@ -100,8 +100,8 @@ bool LeerTabla(const TablaNumerica &tabla, ListadoHorizonte &listado, FalloLectu
   if (!BuscarColumnas(tabla, columnas, fallo)) return false;
   listado.clase = columnas.clase;
   std::optional<OrigenAcimut> origen = OrigenEnTextos(tabla.textos);
-  if (!origen && columnas.clase == ClaseListado::Pvgis) origen = OrigenAcimut::Sur;
   listado.origenSupuesto = !origen;
+  if (!origen && columnas.clase == ClaseListado::Pvgis) origen = OrigenAcimut::Sur;
   if (!origen) origen = OrigenPorValores(tabla, columnas.acimut);
   return PonPuntos(tabla.filas, columnas, *origen, listado.perfil, fallo);
 }
@@ -138,6 +138,7 @@ bool LeerListado(std::string_view texto, ListadoHorizonte &listado, FalloLectura
   const bool alturas = SonAlturas(tabla);
   if (alturas) {
     leido.clase = ClaseListado::Alturas;
+    leido.origenSupuesto = true;
     tabla.filas = AlturasConAcimut(tabla);
   }
   if (tabla.filas.size() > static_cast<std::size_t>(PerfilHorizonte::PUNTOS_MAXIMOS)) {

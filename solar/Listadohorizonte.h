@@ -18,7 +18,7 @@ enum class ClaseListado {
 /// Un listado ya llevado a acimutes desde el sur, oeste positivo, y ordenado por ellos.
 struct ListadoHorizonte {
   ClaseListado clase = ClaseListado::Tabla;
-  /// El fichero no decía desde dónde cuenta los acimutes: se dedujo de sus valores.
+  /// El fichero no decía desde dónde cuenta los acimutes: se dedujo de sus valores o de su forma.
   bool origenSupuesto = false;
   PerfilHorizonte perfil;
 };
@@ -26,7 +26,7 @@ struct ListadoHorizonte {
 /// Lee un listado de horizonte de @p texto (UTF-8). De dónde se cuentan los acimutes lo dicen las líneas de
 /// texto (norte o sur, en español o en inglés, o los títulos de PVGIS); si no lo dicen, un acimut negativo
 /// es de un listado desde el sur y uno mayor de 180, desde el norte. Sin línea de texto, seis columnas son la
-/// salida básica de PVGIS. Los acimutes van de −360 a 360 y las alturas de −90 a 90.
+/// salida básica de PVGIS. Los acimutes van de −360 a 360 y las alturas de −100 a 100.
 /// Falso y @p fallo si no es un listado de horizonte.
 [[nodiscard]] bool LeerListado(std::string_view texto, ListadoHorizonte &listado, FalloLectura &fallo);
 

@@ -86,6 +86,24 @@ TEST_F(OrdenHorizonte, ConvertirACadaFormatoPorNombre) {
   EXPECT_TRUE(Orden({"horizonte", "leer", "a.txt"}).salida.starts_with("n\t36\n-180\t0\n"));
 }
 
+TEST_F(OrdenHorizonte, ConvertirAUnFormatoEnQueNoCabeEstado4YNadaEscrito) {
+  for (const char *perfil : {"1\n200, 5\n", "1\n0, 101\n", "0\n"}) {
+    const std::string entrada = raiz_.Escribir("perfil.txt", perfil);
+    for (const char *formato : {"pvgis", "tabla"}) {
+      const Ejecucion e = Orden({"horizonte", "convertir", entrada, "-o", "x", "--a", formato});
+      EXPECT_EQ(e.estado, 4) << perfil;
+      EXPECT_NE(e.error.find(formato), std::string::npos) << e.error;
+      EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(trabajo_) / "x"));
+    }
+  }
+}
+
+TEST_F(OrdenHorizonte, LasAlturasSueltasAvisanDeLoQueSeSupone) {
+  const Ejecucion e = Orden({"horizonte", "leer", raiz_.Escribir("alturas.csv", "0,10,20,30\n")});
+  EXPECT_EQ(e.estado, 0);
+  EXPECT_NE(e.error.find("empiezan en el norte"), std::string::npos) << e.error;
+}
+
 TEST_F(OrdenHorizonte, ElFormatoPorLaExtension) {
   Hacer({"horizonte", "convertir", cinco_, "-o", "x.pvgis"});
   EXPECT_TRUE(EnTrabajo("x.pvgis").starts_with("A\tH_hor\n"));

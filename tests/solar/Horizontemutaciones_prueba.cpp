@@ -68,7 +68,7 @@ void Mutar(std::string &texto, std::mt19937 &azar) {
 void ComprobarAjeno(const PerfilHorizonte &perfil, const std::string &texto) {
   for (std::size_t i = 0; i < perfil.X().size(); ++i) {
     ASSERT_LE(std::fabs(perfil.X()[i]), 180.0F) << texto;
-    ASSERT_LE(std::fabs(perfil.Y()[i]), 90.0F) << texto;
+    ASSERT_LE(std::fabs(perfil.Y()[i]), 100.0F) << texto;
     ASSERT_TRUE(i == 0 || perfil.X()[i - 1] <= perfil.X()[i]) << texto;
   }
 }

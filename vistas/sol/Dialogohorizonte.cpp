@@ -1,8 +1,8 @@
 #include "vistas/sol/Dialogohorizonte.h"
 
 #include "solar/Giroshorizonte.h"
-#include "vistas/sol/Graficosolar.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/sol/Graficosolar.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -22,11 +22,9 @@ constexpr int GRADOS_DE_UN_CUARTO = 90;
 constexpr int DIA_DE_REFERENCIA = 21;
 
 QString Explicacion(const HorizonteLeido &leido, const QString &fichero) {
-  const QString origen =
-      leido.origenSupuesto
-          ? QObject::tr(
-                "El fichero no dice desde dónde cuenta los acimutes: se han supuesto por sus valores.")
-          : QObject::tr("El fichero dice desde dónde cuenta los acimutes.");
+  const QString origen = leido.origenSupuesto
+                             ? QObject::tr("El fichero %1.").arg(Texto(QueSeSupuso(leido)))
+                             : QObject::tr("El fichero dice desde dónde cuenta los acimutes.");
   return QObject::tr("%1: %2 puntos. %3 Compare el perfil con el paisaje: si no coincide, gírelo o "
                      "refléjelo.")
       .arg(fichero, QString::number(leido.perfil.Tamano()), origen);
