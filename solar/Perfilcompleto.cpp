@@ -31,6 +31,10 @@ std::string_view SinComillas(std::string_view campo) {
 }
 
 bool LeerReal(std::string_view campo, float &valor) {
+  if (campo.size() > 1 && campo.front() == '"' && campo.back() == '"') {
+    campo = SinBlancos(campo.substr(1, campo.size() - 2));
+  }
+  if (campo.size() > 1 && campo.front() == '+' && campo[1] != '-') campo.remove_prefix(1);
   std::string texto(campo);
   std::replace(texto.begin(), texto.end(), ',', '.');
   const char *const fin = texto.data() + texto.size();
@@ -38,8 +42,10 @@ bool LeerReal(std::string_view campo, float &valor) {
   return leido.ec == std::errc() && leido.ptr == fin;
 }
 
-bool LeerPunto(std::string_view linea, PuntoHorizonte &punto) {
-  const char separador = linea.find(';') != std::string_view::npos ? ';' : '\t';
+/// Con punto y coma o tabulador; con @p deComas, si no los hay, con coma.
+bool LeerPunto(std::string_view linea, bool deComas, PuntoHorizonte &punto) {
+  const bool deTabuladores = !deComas || linea.find('\t') != std::string_view::npos;
+  const char separador = linea.find(';') != std::string_view::npos ? ';' : deTabuladores ? '\t' : ',';
   const std::vector<std::string_view> campos = PartirCampos(linea, separador);
   return campos.size() == 2 && LeerReal(campos[0], punto.acimut) && LeerReal(campos[1], punto.altura);
 }
@@ -57,12 +63,14 @@ bool EsPerfilCompleto(std::string_view texto) {
 bool LeerPerfilCompleto(std::string_view texto, PerfilHorizonte &perfil, FalloLectura &fallo) {
   PuntosHorizonte puntos;
   bool titulos = true;
+  bool deComas = false; // los títulos dicen si la coma separa o es la de los decimales
   int numero = 0;
   for (const std::string_view linea : PartirLineas(texto)) {
     ++numero;
     if (SinBlancos(linea).empty()) continue;
     PuntoHorizonte punto{};
-    if (!titulos && !LeerPunto(SinBlancos(linea), punto)) {
+    if (titulos) deComas = linea.find_first_of(";\t") == std::string_view::npos;
+    if (!titulos && !LeerPunto(SinBlancos(linea), deComas, punto)) {
       fallo = {numero, "se esperaban el acimut y la altura de un punto, separados por punto y coma"};
       return false;
     }

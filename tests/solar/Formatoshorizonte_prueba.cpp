@@ -50,7 +50,11 @@ TEST(FormatosHorizonte, ReconoceElNativoYConservaSuOrden) {
   Espera("0\n", NATIVO, {}, {});
   Espera("\n  2\n1, 2\n", NATIVO, {1, 0}, {2, 0});
   Espera("2 -10, 5 20, 8\n", NATIVO, {-10, 20}, {5, 8}); // los fines de línea no cuentan
-  Espera("2\n7, x\n", NATIVO, {7, 0}, {0, 0});           // lo que no es número detiene las parejas
+  Espera("2 -10, 5\n20, 8\n", NATIVO, {-10, 20}, {5, 8});
+  Espera("2 -10,5 20,8\n", NATIVO, {-10, 20}, {5, 8});
+  Espera("2 -10,5\n20,8\n", NATIVO, {-10, 20}, {5, 8});
+  Espera("0 20,5\n45 30,2\n", TABLA, {0, 45}, {20.5F, 30.2F}); // no son cero parejas
+  Espera("2\n7, x\n", NATIVO, {7, 0}, {0, 0});                 // lo que no es número detiene las parejas
 }
 
 TEST(FormatosHorizonte, UnNumeroDePuntosImposibleSeDice) {
@@ -83,6 +87,8 @@ TEST(FormatosHorizonte, ElCompletoRetocadoPorUnaHojaDeCalculo) {
   const std::string titulos = "Perfil de horizonte: acimut (0 al sur, oeste positivo) en grados";
   Espera("\xEF\xBB\xBF" + titulos + ";altura en grados\r\n-60,5;10\r\n0;7,25\r\n\r\n", COMPLETO, {-60.5F, 0},
          {10, 7.25F});
+  Espera("\"" + titulos + "\",altura en grados\n-60.5,10\n0,7.25\n", COMPLETO, {-60.5F, 0}, {10, 7.25F});
+  Espera(titulos + ";altura en grados\n\"-60,5\";\" +10 \"\n", COMPLETO, {-60.5F}, {10});
   Espera("\"" + titulos + "\"\t\"altura en grados\"\n-60,5\t10\n", COMPLETO, {-60.5F}, {10});
 }
 
@@ -110,7 +116,7 @@ TEST(FormatosHorizonte, ListadoDePvgisConTitulosYLeyenda) {
 TEST(FormatosHorizonte, ListadoDePvgisSinTitulos) {
   Espera("-180.0\t3.1\t-180.0\t0.0\t-180.0\t0.0\n0.0\t8.4\t0.0\t29.7\t0.0\t76.6\n", PVGIS, {-180, 0},
          {3.1F, 8.4F});
-  EXPECT_FALSE(Leer("-180 3 0 0 0 0\n0 8 0 0 0 0\n").origenSupuesto);
+  EXPECT_TRUE(Leer("-180 3 0 0 0 0\n0 8 0 0 0 0\n").origenSupuesto); // nadie ha dicho que sea de PVGIS
 }
 
 TEST(FormatosHorizonte, ListadoDePvgisConElNorteEnLaCabecera) {
@@ -181,6 +187,7 @@ TEST(FormatosHorizonte, AlturasEquidistantesDesdeElNorte) {
   const HorizonteLeido ocho = Leer("0,10,20,30,40,15,25,5\n");
   EXPECT_EQ(ocho.perfil.X(), (Numeros{-180, -135, -90, -45, 0, 45, 90, 135}));
   EXPECT_EQ(ocho.perfil.Y(), (Numeros{0, 10, 20, 30, 40, 15, 25, 5}));
+  EXPECT_TRUE(ocho.origenSupuesto);
 }
 
 TEST(FormatosHorizonte, LosFallosDicenLaLineaYElPorque) {
@@ -194,7 +201,7 @@ TEST(FormatosHorizonte, LosFallosDicenLaLineaYElPorque) {
             "h.csv, línea 2: hay texto entre dos líneas de números");
   EXPECT_EQ(Fallo("0;10\n45\n"), "h.csv, línea 2: hay 1 números y en las líneas anteriores 2");
   EXPECT_EQ(Fallo("0;10\n400;5\n"), "h.csv, línea 2: el acimut 400 no está entre -360 y 360");
-  EXPECT_EQ(Fallo("0;10\n40;90.5\n"), "h.csv, línea 2: la altura 90.5 no está entre -90 y 90");
+  EXPECT_EQ(Fallo("0;10\n40;100.5\n"), "h.csv, línea 2: la altura 100.5 no está entre -100 y 100");
   EXPECT_EQ(Fallo("1 2 3\n4 5 6\n"), "h.csv, línea 1: se esperaban dos columnas, acimut y altura, y hay 3");
   EXPECT_EQ(Fallo("0;inf\n"), "h.csv, línea 1: «inf» no es un número");
   EXPECT_EQ(Fallo("0 10\n45 alta\n"),
@@ -235,6 +242,39 @@ TEST(FormatosHorizonte, LoQueSeEscribeSeLeeIgual) {
     EXPECT_EQ(DatosDe(leido.formato).nombre, DatosDe(formato).nombre);
     EXPECT_EQ(leido.perfil, perfil) << DatosDe(formato).nombre;
     EXPECT_FALSE(leido.origenSupuesto);
+  }
+}
+
+TEST(FormatosHorizonte, LasAlturasDeMasDeNoventaVanYVuelven) {
+  const PerfilHorizonte perfil = Perfil({-180, -90, 0, 90, 180}, {90.25F, 95, 100, 92.5F, 90.25F});
+  for (const FormatoHorizonte formato : {NATIVO, COMPLETO, PVGIS, TABLA}) {
+    std::string fallo;
+    EXPECT_TRUE(CabeEnFormato(perfil, formato, fallo)) << fallo;
+    EXPECT_EQ(Leer(TextoDeHorizonte(perfil, formato)).perfil, perfil) << DatosDe(formato).nombre;
+  }
+  EXPECT_EQ(Leer(TextoDeHorizonte(perfil, ALTURAS)).perfil.Y()[18], 100.0F);
+}
+
+TEST(FormatosHorizonte, LoQueUnFormatoNoAdmiteSeDiceYSoloCabeEnLosPropios) {
+  constexpr float NADA = std::numeric_limits<float>::quiet_NaN();
+  for (const PerfilHorizonte &perfil : {Perfil({0, 200}, {3, 5}), Perfil({0, -180.5F}, {3, 5}),
+                                        Perfil({0, 10}, {3, 100.5F}), Perfil({NADA}, {0})}) {
+    for (const FormatoHorizonte formato : {PVGIS, TABLA, ALTURAS}) {
+      std::string fallo;
+      EXPECT_FALSE(CabeEnFormato(perfil, formato, fallo));
+      EXPECT_NE(fallo.find("el punto de acimut"), std::string::npos) << fallo;
+    }
+    for (const FormatoHorizonte formato : {NATIVO, COMPLETO}) {
+      std::string fallo;
+      EXPECT_TRUE(CabeEnFormato(perfil, formato, fallo));
+    }
+  }
+  for (const FormatoHorizonte formato : {NATIVO, COMPLETO, PVGIS, TABLA, ALTURAS}) {
+    std::string fallo;
+    const bool cabe = CabeEnFormato({}, formato, fallo);
+    EXPECT_EQ(cabe, formato != PVGIS && formato != TABLA) << DatosDe(formato).nombre;
+    if (!cabe) continue;
+    EXPECT_EQ(Leer(TextoDeHorizonte({}, formato)).perfil.Tamano(), formato == ALTURAS ? 36 : 0);
   }
 }
 
