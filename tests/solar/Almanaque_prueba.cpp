@@ -119,6 +119,50 @@ TEST(Almanaque, SalidaYPuestaEnTodaLatitudConSolDiario) {
   }
 }
 
+// Con la declinación del propio modelo sólo queda el redondeo a 32 bits del coseno, del ángulo y de la hora.
+TEST(Almanaque, SalidaYPuestaDePoloAPoloConLaDeclinacionDelModelo) {
+  int conSolDiario = 0;
+  int polares = 0;
+  for (const float latitud : prueba::Rejilla(-89.0F, 89.0F, 0.5F)) {
+    ParaCadaDia(1, [&](int mes, int dia, double) {
+      const long double delta = DeclinacionSolar(mes, dia);
+      const SalidaPuesta sol = HorasDeSol(latitud, delta);
+      const double coseno = -std::tan(latitud * RADIANES) * std::tan(static_cast<double>(delta) * RADIANES);
+      if (std::fabs(std::fabs(coseno) - 1.0) < 1e-6) return; // ahí decide el redondeo
+      if (std::fabs(coseno) > 1.0) {
+        ASSERT_EQ(sol.salida, -1.0F) << latitud << ' ' << mes << '/' << dia;
+        ASSERT_EQ(sol.puesta, coseno > 0.0 ? -1.0F : 25.0F) << latitud << ' ' << mes << '/' << dia;
+        ++polares;
+        return;
+      }
+      const double omega = std::acos(coseno);
+      const double margen = 2.5e-6 + 1.5e-7 / std::sin(omega); // [h]
+      const double medioDia = omega * 12.0 / std::numbers::pi;
+      ASSERT_NEAR(sol.salida, 12.0 - medioDia, margen) << latitud << ' ' << mes << '/' << dia;
+      ASSERT_NEAR(sol.puesta, 12.0 + medioDia, margen) << latitud << ' ' << mes << '/' << dia;
+      ++conSolDiario;
+    });
+  }
+  EXPECT_GT(conSolDiario, 100'000);
+  EXPECT_GT(polares, 10'000);
+}
+
+// El círculo polar del modelo: 90° menos su declinación de los solsticios, 23,45°.
+TEST(Almanaque, ElSolDeMedianocheEmpiezaEnElCirculoPolar) {
+  constexpr float FUERA = 66.54F;
+  constexpr float DENTRO = 66.56F;
+  for (const float signo : {1.0F, -1.0F}) {
+    const SalidaPuesta largo = HorasDeSol(signo * FUERA, DeclinacionSolar(signo > 0.0F ? 6 : 12, 21));
+    const SalidaPuesta corto = HorasDeSol(signo * FUERA, DeclinacionSolar(signo > 0.0F ? 12 : 6, 21));
+    EXPECT_GT(largo.puesta - largo.salida, 23.0F);
+    EXPECT_GE(largo.salida, 0.0F);
+    EXPECT_LT(corto.puesta - corto.salida, 1.0F);
+    EXPECT_GT(corto.salida, 11.0F);
+    EXPECT_EQ(HorasDeSol(signo * DENTRO, DeclinacionSolar(signo > 0.0F ? 6 : 12, 21)).puesta, 25.0F);
+    EXPECT_EQ(HorasDeSol(signo * DENTRO, DeclinacionSolar(signo > 0.0F ? 12 : 6, 21)).puesta, -1.0F);
+  }
+}
+
 // Con la declinación del propio modelo, el vector sólo puede diferir del triángulo de posición en el
 // redondeo.
 TEST(Almanaque, ElVectorEsElDelTrianguloDePosicion) {
