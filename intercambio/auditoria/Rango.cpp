@@ -42,20 +42,24 @@ constexpr std::array<LimiteDeCampo, 17> LIMITES{{
 }};
 static_assert(LIMITES.size() == NUMERO_CAMPOS);
 
+/// Lo que un instrumento descentrado se sale de los límites, en tanto por uno de lo que va de uno a otro; con
+/// más, una sola hora basta para no fiarse del fichero.
+constexpr double HOLGURA = 0.05;
+
 /// Horas cuyo valor se sale de los límites, y el que más se sale.
 struct Fuera {
   HorasMalas horas;
   double peor = 0.0;
+  double exceso = 0.0; ///< lo que el peor se sale
 };
 Fuera FueraDe(const std::vector<double> &valores, const LimiteDeCampo &limite) {
   Fuera fuera;
-  double exceso = 0.0;
   for (std::size_t i = 0; i < valores.size(); ++i) {
     const double sale = std::max(limite.minimo - valores[i], valores[i] - limite.maximo);
     if (!(sale > 0.0)) continue; // lo ausente no se sale
     fuera.horas.push_back(i);
-    if (sale <= exceso) continue;
-    exceso = sale;
+    if (sale <= fuera.exceso) continue;
+    fuera.exceso = sale;
     fuera.peor = valores[i];
   }
   return fuera;
@@ -69,12 +73,15 @@ Hallazgo ImposiblesDeLaLectura(const MateriaAuditoria &materia) {
 } // namespace
 
 Hallazgo MirarRango(const MateriaAuditoria &materia) {
+  constexpr std::size_t HORAS_GRAVES = 24;
   HorasMalas malas;
+  bool disparate = false;
   std::string texto;
   for (const LimiteDeCampo &limite : LIMITES) {
     const Fuera fuera = FueraDe(Valores(materia, limite.campo), limite);
     if (fuera.horas.empty()) continue;
     malas.insert(malas.end(), fuera.horas.begin(), fuera.horas.end());
+    disparate = disparate || fuera.exceso > HOLGURA * (limite.maximo - limite.minimo);
     texto += (texto.empty() ? "" : "; ") + std::string(NombreCampo(limite.campo)) + ": " +
              Cuantas(fuera.horas.size()) + " fuera de " + Cifra(limite.minimo, limite.patron) + " a " +
              Cifra(limite.maximo, limite.patron) + ", hasta " + Cifra(fuera.peor, limite.patron);
@@ -82,7 +89,8 @@ Hallazgo MirarRango(const MateriaAuditoria &materia) {
   Hallazgo hallazgo = ImposiblesDeLaLectura(materia);
   if (malas.empty()) return hallazgo;
   if (hallazgo.gravedad == Gravedad::Aviso) texto += "; " + hallazgo.texto;
-  return ConLineas(Gravedad::Grave, texto, materia, malas);
+  const Gravedad gravedad = disparate ? Gravedad::Grave : SegunCuantas(malas.size(), HORAS_GRAVES);
+  return ConLineas(gravedad, texto, materia, malas);
 }
 
 } // namespace tesmo

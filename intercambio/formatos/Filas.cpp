@@ -4,6 +4,7 @@
 #include "intercambio/formatos/Numeros.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 #include <string>
@@ -40,41 +41,44 @@ void PartirBlancos(std::string_view linea, std::size_t maximo, CamposLinea &camp
 }
 
 bool EsCodigoAusente(double valor, const ColumnaClima &columna) {
+  // Del cielo siempre baja radiación: un 0 es que nadie la midió.
+  if (columna.campo == Campo::InfrarrojaHorizontal && valor == 0.0) return true;
   if (columna.exacto) return valor == columna.ausente;
   return columna.ausente > 0 ? valor >= columna.ausente : valor <= columna.ausente;
 }
 
 /// Lo que un campo puede valer, con holgura sobre los récords de la Tierra (Organización Meteorológica
 /// Mundial, World Weather and Climate Extremes Archive). Fuera de ello suele haber un código de «sin dato» de
-/// otro formato (−99, −999, −9999).
+/// otro formato (−99, −999, −9999, 999) o un valor en otra unidad (humedades absolutas en g/kg).
 struct Limites {
   double minimo;
   double maximo;
 };
 
 Limites LimitesDe(Campo campo) {
-  constexpr double SIN_LIMITE = std::numeric_limits<double>::infinity();
+  constexpr Limites TEMPERATURA{-90.0, 70.0};
   constexpr Limites RADIACION{-50.0, 2000.0}; // de noche, los piranómetros dan algo negativo
-  switch (campo) {
-  case Campo::TemperaturaSeca:
-  case Campo::TemperaturaRocio:
-    return {-90.0, 70.0};
-  case Campo::Presion:
-    return {30e3, 115e3};
-  case Campo::GlobalHorizontal:
-  case Campo::DirectaNormal:
-  case Campo::DirectaHorizontal:
-  case Campo::DifusaHorizontal:
-    return RADIACION;
-  case Campo::DireccionViento:
-    return {0.0, 360.0};
-  case Campo::TemperaturaCielo:
-  case Campo::AcimutSolar:
-  case Campo::CenitSolar:
-    return {-SIN_LIMITE, SIN_LIMITE};
-  default:
-    return {0.0, SIN_LIMITE};
-  }
+  constexpr Limites NUBOSIDAD{0.0, 12.0};
+  static constexpr std::array<Limites, NUMERO_CAMPOS> TABLA{{
+      TEMPERATURA,     // seca
+      TEMPERATURA,     // rocío
+      {-110.0, 70.0},  // cielo
+      {0.0, 150.0},    // humedad relativa
+      {0.0, 0.1},      // humedad absoluta
+      {30e3, 115e3},   // presión
+      RADIACION,       // global
+      RADIACION,       // directa normal
+      RADIACION,       // directa horizontal
+      RADIACION,       // difusa
+      {1.0, 1000.0},   // infrarroja
+      NUBOSIDAD,       // total
+      NUBOSIDAD,       // opaca
+      {0.0, 120.0},    // velocidad del viento
+      {0.0, 360.0},    // dirección del viento
+      {-360.0, 360.0}, // acimut
+      {0.0, 180.0},    // cenit
+  }};
+  return TABLA[static_cast<std::size_t>(campo)];
 }
 
 bool EsImposible(Campo campo, double valor) {
@@ -108,7 +112,8 @@ public:
 private:
   void AvisarDeFila(std::string_view linea, int numero) {
     const bool corta = campos_.size() < esquema_.camposMinimos;
-    const std::string que = corta ? "tiene " + std::to_string(campos_.size()) + " campos y hacen falta " +
+    const std::string que = corta ? "tiene " + std::to_string(campos_.size()) +
+                                        (campos_.size() == 1 ? " campo" : " campos") + " y hacen falta " +
                                         std::to_string(esquema_.camposMinimos)
                                   : "no lleva una fecha que se entienda";
     cuaderno_.Aviso({.clase = ClaseNota::Registro,

@@ -44,6 +44,26 @@ TEST(MetTrece, LasLineasEmpiezanEnLaTerceraAunqueLaSegundaLleveTresNumeros) {
   EXPECT_EQ(Valor(*resultado.anio, Campo::TemperaturaSeca, 0), -10.0);
 }
 
+TEST(MetTrece, LosCodigosDeOtroFormatoNoPasanPorDatos) {
+  struct Caso {
+    std::size_t columna;
+    const char *codigo;
+    Campo campo;
+  };
+  const std::vector<Caso> casos{{4, "-999", Campo::TemperaturaCielo}, {4, "999", Campo::TemperaturaCielo},
+                                {7, "5.3", Campo::HumedadAbsoluta}, // en g/kg
+                                {8, "999", Campo::HumedadRelativa},   {9, "999", Campo::VelocidadViento},
+                                {11, "-999", Campo::AcimutSolar},     {12, "999", Campo::CenitSolar}};
+  for (const Caso &caso : casos) {
+    LineasFichero lineas = LineasMetTrece();
+    CambiarCampo(lineas[CABECERA_MET + 100], caso.columna, caso.codigo, ' ');
+    const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+    ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+    EXPECT_EQ(NotaDe(resultado.avisos, ClaseNota::ValorImposible).campo, caso.campo) << caso.codigo;
+    EXPECT_NE((*resultado.anio)[caso.campo].procedencias[100], Procedencia::Copiada) << caso.codigo;
+  }
+}
+
 TEST(MetQuince, LeeLoMismoQueElLectorDeLasLocalidades) {
   const std::string texto = Unir(LineasMetQuince());
   const ResultadoLectura resultado = LeerTextoClima(texto);
