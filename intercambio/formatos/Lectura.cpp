@@ -4,6 +4,7 @@
 #include "intercambio/formatos/Cuaderno.h"
 #include "intercambio/formatos/Huecos.h"
 #include "intercambio/formatos/Lectores.h"
+#include "intercambio/formatos/Radiacionnula.h"
 
 #include <algorithm>
 #include <system_error>
@@ -77,6 +78,8 @@ void Terminar(AnioCanonico anio, const OpcionesLectura &opciones, Cuaderno &cuad
   ResultadoLectura &resultado = cuaderno.Resultado();
   AvisarDeCodigos(cuaderno);
   if (TieneRegistros(anio)) {
+    // El .met de quince columnas se toma como lo toman las localidades, que no preguntan.
+    if (anio.formato != FormatoClima::MetQuince) QuitarRadiacionNula(anio, cuaderno);
     if (opciones.paraAuditar) resultado.anio = anio;
     TaparHuecos(anio, opciones.huecosLargos, cuaderno);
     if (!opciones.paraAuditar && resultado.errores.empty()) resultado.anio = std::move(anio);
