@@ -25,7 +25,9 @@ void Cuaderno::Cerrar() {
       NotaLectura nota{.clase = static_cast<ClaseNota>(clase), .linea = c.ultimaLinea};
       nota.ultimaLinea = c.ultimaLinea;
       nota.veces = c.calladas;
-      nota.texto = "y otras " + std::to_string(c.calladas) + " veces más por lo mismo, la última en la " +
+      nota.texto = (c.calladas == 1 ? std::string("y otra vez más por lo mismo, en la ")
+                                    : "y otras " + std::to_string(c.calladas) +
+                                          " veces más por lo mismo, la última en la ") +
                    TextoLineas(c.ultimaLinea, c.ultimaLinea);
       notas.push_back(std::move(nota));
     }
@@ -38,7 +40,8 @@ void Cuaderno::Cerrar() {
 std::string TextoLineas(int primera, int ultima) {
   if (primera == 0) return {};
   if (primera == ultima || ultima == 0) return "línea " + std::to_string(primera);
-  return "líneas " + std::to_string(primera) + " a " + std::to_string(ultima);
+  return "líneas " + std::to_string(primera) + " a " + std::to_string(ultima) +
+         (ultima < primera ? ", dando la vuelta al año" : "");
 }
 
 std::string Citado(std::string_view texto) {

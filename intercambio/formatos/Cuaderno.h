@@ -37,7 +37,8 @@ private:
   std::array<CalladosPorClase, 2> callados_{};
 };
 
-/// «línea 12», «líneas 12 a 15», o nada si no es de ninguna.
+/// «línea 12», «líneas 12 a 15» (si la última va delante, se dice que da la vuelta), o nada si no es de
+/// ninguna.
 [[nodiscard]] std::string TextoLineas(int primera, int ultima);
 /// @p texto entre comillas, sin caracteres de control y recortado: lo que se cita de un fichero ajeno.
 [[nodiscard]] std::string Citado(std::string_view texto);

@@ -4,6 +4,7 @@
 #include "intercambio/formatos/Montaje.h"
 #include "intercambio/formatos/Requisitos.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <set>
@@ -137,13 +138,19 @@ private:
   void AtenderRequisito(const Requisito &requisito) {
     const std::vector<TramoSinDato> tramos = TramosDe(requisito);
     if (tramos.empty()) return;
-    if (tramos.front().horas == HORAS) return AtenderCampoAusente(requisito);
+    if (tramos.front().horas == HORAS || NoTraeNinguno(requisito)) return AtenderCampoAusente(requisito);
     if (largos_ == HuecosLargos::Rechazar) {
       for (const TramoSinDato &tramo : tramos) RechazarHueco(requisito, tramo);
       return;
     }
     for (const Campo campo : requisito.campos) RellenarCampo(campo, tramos);
     for (const TramoSinDato &tramo : TramosDe(requisito)) RechazarHueco(requisito, tramo);
+  }
+
+  /// Una dirección que no está en ninguna hora falta entera aunque haya horas de calma que no la pidan.
+  [[nodiscard]] bool NoTraeNinguno(const Requisito &requisito) const {
+    return std::none_of(requisito.campos.begin(), requisito.campos.end(),
+                        [this](Campo campo) { return HayAlguno(anio_, campo); });
   }
 
   /// Sin viento en todo el fichero se puede seguir, en calma, si quien importa acepta inventar.
@@ -197,7 +204,8 @@ private:
     NotaLectura nota = Nota(ClaseNota::HuecoLargo, std::nullopt, tramo.primera, tramo.Ultima());
     if (!sinLineas) nota.campo = requisito.campos.front();
     nota.veces = static_cast<int>(tramo.horas);
-    nota.texto = TextoLineas(nota.linea, nota.ultimaLinea) + ": faltan " +
+    nota.texto = TextoLineas(nota.linea, nota.ultimaLinea) +
+                 (sinLineas || requisito.minimo > 1 ? ": faltan " : ": falta ") +
                  (sinLineas ? "los registros" : std::string(requisito.nombre)) + " de " +
                  std::to_string(tramo.horas) + " horas seguidas, desde el " +
                  TextoHora(static_cast<int>(tramo.primera)) + "; se interpolan " +
@@ -217,9 +225,14 @@ private:
     nota.veces = 0;
     for (const TramoSinDato &tramo : tramos) nota.veces += static_cast<int>(tramo.horas);
     nota.texto = std::string(NombreCampo(campo)) + ": sin dato " + std::to_string(nota.veces) +
-                 " horas; se calculará de los demás campos (" + TextoLineas(nota.linea, nota.ultimaLinea) +
-                 ")";
+                 (nota.veces == 1 ? " hora; " : " horas; ") + QueSeHara(campo) + " (" +
+                 TextoLineas(nota.linea, nota.ultimaLinea) + ")";
     cuaderno_.Aviso(std::move(nota));
+  }
+
+  [[nodiscard]] static const char *QueSeHara(Campo campo) {
+    const bool esNubosidad = campo == Campo::NubosidadTotal || campo == Campo::NubosidadOpaca;
+    return esNubosidad ? "sólo se usa donde falta la infrarroja" : "se calculará de los demás campos";
   }
 
   [[nodiscard]] static bool SuplidoPorHumedad(Campo campo) {

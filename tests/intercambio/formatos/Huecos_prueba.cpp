@@ -228,6 +228,47 @@ TEST(Huecos, SinVientoSoloSiSeAceptaInventar) {
   EXPECT_EQ(De(resultado, Campo::VelocidadViento, 4000), Procedencia::Inventada);
 }
 
+TEST(Huecos, SinDireccionYConCalmasSeSigueSiSeAceptaInventar) {
+  LineasFichero lineas = LineasEpw(); // con calma una hora de cada ochenta
+  Quitar(lineas, DIRECCION, 0, HORAS_DEL_ANIO);
+  const ResultadoLectura rechazado = Leer(lineas);
+  EXPECT_FALSE(rechazado.anio);
+  ASSERT_EQ(rechazado.errores.size(), 1U) << Textos(rechazado.errores);
+  EXPECT_EQ(rechazado.errores[0].clase, ClaseNota::CampoAusente);
+  EXPECT_EQ(rechazado.errores[0].campo, Campo::DireccionViento);
+
+  const ResultadoLectura resultado = Leer(lineas, HuecosLargos::RellenarVecinos);
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  for (const int i : {0, 1, 80, 8759}) EXPECT_EQ(Valor(*resultado.anio, Campo::DireccionViento, i), 0.0);
+  EXPECT_EQ(De(resultado, Campo::DireccionViento, 1), Procedencia::Inventada);
+}
+
+TEST(Huecos, ElErrorConcuerdaConLoQueFalta) {
+  LineasFichero lineas = LineasEpw();
+  Quitar(lineas, TEMPERATURA, 50, 4);
+  Quitar(lineas, GLOBAL, 3000, 6);
+  Quitar(lineas, NORMAL, 3000, 6);
+  const std::string errores = Textos(Leer(lineas).errores);
+  EXPECT_NE(errores.find(": falta la temperatura seca de 4 horas"), std::string::npos) << errores;
+  EXPECT_NE(errores.find(": faltan dos de las radiaciones"), std::string::npos) << errores;
+}
+
+TEST(Huecos, UnHuecoQueCruzaElFinDelAnioDiceQueDaLaVuelta) {
+  LineasFichero lineas = LineasEpw();
+  Quitar(lineas, TEMPERATURA, 8757, 6);
+  EXPECT_NE(Leer(lineas).errores.at(0).texto.find("líneas 8766 a 11, dando la vuelta al año"),
+            std::string::npos)
+      << Textos(Leer(lineas).errores);
+}
+
+TEST(Huecos, LaNubosidadQueFaltaNoSeCalculaDeNada) {
+  LineasFichero lineas = LineasEpw();
+  Quitar(lineas, {22, "99"}, 100, 20);
+  const NotaLectura nota = NotaDe(Leer(lineas).avisos, ClaseNota::HuecoSinImportancia);
+  EXPECT_NE(nota.texto.find("20 horas; sólo se usa donde falta la infrarroja"), std::string::npos)
+      << nota.texto;
+}
+
 TEST(Huecos, ParaAuditarSeDaElAnioTalComoVieneYSusErrores) {
   LineasFichero lineas = LineasEpw();
   Quitar(lineas, TEMPERATURA, 50, 4);
