@@ -54,8 +54,29 @@ void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, s
       {.clase = ClaseNota::Cabecera,
        .linea = linea,
        .texto = Donde(linea) +
-                ": no da una altitud creíble; indíquela al importar, porque de ella sale la presión "
-                "de las horas que no la traen"});
+                ": no da una altitud creíble, y de ella sale la presión de las horas que no la traen; "
+                "escríbala " +
+                (linea == 0 ? "en el mapa («altitud = 600»)" : "en la línea " + std::to_string(linea)) +
+                " o con --altitud"});
+}
+
+bool RechazarSeparador(std::string_view linea, int numeroDeLinea, Cuaderno &cuaderno) {
+  constexpr std::ptrdiff_t MINIMOS = 2; // uno suelto puede estar en un nombre
+  const auto comas = std::count(linea.begin(), linea.end(), ',');
+  const auto otros = [&](char separador) {
+    const auto cuantos = std::count(linea.begin(), linea.end(), separador);
+    return cuantos >= MINIMOS && cuantos > comas;
+  };
+  const bool puntoYComa = otros(';');
+  if (!puntoYComa && !otros('\t')) return false;
+  cuaderno.Error({.clase = ClaseNota::Cabecera,
+                  .linea = numeroDeLinea,
+                  .texto = "línea " + std::to_string(numeroDeLinea) + ": los campos van separados por " +
+                           (puntoYComa ? "punto y coma" : "tabuladores") +
+                           " y este formato lleva comas; lo habrá guardado una hoja de cálculo, que "
+                           "además puede cambiar números por fechas: use el fichero original o descríbalo "
+                           "en un mapa"});
+  return true;
 }
 
 double HusoDeLongitud(double longitud) {
@@ -77,7 +98,11 @@ std::optional<double> NumeroTras(std::string_view texto, std::string_view clave)
   const std::size_t inicio = resto.find_first_not_of(" \t:");
   if (inicio == std::string_view::npos) return std::nullopt;
   resto.remove_prefix(inicio);
-  return LeerNumero(resto.substr(0, resto.find_first_not_of("0123456789.+-eE")));
+  constexpr std::string_view CIFRAS = "0123456789";
+  const std::size_t fin = std::min(resto.find_first_not_of("0123456789.+-eE"), resto.size());
+  const bool comaDecimal =
+      fin + 1 < resto.size() && resto[fin] == ',' && CIFRAS.find(resto[fin + 1]) != std::string_view::npos;
+  return comaDecimal ? std::nullopt : LeerNumero(resto.substr(0, fin));
 }
 
 bool Contiene(std::string_view texto, std::string_view clave) {

@@ -15,6 +15,11 @@ namespace tesmo {
 void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, std::optional<double> altitud,
                 int linea, SitioClima &sitio, Cuaderno &cuaderno);
 
+/// Un fichero de comas guardado por una hoja de cálculo con punto y coma o tabuladores, y quizá con coma
+/// decimal y fechas donde había números: si @p linea, que debía ir con comas, es así, apunta un error y
+/// devuelve cierto.
+bool RechazarSeparador(std::string_view linea, int numeroDeLinea, Cuaderno &cuaderno);
+
 /// Huso [h] que le toca a una longitud [°] cuando el fichero no lo dice; 0 si no se conoce.
 [[nodiscard]] double HusoDeLongitud(double longitud);
 
@@ -25,7 +30,7 @@ void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, s
 inline constexpr double HUSO_MAXIMO = 14.0;
 
 /// El número que sigue a @p clave en @p texto, sin distinguir mayúsculas ni contar los ':' y blancos de en
-/// medio; vacío si la clave no está o no la sigue un número.
+/// medio; vacío si la clave no está o no la sigue un número, o si lleva coma decimal.
 [[nodiscard]] std::optional<double> NumeroTras(std::string_view texto, std::string_view clave);
 
 /// ¿Está @p clave (en minúsculas) en @p texto, sin distinguir mayúsculas?

@@ -64,20 +64,32 @@ bool PareceDeDatos(std::string_view linea, CamposLinea &campos) {
   return campos.size() >= CAMPOS_MINIMOS && LeerEntero(campos[0]) && LeerFecha(campos, fila);
 }
 
-/// Un nombre con comas sin comillas corre los números: se busca dónde empiezan los cuatro últimos. El número
-/// de estación, que va delante, no cabe en una latitud.
-std::size_t DondeEstaLaLatitud(const CamposLinea &campos) {
+/// ¿Son los @p cuantos campos desde @p i latitud, longitud, huso y altitud? El huso, en cuartos de hora: así
+/// no pasa por él una longitud.
+bool SonDelSitio(const CamposLinea &campos, std::size_t i, std::size_t cuantos) {
   constexpr std::array<double, 4> MAYORES{90.0, 180.0, HUSO_MAXIMO, 9000.0};
-  const auto cuatroNumeros = [&](std::size_t i) {
-    bool caben = i + MAYORES.size() <= campos.size();
-    for (std::size_t k = 0; caben && k < MAYORES.size(); ++k) {
-      const std::optional<double> numero = LeerNumero(campos[i + k]);
-      caben = numero && std::fabs(*numero) <= MAYORES[k];
+  constexpr std::size_t EL_HUSO = 2;
+  constexpr double CUARTOS_POR_HORA = 4.0;
+  for (std::size_t k = 0; k < cuantos; ++k) {
+    const std::optional<double> numero = i + k < campos.size() ? LeerNumero(campos[i + k]) : std::nullopt;
+    if (!numero || std::fabs(*numero) > MAYORES[k]) return false;
+    if (k == EL_HUSO && std::fmod(*numero * CUARTOS_POR_HORA, 1.0) != 0.0) return false;
+  }
+  return true;
+}
+
+/// Dónde empiezan los números del sitio: un nombre con comas sin comillas los corre hacia atrás, y la falta
+/// del número de estación, o de la fuente, hacia delante. Se buscan los cuatro y, si no, los tres primeros.
+std::size_t DondeEstaLaLatitud(const CamposLinea &campos) {
+  constexpr std::size_t CON_ALTITUD = 4;
+  constexpr std::size_t SIN_ALTITUD = 3;
+  for (const std::size_t cuantos : {CON_ALTITUD, SIN_ALTITUD}) {
+    for (std::size_t i = LATITUD; i < campos.size(); ++i) {
+      if (SonDelSitio(campos, i, cuantos)) return i;
     }
-    return caben;
-  };
-  for (std::size_t i = LATITUD; i < campos.size(); ++i) {
-    if (cuatroNumeros(i)) return i;
+    for (const std::size_t i : {static_cast<std::size_t>(ESTACION), static_cast<std::size_t>(FUENTE)}) {
+      if (SonDelSitio(campos, i, cuantos)) return i;
+    }
   }
   return LATITUD;
 }
@@ -88,7 +100,9 @@ public:
       : lineas_(texto), anio_(anio), cuaderno_(cuaderno) {}
 
   void Leer() {
-    LeerSitio(SiguienteConTexto(lineas_));
+    const std::string_view location = SiguienteConTexto(lineas_);
+    if (RechazarSeparador(location, lineas_.Numero(), cuaderno_)) return;
+    LeerSitio(location);
     LeerCabecera();
     AnioClimatico();
   }
@@ -105,7 +119,9 @@ private:
     PonerSitio(numero(latitud), numero(latitud + 1), numero(latitud + 3), lineas_.Numero(), anio_.sitio,
                cuaderno_);
     PonerHuso(numero(latitud + 2));
-    const auto texto = [&](std::size_t i) { return i < campos.size() ? AUtf8(campos[i]) : std::string(); };
+    const auto texto = [&](std::size_t i) {
+      return i < std::min(campos.size(), latitud) ? AUtf8(campos[i]) : std::string();
+    };
     anio_.sitio.nombre = texto(CIUDAD);
     anio_.sitio.region = texto(REGION);
     anio_.sitio.pais = texto(PAIS);
@@ -131,9 +147,9 @@ private:
     if (cabeceras == LINEAS_DE_CABECERA) return;
     cuaderno_.Aviso({.clase = ClaseNota::Cabecera,
                      .linea = lineas_.Numero(),
-                     .texto = "hay " + std::to_string(cabeceras) +
-                              " líneas antes de los datos y un EPW tiene " +
-                              std::to_string(LINEAS_DE_CABECERA) + "; se sigue con las que hay"});
+                     .texto = "hay " + std::to_string(cabeceras) + (cabeceras == 1 ? " línea" : " líneas") +
+                              " antes de los datos y un EPW tiene " + std::to_string(LINEAS_DE_CABECERA) +
+                              "; se sigue con las que hay"});
   }
 
   void AnioClimatico() {

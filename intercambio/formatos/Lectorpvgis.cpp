@@ -44,10 +44,17 @@ bool LeerFecha(const CamposLinea &campos, FilaClima &fila) {
   return true;
 }
 
+/// Más allá no se busca la línea de los rótulos: delante van el sitio y un año por mes.
+constexpr int LINEAS_DE_CABECERA = 60;
+
+bool EsDeRotulos(std::string_view linea) {
+  return Contiene(SinComilla(linea).substr(0, ROTULO_FECHA.size()), ROTULO_FECHA);
+}
+
 /// La leyenda que sigue a los datos («T2m: 2-m air temperature…», el titular de los derechos): lo primero
 /// que no empieza por la cifra de una fecha.
 bool EsLeyenda(std::string_view linea) {
-  linea = Recortado(linea);
+  linea = SinComilla(linea);
   return !linea.empty() && (linea.front() < '0' || linea.front() > '9');
 }
 
@@ -59,10 +66,12 @@ public:
   void Leer() {
     std::string_view linea;
     bool hayRotulos = false;
-    while (!hayRotulos && lineas_.Siguiente(linea)) {
-      hayRotulos = Contiene(linea.substr(0, ROTULO_FECHA.size()), ROTULO_FECHA);
+    while (!hayRotulos && lineas_.Numero() < LINEAS_DE_CABECERA && lineas_.Siguiente(linea)) {
+      hayRotulos = EsDeRotulos(linea);
       if (!hayRotulos) LeerCabecera(linea);
     }
+    if (!hayRotulos) return RechazarOtraDescarga();
+    if (RechazarSeparador(linea, lineas_.Numero(), cuaderno_)) return;
     PonerSitio(latitud_, longitud_, altitud_, 1, anio_.sitio, cuaderno_);
     ProponerReloj();
     EsquemaFilas esquema{.camposMinimos = 2, .fecha = LeerFecha, .fin = EsLeyenda};
@@ -71,6 +80,16 @@ public:
   }
 
 private:
+  /// PVGIS da con la misma cabecera sus series de varios años, sus medias mensuales y sus días medios.
+  void RechazarOtraDescarga() {
+    cuaderno_.Error({.clase = ClaseNota::Cabecera,
+                     .linea = 1,
+                     .texto = "es de PVGIS pero no es un año típico: falta la línea «" +
+                              std::string(ROTULO_FECHA) +
+                              ",T2m,RH…»; en PVGIS, descargue «TMY» en CSV o en EPW, y no la serie horaria "
+                              "ni las medias"});
+  }
+
   void LeerCabecera(std::string_view linea) {
     const auto tomar = [linea](std::optional<double> &destino, std::string_view clave) {
       if (!destino) destino = NumeroTras(linea, clave);

@@ -72,6 +72,7 @@ void LeerSitio(std::string_view linea, int numeroDeLinea, AnioCanonico &anio, Cu
 void LeerTmy3(std::string_view texto, AnioCanonico &anio, Cuaderno &cuaderno) {
   Lineas lineas(texto);
   std::string_view linea = SiguienteConTexto(lineas);
+  if (RechazarSeparador(linea, lineas.Numero(), cuaderno)) return;
   LeerSitio(linea, lineas.Numero(), anio, cuaderno);
   linea = SiguienteConTexto(lineas);
   EsquemaFilas esquema{.camposMinimos = 3, .fecha = LeerFecha};

@@ -32,6 +32,12 @@ std::string_view Recortado(std::string_view texto) {
   return texto;
 }
 
+std::string_view SinComilla(std::string_view texto) {
+  texto = Recortado(texto);
+  if (texto.starts_with('"')) texto.remove_prefix(1);
+  return texto;
+}
+
 std::optional<double> LeerNumero(std::string_view campo) {
   campo = Recortado(campo);
   const char *p = campo.data();

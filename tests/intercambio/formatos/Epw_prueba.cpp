@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tesmo {
 namespace {
 
@@ -164,6 +166,67 @@ TEST(Epw, UnaCiudadConComasNoCorreLosNumeros) {
   EXPECT_EQ(resultado.anio->sitio.altitud, 567.0);
 }
 
+TEST(Epw, UnLocationConCamposDeMenosNoCorreLosNumeros) {
+  struct Caso {
+    const char *location;
+    double huso, altitud;
+  };
+  const std::vector<Caso> casos{
+      {"LOCATION,Almena,Granada,ESP,Fuente,40.45,-3.55,1.0,582", 1.0, 582.0}, // sin estación
+      {"LOCATION,Almena,Granada,ESP,Fuente,40.45,-3.55,1.0,5", 1.0, 5.0},
+      {"LOCATION,Almena,Granada,ESP,40.45,-3.55,1.0,582", 1.0, 582.0}, // ni fuente
+      {"LOCATION,Almena,Granada,ESP,Fuente,12,40.45,-3.55,1.0,", 1.0, AUSENTE},
+      {"LOCATION,Almena,Granada,ESP,Fuente,12,40.45,-3.55,1.0,-9999", 1.0, AUSENTE},
+      {"LOCATION,Almena,Granada,ESP,Fuente,12,40.45,-3.55", 0.0, AUSENTE},
+      {"LOCATION,Almena,Granada,ESP,Fuente,12,40.45,-3.55,UTC+1,582", 0.0, 582.0}};
+  for (const Caso &caso : casos) {
+    LineasFichero lineas = LineasEpw();
+    lineas[0] = caso.location;
+    const ResultadoLectura resultado = Leer(lineas);
+    ASSERT_TRUE(resultado.SinErrores()) << caso.location << Textos(resultado.errores);
+    const AnioCanonico &anio = *resultado.anio;
+    EXPECT_EQ(anio.sitio.latitud, 40.45) << caso.location;
+    EXPECT_EQ(anio.sitio.longitud, -3.55) << caso.location;
+    EXPECT_EQ(anio.reloj.husoHoras, caso.huso) << caso.location;
+    EXPECT_EQ(std::isnan(anio.sitio.altitud), std::isnan(caso.altitud)) << caso.location;
+    if (!std::isnan(caso.altitud)) {
+      EXPECT_EQ(anio.sitio.altitud, caso.altitud) << caso.location;
+    }
+    EXPECT_EQ(anio.sitio.identificador.find('.'), std::string::npos) << anio.sitio.identificador;
+  }
+}
+
+TEST(Epw, SeparadoPorPuntoYComaSeDiceQuienLoGuardo) {
+  for (const char separador : {';', '\t'}) {
+    LineasFichero lineas = LineasEpw();
+    for (std::string &linea : lineas) std::replace(linea.begin(), linea.end(), ',', separador);
+    std::replace(lineas[0].begin(), lineas[0].end(), '.', ',');
+    const ResultadoLectura resultado = Leer(lineas);
+    EXPECT_FALSE(resultado.anio);
+    ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+    EXPECT_NE(resultado.errores[0].texto.find("hoja de cálculo"), std::string::npos);
+  }
+}
+
+TEST(Epw, LaAltitudQueFaltaSeDiceDondeEscribirla) {
+  LineasFichero lineas = LineasEpw();
+  CambiarCampo(lineas[0], 9, "-9999");
+  const ResultadoLectura resultado = Leer(lineas);
+  ASSERT_TRUE(resultado.SinErrores());
+  EXPECT_NE(NotaDe(resultado.avisos, ClaseNota::Cabecera).texto.find("en la línea 1 o con --altitud"),
+            std::string::npos)
+      << Textos(resultado.avisos);
+}
+
+TEST(Epw, UnLocationEntrecomilladoSeReconoce) {
+  LineasFichero lineas = LineasEpw();
+  lineas[0] = "\"LOCATION\",\"Almena, la Alta\",\"Granada\",\"ESP\",\"x\",\"084180\",37.18,-3.78,1.0,567.0";
+  const ResultadoLectura resultado = Leer(lineas);
+  EXPECT_EQ(resultado.formato, FormatoClima::Epw);
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.anio->sitio.nombre, "Almena, la Alta");
+}
+
 TEST(Epw, LosMinutosNoDicenNada) {
   for (const std::string minuto : {"0", "30", "60", ""}) {
     LineasFichero lineas = LineasEpw();
@@ -246,12 +309,13 @@ TEST(Epw, LoQueNoPuedeSerEsSinDatoYSeAvisa) {
   const std::vector<Caso> casos{
       {6, Campo::TemperaturaSeca, {"-99", "-999", "-9999", "-90.1", "71"}, {"-89.2", "56.7"}},
       {7, Campo::TemperaturaRocio, {"-99", "-999"}, {"-80"}},
-      {8, Campo::HumedadRelativa, {"-99", "-1"}, {"0", "101"}},
+      {8, Campo::HumedadRelativa, {"-99", "-1", "998", "151"}, {"0", "101"}},
       {9, Campo::Presion, {"-9999", "0", "1013", "200000"}, {"33700", "108000"}},
-      {12, Campo::InfrarrojaHorizontal, {"-99"}, {"0"}},
+      {12, Campo::InfrarrojaHorizontal, {"-99", "-1", "1001"}, {"1", "500"}},
       {13, Campo::GlobalHorizontal, {"-99", "-999", "-9999", "2001"}, {"-3", "1400"}},
       {20, Campo::DireccionViento, {"-99"}, {"0", "360"}},
-      {21, Campo::VelocidadViento, {"-99"}, {"0"}}};
+      {21, Campo::VelocidadViento, {"-99", "121", "998"}, {"0", "113"}},
+      {22, Campo::NubosidadTotal, {"-1", "88"}, {"0", "10"}}};
   const LineasFichero buenas = LineasEpw();
   for (const Caso &caso : casos) {
     LineasFichero lineas = buenas;
@@ -266,6 +330,17 @@ TEST(Epw, LoQueNoPuedeSerEsSinDatoYSeAvisa) {
     EXPECT_EQ(resultado.ausentes[static_cast<std::size_t>(caso.campo)].veces,
               static_cast<int>(caso.imposibles.size()));
   }
+}
+
+TEST(Epw, UnaInfrarrojaDeCeroEsQueNoSeMidio) {
+  LineasFichero lineas = LineasEpw();
+  for (std::size_t i = CABECERA_EPW; i < lineas.size(); ++i) CambiarCampo(lineas[i], 12, "0");
+  const ResultadoLectura resultado = Leer(lineas);
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.ausentes[static_cast<std::size_t>(Campo::InfrarrojaHorizontal)].veces, 8760);
+  EXPECT_EQ(CuantasDe(resultado.avisos, ClaseNota::ValorImposible), 0);
+  EXPECT_EQ(NotaDe(resultado.avisos, ClaseNota::CodigoAusente).campo, Campo::InfrarrojaHorizontal);
+  EXPECT_TRUE(std::isnan(Valor(*resultado.anio, Campo::InfrarrojaHorizontal, 100)));
 }
 
 TEST(Epw, UnaLineaInmensaNoImpideLeerLasDemas) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tesmo {
 namespace {
 
@@ -81,6 +83,65 @@ TEST(PvgisCsv, SinSitioNoHayAnio) {
   const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
   EXPECT_FALSE(resultado.anio);
   EXPECT_NE(NotaDe(resultado.errores, ClaseNota::Cabecera).texto.find("longitud"), std::string::npos);
+}
+
+TEST(PvgisCsv, LaSerieHorariaNoEsUnAnioTipico) {
+  LineasFichero lineas{"Latitude (decimal degrees):\t37.180",
+                       "Longitude (decimal degrees):\t-3.780",
+                       "Elevation (m):\t567",
+                       "Radiation database:\tPVGIS-SARAH3",
+                       "",
+                       "",
+                       "time,G(i),H_sun,T2m,WS10m,Int"};
+  for (int i = 0; i < 20'000; ++i) lineas.emplace_back("20050101:0010,0.0,0.0,4.39,1.52,0.0");
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  EXPECT_EQ(resultado.formato, FormatoClima::PvgisCsv);
+  ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+  EXPECT_NE(resultado.errores[0].texto.find("«TMY»"), std::string::npos) << resultado.errores[0].texto;
+  EXPECT_TRUE(resultado.avisos.empty()) << Textos(resultado.avisos);
+}
+
+TEST(PvgisCsv, LasComillasYLosBlancosNoEstorban) {
+  LineasFichero lineas = LineasPvgisCsv();
+  lineas[17].insert(0, "  ");
+  for (std::size_t i = CABECERA_PVGIS; i < CABECERA_PVGIS + HORAS_DEL_ANIO; ++i) {
+    lineas[i].insert(lineas[i].find(','), "\"");
+    lineas[i].insert(0, "\"");
+  }
+  lineas[0] = "\"Latitude (decimal degrees): 37.180\"";
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.registros, HORAS_DEL_ANIO);
+  EXPECT_EQ(resultado.anio->sitio.latitud, 37.18);
+}
+
+TEST(PvgisCsv, SeparadoPorPuntoYComaSeDiceQuienLoGuardo) {
+  LineasFichero lineas = LineasPvgisCsv();
+  for (std::string &linea : lineas) std::replace(linea.begin(), linea.end(), ',', ';');
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  EXPECT_FALSE(resultado.anio);
+  ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+  EXPECT_NE(resultado.errores[0].texto.find("hoja de cálculo"), std::string::npos);
+}
+
+TEST(PvgisCsv, UnaLatitudConComaDecimalNoSeCorta) {
+  LineasFichero lineas = LineasPvgisCsv();
+  lineas[0] = "Latitude (decimal degrees): 37,095";
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  EXPECT_FALSE(resultado.anio);
+  EXPECT_NE(NotaDe(resultado.errores, ClaseNota::Cabecera).texto.find("punto decimal"), std::string::npos);
+  lineas[0] = "Latitude (decimal degrees): 37.095,,,";
+  EXPECT_EQ(LeerTextoClima(Unir(lineas)).anio->sitio.latitud, 37.095);
+}
+
+TEST(PvgisCsv, ElDesfaseEscritoPuedeSerCeroMediaHoraONegativo) {
+  for (const double horas : {0.0, 0.1761, 0.5, -0.2}) {
+    LineasFichero lineas = LineasPvgisCsv();
+    lineas[3] = "Irradiance Time Offset (h): " + std::to_string(horas);
+    const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+    ASSERT_TRUE(resultado.SinErrores());
+    EXPECT_NEAR(resultado.anio->reloj.desfaseMin, (horas - 1.0) * 60.0, 1e-9);
+  }
 }
 
 TEST(PvgisCsv, LaLeyendaEmpiezaEnLaPrimeraLineaSinCifra) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tesmo {
 namespace {
 
@@ -65,6 +67,15 @@ TEST(Tmy3, Menos9900EsSinDato) {
   EXPECT_EQ(resultado.ausentes[static_cast<std::size_t>(Campo::Presion)].veces, 1);
   EXPECT_EQ(resultado.ausentes[static_cast<std::size_t>(Campo::Presion)].primeraLinea, 6);
   EXPECT_DOUBLE_EQ(Valor(*resultado.anio, Campo::Presion, 3), 94300.0); // entre 94200 y 94400
+}
+
+TEST(Tmy3, SeparadoPorPuntoYComaSeDiceQuienLoGuardo) {
+  LineasFichero lineas = LineasTmy3();
+  for (std::string &linea : lineas) std::replace(linea.begin(), linea.end(), ',', ';');
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  EXPECT_EQ(resultado.formato, FormatoClima::Tmy3);
+  ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+  EXPECT_NE(resultado.errores[0].texto.find("hoja de cálculo"), std::string::npos);
 }
 
 TEST(Tmy3, LaMedianocheEscritaComoCeroDelDiaSiguienteCierraElDia) {
