@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
+#include <tuple>
 
 namespace tesmo {
 
@@ -14,6 +16,15 @@ constexpr std::size_t HORAS = static_cast<std::size_t>(HORAS_DEL_ANIO);
 
 bool EsBisiesto(const FilaClima &fila) { return fila.mes == 2 && fila.dia == 29; }
 
+/// Cuántas filas seguidas llevan, por lo común, la misma etiqueta: 1 en un año horario.
+int RegistrosPorHora(const std::vector<FilaClima> &filas) {
+  const auto etiqueta = [](const FilaClima &f) { return std::tuple(f.anio, f.mes, f.dia, f.hora); };
+  std::size_t distintas = 1;
+  for (std::size_t i = 1; i < filas.size(); ++i)
+    distintas += etiqueta(filas[i]) != etiqueta(filas[i - 1]) ? 1U : 0U;
+  return static_cast<int>(std::lround(static_cast<double>(filas.size()) / static_cast<double>(distintas)));
+}
+
 /// Lleva las filas a sus posiciones y apunta lo que no encaja.
 class Montador {
 public:
@@ -21,6 +32,7 @@ public:
       : filas_(filas), anio_(anio), cuaderno_(cuaderno) {}
 
   void Montar() {
+    if (RechazarMasDeUnAnio()) return;
     DecidirEtiquetas();
     RechazarBisiestos();
     for (const FilaClima &fila : filas_) Colocar(fila);
@@ -30,6 +42,25 @@ public:
   }
 
 private:
+  /// Con varios registros por hora, o con varios años, decir que cada uno repite otra hora no ayuda.
+  bool RechazarMasDeUnAnio() {
+    const int porHora = RegistrosPorHora(filas_);
+    const int registros = cuaderno_.Resultado().registros;
+    if (porHora < 2 && registros < 2 * HORAS_DEL_ANIO) return false;
+    cuaderno_.Error({.clase = ClaseNota::SobranRegistros,
+                     .linea = filas_.front().linea,
+                     .veces = registros - HORAS_DEL_ANIO,
+                     .texto = porHora < 2
+                                  ? "hay " + std::to_string(registros) + " líneas de datos y un año tiene " +
+                                        std::to_string(HORAS_DEL_ANIO) +
+                                        " horas: parecen varios años; deje uno solo"
+                                  : "hay " + std::to_string(porHora) + " registros por hora (" +
+                                        TextoLineas(filas_.front().linea,
+                                                    filas_[static_cast<std::size_t>(porHora - 1)].linea) +
+                                        ", y así los demás); deje uno, con la media de los de su hora"});
+    return true;
+  }
+
   void DecidirEtiquetas() {
     const auto esCero = [](const FilaClima &fila) { return fila.hora == 0; };
     const auto esVeinticuatro = [](const FilaClima &fila) { return fila.hora == HORAS_DEL_DIA; };
@@ -71,7 +102,7 @@ private:
 
   [[nodiscard]] int Posicion(const FilaClima &fila) const {
     if (deCeroA23_) return PosicionEtiqueta(fila.mes, fila.dia, fila.hora + 1);
-    if (fila.hora > 0) return PosicionEtiqueta(fila.mes, fila.dia, fila.hora);
+    if (fila.hora != 0) return PosicionEtiqueta(fila.mes, fila.dia, fila.hora);
     // El 0 del 1 de marzo cierra el 28 de febrero, y el del 1 de enero, el año.
     const int primera = PosicionEtiqueta(fila.mes, fila.dia, 1);
     return primera < 0 ? -1 : (primera + HORAS_DEL_ANIO - 1) % HORAS_DEL_ANIO;
@@ -153,9 +184,10 @@ private:
                      .linea = antes != 0 ? antes : despues,
                      .ultimaLinea = despues != 0 ? despues : antes,
                      .veces = horas,
-                     .texto = "faltan " + std::to_string(horas) + " registros, del " +
-                              TextoHora(static_cast<int>(primera)) + " al " +
-                              TextoHora(static_cast<int>(ultima)) +
+                     .texto = (horas == 1 ? "falta 1 registro, el del "
+                                          : "faltan " + std::to_string(horas) + " registros, del ") +
+                              TextoHora(static_cast<int>(primera)) +
+                              (horas == 1 ? "" : " al " + TextoHora(static_cast<int>(ultima))) +
                               (antes != 0 ? ", tras la línea " + std::to_string(antes) : "")});
   }
 

@@ -97,18 +97,6 @@ TEST(Montaje, LasHorasDe0A23PasanALaSiguiente) {
     EXPECT_EQ(Valor(*resultado.anio, Campo::TemperaturaSeca, i), HoraPrueba(i).temperatura / 10.0);
 }
 
-TEST(Montaje, DosRegistrosPorHoraSonDemasiados) {
-  LineasFichero lineas = LineasEpw();
-  LineasFichero dobles(lineas.begin(), Registro(lineas, 0));
-  for (int i = 0; i < HORAS_DEL_ANIO; ++i) dobles.insert(dobles.end(), 2, *Registro(lineas, i));
-  const ResultadoLectura resultado = Leer(dobles);
-  EXPECT_FALSE(resultado.anio);
-  EXPECT_EQ(NotaDe(resultado.errores, ClaseNota::SobranRegistros).veces, 8760);
-  // Las repetidas no dan 8760 errores: diez y uno que las cuenta.
-  EXPECT_EQ(CuantasDe(resultado.errores, ClaseNota::RegistroRepetido), 11);
-  EXPECT_EQ(resultado.errores.back().veces, 8750) << Textos(resultado.errores);
-}
-
 TEST(Montaje, MuchosAniosSeguidosNoLlenanLaMemoriaYSeDicen) {
   LineasFichero lineas = LineasEpw();
   const LineasFichero datos(Registro(lineas, 0), lineas.end());
@@ -116,7 +104,10 @@ TEST(Montaje, MuchosAniosSeguidosNoLlenanLaMemoriaYSeDicen) {
   const ResultadoLectura resultado = Leer(lineas);
   EXPECT_FALSE(resultado.anio);
   EXPECT_EQ(resultado.registros, 5 * 8760);
-  EXPECT_EQ(NotaDe(resultado.errores, ClaseNota::SobranRegistros).veces, 4 * 8760);
+  ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.errores[0].clase, ClaseNota::SobranRegistros);
+  EXPECT_EQ(resultado.errores[0].veces, 4 * 8760);
+  EXPECT_NE(resultado.errores[0].texto.find("varios años"), std::string::npos);
 }
 
 TEST(Montaje, LasHorasSinLineaSeAvisanConLaDeAntes) {
@@ -151,6 +142,32 @@ TEST(Montaje, UnaFechaImposibleDejaSuHoraSinRegistro) {
   EXPECT_EQ(CuantasDe(resultado.avisos, ClaseNota::Registro), 2);
   EXPECT_EQ(NotaDe(resultado.avisos, ClaseNota::Registro).linea, 79);
   EXPECT_EQ((*resultado.anio)[Campo::TemperaturaSeca].procedencias[70], Procedencia::Calculada);
+}
+
+TEST(Montaje, VariosRegistrosPorHoraSonUnSoloError) {
+  for (const int porHora : {2, 4, 6, 12}) {
+    const LineasFichero horarias = LineasEpw();
+    LineasFichero lineas(horarias.begin(), horarias.begin() + CABECERA_EPW);
+    for (std::size_t i = CABECERA_EPW; i < horarias.size(); ++i)
+      lineas.insert(lineas.end(), static_cast<std::size_t>(porHora), horarias[i]);
+    const ResultadoLectura resultado = Leer(lineas);
+    EXPECT_FALSE(resultado.anio);
+    ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+    EXPECT_EQ(resultado.errores[0].clase, ClaseNota::SobranRegistros);
+    EXPECT_EQ(resultado.errores[0].veces, (porHora - 1) * HORAS_DEL_ANIO);
+    EXPECT_NE(resultado.errores[0].texto.find("hay " + std::to_string(porHora) + " registros por hora"),
+              std::string::npos)
+        << resultado.errores[0].texto;
+    EXPECT_EQ(CuantasDe(resultado.avisos, ClaseNota::FaltanRegistros), 0);
+  }
+}
+
+TEST(Montaje, UnaHoraNegativaNoEsDeLaVispera) {
+  LineasFichero lineas = LineasEpw();
+  CambiarCampo(lineas[CABECERA_EPW + 30], 3, "-1");
+  const ResultadoLectura resultado = Leer(lineas);
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(NotaDe(resultado.avisos, ClaseNota::Registro).linea, 39);
 }
 
 TEST(Montaje, SinNingunDatoSeDice) {
