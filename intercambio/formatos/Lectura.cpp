@@ -4,6 +4,7 @@
 #include "intercambio/formatos/Cuaderno.h"
 #include "intercambio/formatos/Huecos.h"
 #include "intercambio/formatos/Lectores.h"
+#include "intercambio/formatos/Pistasdeformato.h"
 #include "intercambio/formatos/Radiacionnula.h"
 
 #include <algorithm>
@@ -20,13 +21,9 @@ void ErrorDeFichero(Cuaderno &cuaderno, std::string texto) {
   cuaderno.Error({.clase = ClaseNota::Fichero, .texto = std::move(texto)});
 }
 
-bool EsUtf16(std::string_view texto) {
-  return texto.starts_with("\xFF\xFE") || texto.starts_with("\xFE\xFF");
-}
-
 void DecirDesconocido(std::string_view texto, Cuaderno &cuaderno) {
-  if (EsUtf16(texto)) return ErrorDeFichero(cuaderno, "el texto está en UTF-16; guárdelo como UTF-8");
-  if (texto.empty()) return ErrorDeFichero(cuaderno, "el fichero está vacío");
+  std::string pista = PistaDeFormato(texto);
+  if (!pista.empty()) return ErrorDeFichero(cuaderno, std::move(pista));
   ErrorDeFichero(cuaderno, "no es un formato que se conozca (EPW, PVGIS, TMY3, .met de trece o de quince "
                            "columnas); si es un texto con columnas, descríbalas en un mapa");
 }
@@ -96,7 +93,12 @@ ResultadoLectura LeerTextoClima(std::string_view texto, const OpcionesLectura &o
   anio.sitio.altitud = opciones.altitud.value_or(AUSENTE);
   anio.formato = opciones.mapa ? FormatoClima::Delimitado : ReconocerFormato(texto);
   resultado.formato = anio.formato;
-  LeerSegunFormato(texto, opciones, anio, cuaderno);
+  std::string binario = PistaDeBinario(texto);
+  if (binario.empty()) {
+    LeerSegunFormato(texto, opciones, anio, cuaderno);
+  } else {
+    ErrorDeFichero(cuaderno, std::move(binario));
+  }
   Terminar(std::move(anio), opciones, cuaderno);
   return resultado;
 }

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace tesmo {
 
@@ -73,42 +72,53 @@ bool EsMetDeQuince(std::string_view texto) {
   return false;
 }
 
-} // namespace
-
-namespace {
-
-/// ¿Llevan trece números todas las líneas de datos, hasta @p registros?
-bool SonDeTrece(std::string_view texto, int registros) {
+/// ¿Llevan trece números todas las líneas de datos?
+bool SonDeTrece(std::string_view texto) {
   Lineas lineas(texto);
   std::string_view linea;
   CamposLinea campos;
   if (!lineas.Siguiente(linea) || !lineas.Siguiente(linea) || !EmpiezaConSitio(linea, campos)) return false;
-  int leidos = 0;
-  while (leidos < registros && lineas.Siguiente(linea)) {
+  bool alguno = false;
+  while (lineas.Siguiente(linea)) {
     if (EsLineaVacia(linea)) continue;
     if (!SonNumeros(linea, CAMPOS_MET_TRECE, campos)) return false;
-    ++leidos;
+    alguno = true;
   }
-  return leidos > 0;
+  return alguno;
+}
+
+/// ¿Los llevan casi todas las del primer día? Para importarlo basta: lo estropeado se dice con su línea.
+bool ParecenDeTrece(std::string_view texto) {
+  constexpr int ESTROPEADAS = 4;
+  Lineas lineas(texto);
+  std::string_view linea;
+  CamposLinea campos;
+  if (!lineas.Siguiente(linea) || !lineas.Siguiente(linea) || !EmpiezaConSitio(linea, campos)) return false;
+  int malas = 0;
+  int leidas = 0;
+  while (leidas < HORAS_DEL_DIA && lineas.Siguiente(linea)) {
+    if (EsLineaVacia(linea)) continue;
+    ++leidas;
+    malas += SonNumeros(linea, CAMPOS_MET_TRECE, campos) ? 0 : 1;
+  }
+  return malas <= ESTROPEADAS && leidas > 2 * malas;
 }
 
 } // namespace
 
-bool EsMetDeTreceColumnas(std::string_view texto) {
-  return SonDeTrece(texto, std::numeric_limits<int>::max());
-}
+bool EsMetDeTreceColumnas(std::string_view texto) { return SonDeTrece(texto); }
 
 FormatoClima ReconocerFormato(std::string_view texto) {
   Lineas lineas(texto);
   const std::string_view primera = SiguienteConTexto(lineas);
   const std::string_view segunda = SiguienteConTexto(lineas);
-  if (EmpiezaPor(Recortado(primera), "location"))
+  if (EmpiezaPor(SinComilla(primera), "location"))
     return EsEpwDePvgis(texto, primera) ? FormatoClima::PvgisEpw : FormatoClima::Epw;
-  if (EmpiezaPor(primera, "latitude (decimal degrees)") || EmpiezaPor(primera, "time(utc)"))
+  if (EmpiezaPor(SinComilla(primera), "latitude (decimal degrees)") ||
+      EmpiezaPor(SinComilla(primera), "time(utc)"))
     return FormatoClima::PvgisCsv;
   if (Contiene(segunda, "date (mm/dd/yyyy)") && Contiene(segunda, "time (hh:mm)")) return FormatoClima::Tmy3;
-  // Para importarlo basta el primer día: lo que venga estropeado después se dice con su línea.
-  if (SonDeTrece(texto, HORAS_DEL_DIA)) return FormatoClima::MetTrece;
+  if (ParecenDeTrece(texto)) return FormatoClima::MetTrece;
   if (EsMetDeQuince(texto)) return FormatoClima::MetQuince;
   return FormatoClima::Desconocido;
 }

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+
 namespace tesmo {
 namespace {
 
@@ -77,10 +80,54 @@ TEST(Reconocimiento, LoQueNoSeConoceLoDiceYQueHacer) {
   const ResultadoLectura vacio = LeerTextoClima("");
   EXPECT_FALSE(vacio.anio);
   EXPECT_EQ(NotaDe(vacio.errores, ClaseNota::Fichero).texto, "el fichero está vacío");
-  const ResultadoLectura otro = LeerTextoClima("{\"inputs\": {}}");
+  const ResultadoLectura otro = LeerTextoClima("fecha;T\n1/1/2014;3\n");
   EXPECT_NE(NotaDe(otro.errores, ClaseNota::Fichero).texto.find("mapa"), std::string::npos);
   const ResultadoLectura utf16 = LeerTextoClima("\xFF\xFEL\0O\0");
   EXPECT_NE(NotaDe(utf16.errores, ClaseNota::Fichero).texto.find("UTF-8"), std::string::npos);
+}
+
+TEST(Reconocimiento, UnMetDeTreceEstropeadoElPrimerDiaSeReconoce) {
+  const LineasFichero buenas = LineasMetTrece();
+  LineasFichero corta = buenas;
+  corta[CABECERA_MET + 3].resize(corta[CABECERA_MET + 3].rfind(' '));
+  LineasFichero rotulos = buenas;
+  rotulos.insert(rotulos.begin() + CABECERA_MET, "mes dia hora T Tc dir dif w hr v d ac ce");
+  LineasFichero coma = buenas;
+  CambiarCampo(coma[CABECERA_MET], 3, "-10,0", ' ');
+  LineasFichero tabuladores = buenas;
+  for (std::string &linea : tabuladores) std::replace(linea.begin(), linea.end(), ' ', '\t');
+  for (const LineasFichero &lineas : {corta, rotulos, coma, tabuladores}) {
+    const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+    EXPECT_EQ(resultado.formato, FormatoClima::MetTrece);
+    ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+    EXPECT_EQ(Valor(*resultado.anio, Campo::TemperaturaSeca, 36), -6.4);
+  }
+  EXPECT_EQ(NotaDe(LeerTextoClima(Unir(corta)).avisos, ClaseNota::Registro).linea, 6);
+}
+
+TEST(Reconocimiento, UnMetConComaDecimalODelSitioConComasLoDice) {
+  LineasFichero coma = LineasMetTrece();
+  for (std::string &linea : coma) std::replace(linea.begin(), linea.end(), '.', ',');
+  EXPECT_NE(Textos(LeerTextoClima(Unir(coma)).errores).find("«decimal = coma»"), std::string::npos);
+  LineasFichero sitio = LineasMetTrece();
+  sitio[1] = "37.18,-3.78,567,15";
+  EXPECT_NE(Textos(LeerTextoClima(Unir(sitio)).errores).find("la línea 2"), std::string::npos);
+}
+
+TEST(Reconocimiento, LoQueSeDescargaSinQuererSeDiceQueEs) {
+  const std::vector<std::array<std::string, 2>> casos{
+      {std::string("PK\x03\x04", 4) + "resto", "ZIP"},
+      {"\x1F\x8B" + std::string(20, 'x'), "gzip"},
+      {"\xD0\xCF\x11\xE0\xA1", "hoja de cálculo"},
+      {"{\"inputs\": {\"location\": {}}}", "JSON"},
+      {"<!DOCTYPE html><html>", "página web"},
+      {LineasEpw().back() + "\n" + LineasEpw().back() + "\n", "LOCATION"},
+      {"Source,Location ID,City,State,Country,Latitude\nNSRDB,1,-,-,-,37\nYear,Month,Day,Hour\n", "NSRDB"}};
+  for (const auto &[texto, parte] : casos) {
+    const ResultadoLectura resultado = LeerTextoClima(texto);
+    ASSERT_EQ(resultado.errores.size(), 1U) << texto;
+    EXPECT_NE(resultado.errores[0].texto.find(parte), std::string::npos) << resultado.errores[0].texto;
+  }
 }
 
 TEST(Reconocimiento, UnFicheroQueFaltaEsUnError) {
