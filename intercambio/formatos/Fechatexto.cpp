@@ -12,6 +12,15 @@ namespace {
 
 constexpr std::string_view CIFRAS = "0123456789";
 
+constexpr std::size_t CIFRAS_FECHA = 8;
+constexpr std::size_t CIFRAS_HORA = 4;
+
+/// Ocho cifras, o más con la hora pegada: AAAAMMDD, AAAAMMDDHH, AAAAMMDDHHMM, AAAAMMDDHHMMSS.
+bool EsFechaSeguida(std::size_t cifras) {
+  constexpr std::size_t CIFRAS_MAXIMAS = 14;
+  return cifras >= CIFRAS_FECHA && cifras <= CIFRAS_MAXIMAS && cifras % 2 == 0;
+}
+
 /// Quita de @p texto su primer grupo de cifras y lo devuelve; vacío si no queda ninguno.
 std::string_view TomarGrupo(std::string_view &texto) {
   const std::size_t desde = texto.find_first_of(CIFRAS);
@@ -22,7 +31,7 @@ std::string_view TomarGrupo(std::string_view &texto) {
   return grupo;
 }
 
-/// Ocho cifras seguidas repartidas según el orden; el año lleva cuatro.
+/// Las ocho primeras cifras repartidas según el orden; el año lleva cuatro.
 std::array<std::string_view, 3> Repartir(std::string_view ocho, OrdenFecha orden) {
   if (orden == OrdenFecha::AnioMesDia) return {ocho.substr(0, 4), ocho.substr(4, 2), ocho.substr(6, 2)};
   return {ocho.substr(0, 2), ocho.substr(2, 2), ocho.substr(4, 4)};
@@ -42,9 +51,9 @@ bool LeerHoraTexto(std::string_view texto, FilaClima &fila) {
 }
 
 bool LeerFechaTexto(std::string_view texto, OrdenFecha orden, FilaClima &fila) {
-  constexpr std::size_t CIFRAS_FECHA = 8;
   std::array<std::string_view, 3> grupos{TomarGrupo(texto), {}, {}};
-  if (grupos[0].size() == CIFRAS_FECHA) {
+  if (EsFechaSeguida(grupos[0].size())) {
+    if (grupos[0].size() > CIFRAS_FECHA) texto = grupos[0].substr(CIFRAS_FECHA, CIFRAS_HORA);
     grupos = Repartir(grupos[0], orden);
   } else {
     grupos[1] = TomarGrupo(texto);
@@ -60,7 +69,7 @@ bool LeerFechaTexto(std::string_view texto, OrdenFecha orden, FilaClima &fila) {
   fila.anio = anioDelante ? numeros[0] : numeros[2];
   fila.mes = orden == OrdenFecha::MesDiaAnio ? numeros[0] : numeros[1];
   fila.dia = anioDelante ? numeros[2] : orden == OrdenFecha::DiaMesAnio ? numeros[0] : numeros[1];
-  (void)LeerHoraTexto(texto, fila);
+  if (!LeerHoraTexto(texto, fila)) fila.hora = SIN_HORA;
   return true;
 }
 

@@ -36,8 +36,9 @@ public:
     for (const ColumnaMapa &columna : mapa_.columnas) AnadirColumna(columna, esquema);
     ElegirFecha(esquema);
     if (!cuaderno_.Resultado().errores.empty()) return;
-    std::vector<FilaClima> filas = LeerFilas(lineas_, esquema, cuaderno_);
-    MontarAnio(filas, anio_, cuaderno_);
+    const std::vector<FilaClima> filas = LeerFilas(lineas_, esquema, cuaderno_);
+    RechazarSinHora(filas);
+    if (cuaderno_.Resultado().errores.empty()) MontarAnio(filas, anio_, cuaderno_);
   }
 
 private:
@@ -103,9 +104,14 @@ private:
     }
     const OrdenFecha orden = mapa_.orden;
     if (fecha != SIN_COLUMNA) {
-      esquema.fecha = [=](const CamposLinea &campos, FilaClima &fila) {
-        return LeerFechaTexto(campos[fecha], orden, fila) &&
-               (hora == SIN_COLUMNA || LeerHoraTexto(campos[hora], fila));
+      esquema.fecha = [=, this](const CamposLinea &campos, FilaClima &fila) {
+        if (!LeerFechaTexto(campos[fecha], orden, fila)) return false;
+        if (hora != SIN_COLUMNA) return LeerHoraTexto(campos[hora], fila);
+        // Hay programas que a medianoche escriben sólo el día.
+        if (fila.hora != SIN_HORA) return true;
+        fila.hora = 0;
+        ++sinHora_;
+        return true;
       };
     } else if (mes != SIN_COLUMNA && dia != SIN_COLUMNA && hora != SIN_COLUMNA) {
       esquema.fecha = [=](const CamposLinea &campos, FilaClima &fila) {
@@ -117,9 +123,22 @@ private:
         fila.dia = entero(dia);
         return fila.mes >= 0 && fila.dia >= 0 && LeerHoraTexto(campos[hora], fila);
       };
+    } else if (mes != SIN_COLUMNA || dia != SIN_COLUMNA || hora != SIN_COLUMNA) {
+      cuaderno_.Error({.clase = ClaseNota::Cabecera,
+                       .texto = "el mapa ha de dar las columnas del mes, del día y de la hora, o la de la "
+                                "fecha entera; si no da ninguna, las líneas van por orden"});
     } else {
       NumerarPorOrden(esquema);
     }
+  }
+
+  void RechazarSinHora(const std::vector<FilaClima> &filas) {
+    if (sinHora_ == 0 || sinHora_ != filas.size()) return;
+    cuaderno_.Error({.clase = ClaseNota::Cabecera,
+                     .linea = filas.front().linea,
+                     .texto = "línea " + std::to_string(filas.front().linea) +
+                              ": la fecha no lleva la hora, ni ninguna de las que siguen; diga en el mapa "
+                              "qué columna la lleva («hora = 2»)"});
   }
 
   void NumerarPorOrden(EsquemaFilas &esquema) const {
@@ -142,6 +161,7 @@ private:
   AnioCanonico &anio_;
   Cuaderno &cuaderno_;
   CamposLinea rotulos_;
+  std::size_t sinHora_ = 0; ///< líneas cuya fecha no la lleva
 };
 
 } // namespace

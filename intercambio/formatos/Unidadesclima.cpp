@@ -25,8 +25,12 @@ const Unidades PRESION{{"Pa"},
                        {"mbar", 100.0, 0.0},
                        {"kPa", 1000.0, 0.0},
                        {"mmHg", PASCALES_POR_MMHG, 0.0}};
-const Unidades RADIACION{
-    {"W/m²"}, {"Wh/m²", 1.0, 0.0}, {"kJ/m²", 1.0 / 3.6, 0.0}, {"MJ/m²", 1000.0 / 3.6, 0.0}};
+const Unidades RADIACION{{"W/m²"},
+                         {"Wh/m²", 1.0, 0.0},
+                         {"kWh/m²", 1000.0, 0.0},
+                         {"J/cm²", 10.0 / 3.6, 0.0},
+                         {"kJ/m²", 1.0 / 3.6, 0.0},
+                         {"MJ/m²", 1000.0 / 3.6, 0.0}};
 const Unidades NUBOSIDAD{{"décimos"}, {"octavos", 1.25, 0.0}, {"%", 0.1, 0.0}, {"tanto por uno", 10.0, 0.0}};
 const Unidades VELOCIDAD{{"m/s"}, {"km/h", 1.0 / 3.6, 0.0}, {"nudos", METROS_POR_SEGUNDO_DE_UN_NUDO, 0.0}};
 const Unidades ANGULO{{"°"}};

@@ -1,5 +1,6 @@
 #include "intercambio/formatos/Fechatexto.h"
 #include "intercambio/formatos/Mapacolumnas.h"
+#include "intercambio/formatos/Unidadesclima.h"
 #include "tests/intercambio/formatos/Generadorclima.h"
 
 #include <gtest/gtest.h>
@@ -161,6 +162,64 @@ TEST(Delimitado, SinRadiacionNoHayAnioYSeDiceCual) {
   EXPECT_NE(NotaDe(resultado.errores, ClaseNota::CampoAusente).texto.find("radiaciones"), std::string::npos);
 }
 
+TEST(Delimitado, UnaFechaAMediasEsUnErrorDelMapa) {
+  for (const char *fecha : {"mes = 1\ndía = 1\n", "hora = 1\n", "día = 1\nhora = 1\n"}) {
+    const ResultadoLectura resultado = Leer(
+        LineasDelimitado(), Cambiar(MapaDePrueba(), "fecha = 1\norden de la fecha = dia mes año\n", fecha));
+    EXPECT_FALSE(resultado.anio);
+    EXPECT_NE(Textos(resultado.errores).find("mes, del día y de la hora"), std::string::npos)
+        << Textos(resultado.errores);
+  }
+}
+
+TEST(Delimitado, UnaFechaSinHoraPideSuColumna) {
+  LineasFichero lineas = LineasDelimitado();
+  for (std::size_t i = CABECERA_DELIMITADO; i < lineas.size(); ++i)
+    lineas[i].erase(10, lineas[i].find(';') - 10);
+  const ResultadoLectura resultado = Leer(lineas, MapaDePrueba());
+  ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+  EXPECT_NE(resultado.errores[0].texto.find("«hora = 2»"), std::string::npos) << resultado.errores[0].texto;
+}
+
+TEST(Delimitado, UnaMedianocheSinHoraEsLaHoraCero) {
+  LineasFichero lineas = LineasDelimitado();
+  for (std::size_t i = CABECERA_DELIMITADO; i < lineas.size(); i += 24)
+    lineas[i].erase(10, lineas[i].find(';') - 10);
+  const ResultadoLectura resultado = Leer(lineas, MapaDePrueba());
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(Valor(*resultado.anio, Campo::TemperaturaSeca, 24), HoraPrueba(24).temperatura / 10.0);
+}
+
+TEST(Delimitado, SinColumnaDeDireccionSeSigueSiSeAceptaInventar) {
+  const ResultadoMapa mapa = LeerMapa(Cambiar(MapaDePrueba(), "direccion del viento = rumbo\n", ""));
+  ASSERT_TRUE(mapa.mapa);
+  const auto compartido = std::make_shared<MapaColumnas>(*mapa.mapa);
+  const std::string texto = Unir(LineasDelimitado());
+  EXPECT_EQ(LeerTextoClima(texto, {.mapa = compartido}).errores.size(), 1U);
+  const ResultadoLectura resultado =
+      LeerTextoClima(texto, {.huecosLargos = HuecosLargos::RellenarVecinos, .mapa = compartido});
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_EQ(Valor(*resultado.anio, Campo::DireccionViento, 36), 0.0);
+}
+
+TEST(Delimitado, UnTextoEnUtf16LoDiceAunqueHayaMapa) {
+  const ResultadoLectura resultado = Leer({std::string("\xFF\xFE") + "f\0e\0"}, MapaDePrueba());
+  ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+  EXPECT_NE(resultado.errores[0].texto.find("UTF-16"), std::string::npos);
+}
+
+TEST(Delimitado, LaRadiacionPorHoraEnSusUnidades) {
+  struct Caso {
+    const char *unidad;
+    double escrito;
+  };
+  for (const Caso &caso : {Caso{"kWh/m2", 0.72}, {"J/cm2", 259.2}, {"kJ/m²", 2592.0}, {"MJ/m²", 2.592}}) {
+    const UnidadClima *unidad = BuscarUnidad(Campo::GlobalHorizontal, caso.unidad);
+    ASSERT_NE(unidad, nullptr) << caso.unidad;
+    EXPECT_NEAR(caso.escrito * unidad->factor + unidad->sumando, 720.0, 1e-9) << caso.unidad;
+  }
+}
+
 struct CasoFecha {
   const char *texto;
   OrdenFecha orden;
@@ -173,7 +232,9 @@ TEST(FechaTexto, EnLosTresOrdenesYSeguida) {
       {"2014-03-05 07:00", AnioMesDia, 2014, 3, 5, 7}, {"05/03/2014 07:00", DiaMesAnio, 2014, 3, 5, 7},
       {"3/5/2014 7", MesDiaAnio, 2014, 3, 5, 7},       {"20140305:0710", AnioMesDia, 2014, 3, 5, 7},
       {"05032014 2300", DiaMesAnio, 2014, 3, 5, 23},   {"05/03/2014 930", DiaMesAnio, 2014, 3, 5, 9},
-      {"2014-03-05 100", AnioMesDia, 2014, 3, 5, 1},   {"2014-03-05T24:00:00Z", AnioMesDia, 2014, 3, 5, 24}};
+      {"2014-03-05 100", AnioMesDia, 2014, 3, 5, 1},   {"2014-03-05T24:00:00Z", AnioMesDia, 2014, 3, 5, 24},
+      {"2014030507", AnioMesDia, 2014, 3, 5, 7},       {"201403052310", AnioMesDia, 2014, 3, 5, 23},
+      {"0503201407", DiaMesAnio, 2014, 3, 5, 7},       {"20140305000000", AnioMesDia, 2014, 3, 5, 0}};
   for (const CasoFecha &caso : casos) {
     FilaClima fila;
     ASSERT_TRUE(LeerFechaTexto(caso.texto, caso.orden, fila)) << caso.texto;
