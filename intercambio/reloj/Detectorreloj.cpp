@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tesmo {
 
@@ -71,13 +72,54 @@ Medida MedirConElPrimero(const AnioCanonico &anio, MetodoReloj &metodo) {
   return {nullptr, {anio.reloj, AUSENTE}};
 }
 
-/// Un cenit escrito dice cómo lo calculó quien hizo el fichero, no cuándo se midió su radiación.
+/// Lo que el mediodía de los días claros se aparta de @p reloj [min]; AUSENTE si hay pocos.
+double DesvioDeLosDias(const AnioCanonico &anio, const RelojFichero &reloj) {
+  const Medida dias = Medir(MetodoReloj::Simetria, anio, reloj);
+  return dias.evidencia ? dias.mejor.reloj.desfaseMin - reloj.desfaseMin : AUSENTE;
+}
+
+/// Un cenit escrito dice cómo lo calculó quien hizo el fichero —al final de la hora, en su centro—, no cuándo
+/// se midió su radiación: por él solo el reloj no se mueve.
+bool LoDesmientenLosDias(const AnioCanonico &anio, const RelojMedido &cenit) {
+  if (cenit.reloj.tiempo == anio.reloj.tiempo &&
+      std::fabs(cenit.reloj.desfaseMin - anio.reloj.desfaseMin) <= TOLERANCIA_RELOJ_MIN)
+    return false;
+  const double conElCenit = DesvioDeLosDias(anio, cenit.reloj);
+  const double conLoDeclarado = DesvioDeLosDias(anio, anio.reloj);
+  return !(std::fabs(conElCenit) < std::fabs(conLoDeclarado));
+}
+
+/// Un cenit que casa con lo declarado no quita que la radiación vaya por otro lado.
 void ContrastarCenit(VeredictoReloj &veredicto, const AnioCanonico &anio) {
   if (veredicto.metodo != MetodoReloj::Cenit) return;
-  const Medida dias = Medir(MetodoReloj::Simetria, anio, veredicto.propuesto.reloj);
-  if (!dias.evidencia) return;
-  const double desvio = dias.mejor.reloj.desfaseMin - veredicto.desfaseHallado;
+  RelojFichero reloj = veredicto.propuesto.reloj;
+  reloj.desfaseMin = veredicto.desfaseHallado;
+  const double desvio = DesvioDeLosDias(anio, reloj);
   if (std::fabs(desvio) > DESVIO_DE_MES) AvisarDeRadiacionAparte(veredicto, desvio);
+}
+
+/// El año en el tiempo de etiqueta que mejor casa y en el otro.
+struct Juicio {
+  Medida elegida;
+  Medida otra;
+  double residuoDeclarado = AUSENTE;
+};
+
+/// @p declarada es lo que @p metodo mide en el tiempo declarado.
+Juicio Juzgar(MetodoReloj metodo, const AnioCanonico &anio, Medida declarada) {
+  Juicio juicio{std::move(declarada), Medir(metodo, anio, OtroTiempo(anio)), AUSENTE};
+  juicio.residuoDeclarado = juicio.elegida.evidencia->Residuo(anio.reloj.desfaseMin);
+  if (juicio.otra.evidencia && juicio.otra.mejor.residuo < MEJORA_PRECISA * juicio.elegida.mejor.residuo)
+    std::swap(juicio.elegida, juicio.otra);
+  return juicio;
+}
+
+/// Si hay días claros, mandan ellos.
+void JuzgarPorLosDias(MetodoReloj &metodo, const AnioCanonico &anio, Juicio &juicio) {
+  Medida dias = Medir(MetodoReloj::Simetria, anio, anio.reloj);
+  if (!dias.evidencia) return;
+  metodo = MetodoReloj::Simetria;
+  juicio = Juzgar(metodo, anio, std::move(dias));
 }
 
 /// Meses que no llevan el reloj del año.
@@ -99,6 +141,17 @@ void Calificar(VeredictoReloj &veredicto, double residuo) {
   veredicto.confianza = veredicto.grado >= CONFIANZA_ALTA    ? ConfianzaReloj::Alta
                         : veredicto.grado >= CONFIANZA_MEDIA ? ConfianzaReloj::Media
                                                              : ConfianzaReloj::Baja;
+}
+
+/// Se dice que el cenit va por su lado y, si es lo único que hay, no basta para cambiar lo declarado.
+void DesconfiarDelCenit(VeredictoReloj &veredicto, RelojFichero cenit) {
+  constexpr double GRADO_BAJO = 0.3;
+  const bool hayDias = veredicto.metodo == MetodoReloj::Simetria;
+  cenit.desfaseMin = std::round(cenit.desfaseMin) + 0.0;
+  AvisarDeCenitAparte(veredicto, cenit, hayDias);
+  if (hayDias) return;
+  veredicto.grado = std::min(veredicto.grado, GRADO_BAJO);
+  veredicto.confianza = ConfianzaReloj::Baja;
 }
 
 bool ConcuerdaDesfase(MetodoReloj metodo, double diferencia) {
@@ -130,17 +183,22 @@ VeredictoReloj DetectarReloj(const AnioCanonico &anio) {
   veredicto.declarado = {anio.reloj, AUSENTE};
   veredicto.propuesto = veredicto.declarado;
   veredicto.desfasePorMes.fill(AUSENTE);
-  Medida elegida = MedirConElPrimero(anio, veredicto.metodo);
-  if (elegida.evidencia) {
-    Medida otra = Medir(veredicto.metodo, anio, OtroTiempo(anio));
-    veredicto.declarado.residuo = elegida.evidencia->Residuo(anio.reloj.desfaseMin);
-    if (otra.evidencia && otra.mejor.residuo < MEJORA_PRECISA * elegida.mejor.residuo)
-      std::swap(elegida, otra);
-    Proponer(veredicto, elegida, otra);
-    veredicto.horas = elegida.evidencia->Numero();
-    veredicto.desfasePorMes = elegida.evidencia->PorMes(veredicto.desfaseHallado);
-    Calificar(veredicto, elegida.mejor.residuo);
-    ContrastarCenit(veredicto, anio);
+  Medida declarada = MedirConElPrimero(anio, veredicto.metodo);
+  if (declarada.evidencia) {
+    Juicio juicio = Juzgar(veredicto.metodo, anio, std::move(declarada));
+    const RelojMedido primero = juicio.elegida.mejor;
+    const bool cenitAparte = veredicto.metodo == MetodoReloj::Cenit && LoDesmientenLosDias(anio, primero);
+    if (cenitAparte) JuzgarPorLosDias(veredicto.metodo, anio, juicio);
+    veredicto.declarado.residuo = juicio.residuoDeclarado;
+    Proponer(veredicto, juicio.elegida, juicio.otra);
+    veredicto.horas = juicio.elegida.evidencia->Numero();
+    veredicto.desfasePorMes = juicio.elegida.evidencia->PorMes(veredicto.desfaseHallado);
+    Calificar(veredicto, juicio.elegida.mejor.residuo);
+    if (cenitAparte) {
+      DesconfiarDelCenit(veredicto, primero.reloj);
+    } else {
+      ContrastarCenit(veredicto, anio);
+    }
   }
   EscribirVeredicto(veredicto, anio.sitio, MesesAparte(veredicto));
   return veredicto;

@@ -106,6 +106,13 @@ void AvisarDeRadiacionAparte(VeredictoReloj &veredicto, double desvio) {
       ConSigno(desvio, "0") + " min del hallado. Compruebe cuál de los dos vale.");
 }
 
+void AvisarDeCenitAparte(VeredictoReloj &veredicto, const RelojFichero &cenit, bool hayDias) {
+  veredicto.avisos.push_back(
+      "El cenit escrito es el de " + TextoReloj(cenit) + ", y no el del reloj que declara el fichero; " +
+      (hayDias ? "la radiación de los días claros no lo sigue" : "no hay días claros con que comprobarlo") +
+      ", y por él solo no se mueve nada.");
+}
+
 std::string Cifra(double valor, const char *patron) {
   std::string texto = valor < 0.0 ? "−" : "";
   PatronNumero(patron).Escribir(texto, std::fabs(valor), ',');

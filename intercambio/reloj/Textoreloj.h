@@ -14,6 +14,10 @@ void EscribirVeredicto(VeredictoReloj &veredicto, const SitioClima &sitio,
 /// Avisa de que la radiación de los días claros va @p desvio minutos más allá que el cenit escrito.
 void AvisarDeRadiacionAparte(VeredictoReloj &veredicto, double desvio);
 
+/// Avisa de que el cenit escrito es el de @p cenit y no el del reloj declarado; @p hayDias si los días claros
+/// dicen que la radiación no lo sigue.
+void AvisarDeCenitAparte(VeredictoReloj &veredicto, const RelojFichero &cenit, bool hayDias);
+
 /// @p valor con coma decimal y tantos decimales como ceros siguen al punto de @p patron ("0.0").
 [[nodiscard]] std::string Cifra(double valor, const char *patron);
 

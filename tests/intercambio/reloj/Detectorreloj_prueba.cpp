@@ -1,4 +1,5 @@
 #include "intercambio/reloj/Detectorreloj.h"
+#include "intercambio/reloj/Eleccionreloj.h"
 #include "tests/intercambio/reloj/Aniofisico.h"
 
 #include <gtest/gtest.h>
@@ -155,21 +156,77 @@ TEST(DetectorReloj, SinGlobalUsaLaSimetriaDeLaDirectaNormal) {
   EXPECT_NEAR(veredicto.desfaseHallado, -30.0, 5.0);
 }
 
-TEST(DetectorReloj, AvisaSiLaRadiacionNoSigueAlCenitEscrito) {
-  AnioCanonico anio = Anio(SOLAR);
-  const AnioCanonico tarde = Anio({TiempoEtiqueta::SolarVerdadero, 0.0, 0.0});
+/// El año de @p anio como un .met: directa y difusa horizontales y el cenit de cada hora, pero el cenit, del
+/// año @p otro.
+AnioCanonico ComoMetConElCenitDe(AnioCanonico anio, const AnioCanonico &otro) {
   for (std::size_t i = 0; i < 8760; ++i) {
-    const double normal = tarde[Campo::DirectaNormal].valores[i];
-    const double haz = tarde[Campo::GlobalHorizontal].valores[i] - tarde[Campo::DifusaHorizontal].valores[i];
-    const double coseno = normal > 0.0 ? std::min(1.0, haz / normal) : 0.0;
+    const auto haz = [i](const AnioCanonico &a) {
+      return a[Campo::GlobalHorizontal].valores[i] - a[Campo::DifusaHorizontal].valores[i];
+    };
+    const double normal = otro[Campo::DirectaNormal].valores[i];
+    const double coseno = normal > 0.0 ? std::min(1.0, haz(otro) / normal) : 0.0;
     anio[Campo::CenitSolar].Poner(i, std::acos(coseno) * 180.0 / 3.14159265358979, Procedencia::Copiada);
+    anio[Campo::DirectaHorizontal].Poner(i, haz(anio), Procedencia::Copiada);
   }
   Quitar(anio, Campo::DirectaNormal);
+  Quitar(anio, Campo::GlobalHorizontal);
+  return anio;
+}
+
+TEST(DetectorReloj, ElCenitDelFinalDeLaHoraNoMueveLaRadiacion) {
+  const AnioCanonico anio =
+      ComoMetConElCenitDe(Anio(SOLAR), Anio({TiempoEtiqueta::SolarVerdadero, 0.0, 0.0}));
+  const VeredictoReloj veredicto = DetectarReloj(anio);
+  ASSERT_EQ(veredicto.metodo, MetodoReloj::Simetria) << veredicto.texto;
+  EXPECT_TRUE(veredicto.concuerda) << veredicto.texto;
+  EXPECT_EQ(veredicto.propuesto.reloj, SOLAR);
+  ASSERT_EQ(veredicto.avisos.size(), 1U) << veredicto.texto;
+  EXPECT_NE(veredicto.avisos[0].find("El cenit escrito es el de hora solar verdadera, etiqueta en el centro"),
+            std::string::npos)
+      << veredicto.avisos[0];
+  EXPECT_NE(veredicto.avisos[0].find("no se mueve"), std::string::npos) << veredicto.avisos[0];
+}
+
+TEST(DetectorReloj, SiLosDiasClarosVanConElCenitElRelojSeMueve) {
+  const RelojFichero enPunto{TiempoEtiqueta::SolarVerdadero, 0.0, 0.0};
+  AnioCanonico anio = ComoMetConElCenitDe(Anio(enPunto), Anio(enPunto));
+  anio.reloj = SOLAR;
+  const VeredictoReloj veredicto = DetectarReloj(anio);
+  EXPECT_EQ(veredicto.metodo, MetodoReloj::Cenit);
+  EXPECT_EQ(veredicto.propuesto.reloj, enPunto) << veredicto.texto;
+  EXPECT_EQ(veredicto.confianza, ConfianzaReloj::Alta);
+  EXPECT_TRUE(veredicto.avisos.empty());
+}
+
+TEST(DetectorReloj, ElCenitSoloNoBastaParaCambiarLoDeclarado) {
+  AnioCanonico anio = ComoMetConElCenitDe(Anio(SOLAR), Anio({TiempoEtiqueta::SolarVerdadero, 0.0, 0.0}));
+  Quitar(anio, Campo::DirectaHorizontal);
+  Quitar(anio, Campo::DifusaHorizontal);
+  const VeredictoReloj veredicto = DetectarReloj(anio);
+  EXPECT_EQ(veredicto.metodo, MetodoReloj::Cenit);
+  EXPECT_EQ(veredicto.confianza, ConfianzaReloj::Baja);
+  EXPECT_EQ(ElegirReloj(veredicto, {}), SOLAR);
+  ASSERT_EQ(veredicto.avisos.size(), 1U);
+  EXPECT_NE(veredicto.avisos[0].find("no hay días claros"), std::string::npos) << veredicto.avisos[0];
+}
+
+TEST(DetectorReloj, AvisaSiElCenitCasaYLaRadiacionNo) {
+  AnioCanonico anio = ComoMetConElCenitDe(Anio({TiempoEtiqueta::SolarVerdadero, 0.0, 0.0}), Anio(SOLAR));
+  anio.reloj = SOLAR;
   const VeredictoReloj veredicto = DetectarReloj(anio);
   ASSERT_EQ(veredicto.metodo, MetodoReloj::Cenit);
+  EXPECT_TRUE(veredicto.concuerda);
   ASSERT_EQ(veredicto.avisos.size(), 1U) << veredicto.texto;
-  EXPECT_NE(veredicto.avisos[0].find("cenit escrito"), std::string::npos);
-  EXPECT_NE(veredicto.avisos[0].find("− 3"), std::string::npos) << veredicto.avisos[0];
+  EXPECT_NE(veredicto.avisos[0].find("no sigue al cenit escrito"), std::string::npos);
+}
+
+TEST(ElegirReloj, EntreOficialYUtcSeTrasladaLoQueDicenLosDatos) {
+  // Un PVGIS con la ciudad cambiada: declara la hora oficial, y sus datos son UTC − 50.
+  AnioCanonico anio = Anio(PVGIS);
+  anio.reloj = PENINSULA;
+  EXPECT_NEAR(ElegirReloj(DetectarReloj(anio), {.tiempo = TiempoEtiqueta::Utc}).desfaseMin, -50.0, 1.0);
+  // Con lo declarado bien, quien elige otro tiempo lo desmiente y se vuelve a lo corriente.
+  EXPECT_EQ(ElegirReloj(DetectarReloj(Anio(PENINSULA)), {.tiempo = TiempoEtiqueta::Utc}).desfaseMin, -30.0);
 }
 
 TEST(DetectorReloj, SinSolConQueMedirSeQuedaConLoDeclarado) {
