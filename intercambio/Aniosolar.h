@@ -13,7 +13,8 @@ namespace tesmo {
 /// El año tal como lo leen los motores: tiempo solar verdadero, la hora h (1 a 24) centrada en h − 0,5, 8760
 /// horas, el año cerrado sobre sí mismo. Las diez series son las columnas 4 a 13 de un .met, con todas sus
 /// cifras; la presión no se escribe en él. Con el centro de la hora en la noche de los motores no hay
-/// radiación, el acimut es 0 y el cenit, 90.
+/// radiación, el acimut es 0 y el cenit, 90; un año que ya venía en esta hora lleva los ángulos de su
+/// fichero.
 struct AnioSolar {
   SitioClima sitio;
   double husoHoras = 0; ///< de la hora oficial de invierno del sitio [h, este positivo]; meridiano entre 15

@@ -158,7 +158,7 @@ ResultadoConversion LlevarAHoraSolar(const AnioCanonico &anio, const RelojFicher
   }
   resultado.anio->sitio = anio.sitio;
   resultado.anio->husoHoras = reloj.husoHoras;
-  Informar(informe, {anio, completo, escala, *resultado.anio, radiacion});
+  Informar(informe, {anio, completo, escala, *resultado.anio, radiacion, sol});
   return resultado;
 }
 

@@ -15,6 +15,7 @@ namespace {
 
 constexpr double MEDIA_HORA = 0.5;
 constexpr double VATIOS_POR_KILOVATIO = 1000.0;
+constexpr double CIEN = 100.0;
 /// Los días con menos energía no cuentan en el mayor desvío [Wh/m²].
 constexpr double ENERGIA_DE_DIA_MINIMA = 100.0;
 /// Sin tanto, la radiación fuera de sol no merece aviso [kWh/m² al año].
@@ -116,6 +117,30 @@ void AvisarDeLaNoche(InformeConversion &informe) {
                            " kWh/m² al año lejos de todo sol: no pasan. Revise el reloj.");
 }
 
+/// De las nubes y las medias horarias no sale un cierre así [W/m²].
+constexpr double CIERRE_NOTABLE = 50.0;
+
+/// Parte de la radiación de fuera de la atmósfera que llega al suelo en un año: ni el cielo siempre cubierto
+/// la deja en menos ni el limpio en más.
+constexpr double CLARIDAD_MINIMA = 0.1;
+constexpr double CLARIDAD_MAXIMA = 0.9;
+
+/// @p extraterrestre, del año sobre la horizontal [kWh/m²].
+void AvisarDeLaRadiacion(InformeConversion &informe, double extraterrestre) {
+  const double claridad = informe.global.energia.antes / extraterrestre;
+  if (claridad < CLARIDAD_MINIMA || claridad > CLARIDAD_MAXIMA) {
+    informe.avisos.push_back("La global del año, " + Cifra(informe.global.energia.antes, "0.0") +
+                             " kWh/m², es el " + Cifra(CIEN * claridad, "0.0") +
+                             " % de la que llega fuera de la atmósfera, y eso no puede ser. Revise las "
+                             "columnas de radiación y sus unidades.");
+  }
+  if (informe.cierre.antes > CIERRE_NOTABLE) {
+    informe.avisos.push_back("La global no es la difusa más la directa: se apartan " +
+                             Cifra(informe.cierre.antes, "0") +
+                             " W/m² (media cuadrática). Revise las columnas de radiación y el reloj.");
+  }
+}
+
 } // namespace
 
 void Informar(InformeConversion &informe, const ConversionHecha &hecha) {
@@ -134,6 +159,8 @@ void Informar(InformeConversion &informe, const ConversionHecha &hecha) {
   informe.energiaDeNoche = hecha.radiacion.perdida / VATIOS_POR_KILOVATIO;
   informe.cierre = CierreDelHaz(hecha);
   AvisarDeLaNoche(informe);
+  AvisarDeLaRadiacion(informe,
+                      std::accumulate(hecha.sol.extraterrestre.begin(), hecha.sol.extraterrestre.end(), 0.0));
 }
 
 } // namespace tesmo

@@ -3,6 +3,7 @@
 #include "intercambio/Aniosolar.h"
 #include "intercambio/magnitudes/Aniocompleto.h"
 #include "intercambio/reloj/Radiacionsolar.h"
+#include "intercambio/sintesis/Soldelanio.h"
 
 namespace tesmo {
 
@@ -13,6 +14,7 @@ struct ConversionHecha {
   const EscalaTiempo &escala;
   const AnioSolar &solar;
   const RadiacionEnHoraSolar &radiacion;
+  const SolDelAnio &sol; ///< el de los motores
 };
 
 /// Pone en @p informe las cuentas, los picos, las energías y el cierre de @p hecha; añade los avisos de lo

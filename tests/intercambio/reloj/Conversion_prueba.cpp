@@ -55,6 +55,25 @@ TEST(Conversion, NadaApareceAntesDeLaSalidaNiDespuesDeLaPuesta) {
   }
 }
 
+TEST(Conversion, UnHazQueNoCierraYUnaRadiacionImposibleSeAvisan) {
+  AnioCanonico anio = AnioFisico({.reloj = PENINSULA});
+  const auto avisa = [](const AnioCanonico &dado, const char *parte) {
+    const std::vector<std::string> avisos = LlevarAHoraSolar(dado, dado.reloj).informe.avisos;
+    return std::ranges::any_of(avisos,
+                               [parte](const std::string &a) { return a.find(parte) != std::string::npos; });
+  };
+  EXPECT_FALSE(avisa(anio, "no es la difusa más la directa"));
+  EXPECT_FALSE(avisa(anio, "sus unidades"));
+  for (double &valor : anio[Campo::GlobalHorizontal].valores) valor *= 0.8;
+  EXPECT_TRUE(avisa(anio, "no es la difusa más la directa"));
+  for (const double factor : {0.0, 1e-3, 3.0}) {
+    AnioCanonico otro = AnioFisico({.reloj = PENINSULA});
+    for (const Campo campo : {Campo::GlobalHorizontal, Campo::DirectaNormal, Campo::DifusaHorizontal})
+      for (double &valor : otro[campo].valores) valor *= factor;
+    EXPECT_TRUE(avisa(otro, "sus unidades")) << factor;
+  }
+}
+
 TEST(Conversion, ElHazCierraYLaDirectaNormalEsPosible) {
   for (const RelojFichero &reloj : Relojes()) {
     const ResultadoConversion r = LlevarAHoraSolar(AnioFisico({.reloj = reloj}), reloj);
