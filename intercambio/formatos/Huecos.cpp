@@ -218,7 +218,12 @@ private:
   void AvisarDeAusentes(Campo campo) {
     if (RequisitoDe(campo) != nullptr && !EsRadiacionSolar(campo) && !SuplidoPorHumedad(campo)) return;
     if (!HayAlguno(anio_, campo)) return;
-    const std::vector<TramoSinDato> tramos = TramosDe(campo);
+    // De una hora sin línea ya se dijo que falta entera.
+    const bool seRellena = largos_ == HuecosLargos::RellenarVecinos;
+    const std::vector<double> &valores = anio_[campo].valores;
+    const std::vector<TramoSinDato> tramos = Tramos([&](std::size_t hora) {
+      return std::isnan(valores[hora]) && (seRellena || anio_.lineas[hora] != 0);
+    });
     if (tramos.empty()) return;
     NotaLectura nota =
         Nota(ClaseNota::HuecoSinImportancia, campo, tramos.front().primera, tramos.back().Ultima());

@@ -72,6 +72,7 @@ public:
     }
     if (!hayRotulos) return RechazarOtraDescarga();
     if (RechazarSeparador(linea, lineas_.Numero(), cuaderno_)) return;
+    if (!latitud_ && !longitud_) return RechazarSinCabecera();
     PonerSitio(latitud_, longitud_, altitud_, 1, anio_.sitio, cuaderno_);
     ProponerReloj();
     EsquemaFilas esquema{.camposMinimos = 2, .fecha = LeerFecha, .fin = EsLeyenda};
@@ -88,6 +89,15 @@ private:
                               std::string(ROTULO_FECHA) +
                               ",T2m,RH…»; en PVGIS, descargue «TMY» en CSV o en EPW, y no la serie horaria "
                               "ni las medias"});
+  }
+
+  void RechazarSinCabecera() {
+    cuaderno_.Error({.clase = ClaseNota::Cabecera,
+                     .linea = 1,
+                     .texto = "no se sabe de dónde es: delante de la línea " +
+                              std::to_string(lineas_.Numero()) +
+                              " faltan «Latitude (decimal degrees): 37.5», «Longitude (decimal degrees): "
+                              "-3.5» y «Elevation (m): 600»"});
   }
 
   void LeerCabecera(std::string_view linea) {

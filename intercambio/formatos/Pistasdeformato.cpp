@@ -95,6 +95,11 @@ std::string PistaDeFormato(std::string_view texto) {
     return "es un CSV de la NSRDB; descríbalo en un mapa con «líneas de cabecera = 3», las columnas Year, "
            "Month, Day y Hour y las de sus datos";
   }
+  if (Contiene(primera, "date (mm/dd/yyyy)")) {
+    return "parece un TMY3 sin su primera línea: estación, nombre, estado, huso, latitud, longitud y "
+           "altitud, "
+           "con comas; añádala";
+  }
   if (EsRegistroDeEpw(segunda))
     return "parece un EPW sin su primera línea, «LOCATION,…», que da el sitio y el huso; añádala";
   return PistaDeMet(segunda, cuarta);

@@ -29,11 +29,7 @@ RelojFichero ElegirReloj(const VeredictoReloj &veredicto, const EleccionReloj &e
     const std::optional<double> hallado =
         veredicto.concuerda ? std::nullopt : DesfaseEnOtroTiempoCivil(reloj, *eleccion.tiempo);
     reloj = declarado;
-    if (hallado) {
-      reloj.desfaseMin = *hallado;
-    } else if (*eleccion.tiempo != declarado.tiempo) {
-      reloj.desfaseMin = FIN_DE_LA_HORA_MIN;
-    }
+    if (*eleccion.tiempo != declarado.tiempo) reloj.desfaseMin = hallado.value_or(FIN_DE_LA_HORA_MIN);
     reloj.tiempo = *eleccion.tiempo;
   }
   if (eleccion.desfaseMin) reloj.desfaseMin = *eleccion.desfaseMin;

@@ -206,6 +206,8 @@ TEST(Huecos, TresRegistrosQueFaltanSeInterpolanYCuatroNo) {
   ASSERT_EQ(cuatro.errores.size(), 1U) << Textos(cuatro.errores);
   EXPECT_EQ(cuatro.errores[0].linea, 308);
   EXPECT_EQ(cuatro.errores[0].ultimaLinea, 309);
+  // Ni se promete calcular lo que no hay.
+  EXPECT_EQ(CuantasDe(cuatro.avisos, ClaseNota::HuecoSinImportancia), 0) << Textos(cuatro.avisos);
 }
 
 TEST(Huecos, UnFicheroSinTemperaturasNoTieneAnio) {

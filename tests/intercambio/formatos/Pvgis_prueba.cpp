@@ -101,6 +101,15 @@ TEST(PvgisCsv, LaSerieHorariaNoEsUnAnioTipico) {
   EXPECT_TRUE(resultado.avisos.empty()) << Textos(resultado.avisos);
 }
 
+TEST(PvgisCsv, SinLasLineasDelSitioSeDiceCualesSon) {
+  LineasFichero lineas = LineasPvgisCsv();
+  lineas.erase(lineas.begin(), lineas.begin() + 17);
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  EXPECT_EQ(resultado.formato, FormatoClima::PvgisCsv);
+  ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+  EXPECT_NE(resultado.errores[0].texto.find("«Elevation (m): 600»"), std::string::npos);
+}
+
 TEST(PvgisCsv, LasComillasYLosBlancosNoEstorban) {
   LineasFichero lineas = LineasPvgisCsv();
   lineas[17].insert(0, "  ");

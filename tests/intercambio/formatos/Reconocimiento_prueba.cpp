@@ -121,6 +121,7 @@ TEST(Reconocimiento, LoQueSeDescargaSinQuererSeDiceQueEs) {
       {"\xD0\xCF\x11\xE0\xA1", "hoja de cálculo"},
       {"{\"inputs\": {\"location\": {}}}", "JSON"},
       {"<!DOCTYPE html><html>", "página web"},
+      {"Date (MM/DD/YYYY),Time (HH:MM),GHI (W/m^2)\n01/01/1997,01:00,0\n", "TMY3 sin su primera línea"},
       {LineasEpw().back() + "\n" + LineasEpw().back() + "\n", "LOCATION"},
       {"Source,Location ID,City,State,Country,Latitude\nNSRDB,1,-,-,-,37\nYear,Month,Day,Hour\n", "NSRDB"}};
   for (const auto &[texto, parte] : casos) {
