@@ -56,6 +56,17 @@ bool EsRegistroDeEpw(std::string_view linea) {
          !LeerNumero(campos[DE_FECHA]);
 }
 
+/// ¿Es @p linea un registro de un .met de trece o de quince columnas?
+bool EsRegistroDeMet(std::string_view linea) {
+  constexpr std::size_t TRECE = 13;
+  constexpr std::size_t QUINCE = 15;
+  CamposLinea campos;
+  PartirLinea(linea, SEPARADOR_BLANCOS, QUINCE + 1, campos);
+  return (campos.size() == TRECE || campos.size() == QUINCE) &&
+         std::all_of(campos.begin(), campos.end(),
+                     [](std::string_view c) { return LeerNumero(c).has_value(); });
+}
+
 std::string PistaDeMet(std::string_view segunda, std::string_view cuarta) {
   if (SonTreceConComa(cuarta)) {
     return "parece un .met de trece columnas con coma decimal; cámbiela por punto, o descríbalo en un mapa "
@@ -102,6 +113,11 @@ std::string PistaDeFormato(std::string_view texto) {
   }
   if (EsRegistroDeEpw(segunda))
     return "parece un EPW sin su primera línea, «LOCATION,…», que da el sitio y el huso; añádala";
+  if (EsRegistroDeMet(segunda)) {
+    return "parece un .met sin sus dos primeras líneas: un título, y latitud, longitud, altitud y meridiano "
+           "de "
+           "la hora oficial; añádalas";
+  }
   return PistaDeMet(segunda, cuarta);
 }
 

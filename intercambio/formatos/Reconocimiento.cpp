@@ -58,6 +58,11 @@ bool EmpiezaConSitio(std::string_view linea, CamposLinea &campos) {
                      [](std::string_view c) { return LeerNumero(c).has_value(); });
 }
 
+/// Sin las dos líneas de cabecera, el segundo registro pasaría por el sitio: 1° N, 1° E, 2 m.
+bool EsRegistroDeMet(std::string_view linea, CamposLinea &campos) {
+  return SonNumeros(linea, CAMPOS_MET_TRECE, campos) || SonNumeros(linea, CAMPOS_MET_QUINCE, campos);
+}
+
 /// Quince columnas: el primer registro del 1 de enero, en una línea o partido en dos. La tercera línea puede
 /// perderse, así que también se mira la cuarta.
 bool EsMetDeQuince(std::string_view texto) {
@@ -65,7 +70,9 @@ bool EsMetDeQuince(std::string_view texto) {
   Lineas lineas(texto);
   std::string_view linea;
   CamposLinea campos;
-  if (!lineas.Siguiente(linea) || !lineas.Siguiente(linea) || !EmpiezaConSitio(linea, campos)) return false;
+  if (!lineas.Siguiente(linea) || !lineas.Siguiente(linea) || !EmpiezaConSitio(linea, campos) ||
+      EsRegistroDeMet(linea, campos))
+    return false;
   while (lineas.Numero() < LINEAS_MIRADAS && lineas.Siguiente(linea)) {
     if (SonNumeros(linea, CAMPOS_MET_QUINCE, campos)) return true;
   }
@@ -93,7 +100,9 @@ bool ParecenDeTrece(std::string_view texto) {
   Lineas lineas(texto);
   std::string_view linea;
   CamposLinea campos;
-  if (!lineas.Siguiente(linea) || !lineas.Siguiente(linea) || !EmpiezaConSitio(linea, campos)) return false;
+  if (!lineas.Siguiente(linea) || !lineas.Siguiente(linea) || !EmpiezaConSitio(linea, campos) ||
+      EsRegistroDeMet(linea, campos))
+    return false;
   int malas = 0;
   int leidas = 0;
   while (leidas < HORAS_DEL_DIA && lineas.Siguiente(linea)) {

@@ -114,6 +114,17 @@ TEST(Reconocimiento, UnMetConComaDecimalODelSitioConComasLoDice) {
   EXPECT_NE(Textos(LeerTextoClima(Unir(sitio)).errores).find("la línea 2"), std::string::npos);
 }
 
+TEST(Reconocimiento, UnMetSinCabeceraNoTomaUnRegistroPorElSitio) {
+  for (LineasFichero lineas : {LineasMetTrece(), LineasMetQuince()}) {
+    lineas.erase(lineas.begin(), lineas.begin() + CABECERA_MET);
+    const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+    EXPECT_FALSE(resultado.anio);
+    ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+    EXPECT_NE(resultado.errores[0].texto.find("sin sus dos primeras líneas"), std::string::npos)
+        << resultado.errores[0].texto;
+  }
+}
+
 TEST(Reconocimiento, LoQueSeDescargaSinQuererSeDiceQueEs) {
   const std::vector<std::array<std::string, 2>> casos{
       {std::string("PK\x03\x04", 4) + "resto", "ZIP"},
