@@ -70,6 +70,21 @@ bool TieneRegistros(const AnioCanonico &anio) {
   return std::any_of(anio.lineas.begin(), anio.lineas.end(), [](int linea) { return linea != 0; });
 }
 
+/// Un aire que en todo el año no pasa del uno por ciento de humedad está en otra unidad.
+void AvisarDeHumedadEnTantoPorUno(const AnioCanonico &anio, Cuaderno &cuaderno) {
+  const std::vector<double> &valores = anio[Campo::HumedadRelativa].valores;
+  const bool algunoPasa = std::any_of(valores.begin(), valores.end(), [](double v) { return v > 1.0; });
+  const bool hay = std::any_of(valores.begin(), valores.end(), [](double v) { return v > 0.0; });
+  if (!hay || algunoPasa) return;
+  cuaderno.Aviso(
+      {.clase = ClaseNota::ValorImposible,
+       .campo = Campo::HumedadRelativa,
+       .veces = HORAS_DEL_ANIO,
+       .texto = std::string(NombreCampo(Campo::HumedadRelativa)) +
+                ": no pasa de 1 en todo el año; parece en tanto por uno, y entonces el fichero ha de "
+                "describirse en un mapa con «[tanto por uno]»"});
+}
+
 /// Tapa los huecos del año, o sólo dice cuáles no se podrían tapar.
 void Terminar(AnioCanonico anio, const OpcionesLectura &opciones, Cuaderno &cuaderno) {
   ResultadoLectura &resultado = cuaderno.Resultado();
@@ -77,6 +92,7 @@ void Terminar(AnioCanonico anio, const OpcionesLectura &opciones, Cuaderno &cuad
   if (TieneRegistros(anio)) {
     // El .met de quince columnas se toma como lo toman las localidades, que no preguntan.
     if (anio.formato != FormatoClima::MetQuince) QuitarRadiacionNula(anio, cuaderno);
+    AvisarDeHumedadEnTantoPorUno(anio, cuaderno);
     if (opciones.paraAuditar) resultado.anio = anio;
     TaparHuecos(anio, opciones.huecosLargos, cuaderno);
     if (!opciones.paraAuditar && resultado.errores.empty()) resultado.anio = std::move(anio);

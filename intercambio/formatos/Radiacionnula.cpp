@@ -54,7 +54,7 @@ void QuitarRadiacionNula(AnioCanonico &anio, Cuaderno &cuaderno) {
   for (const Campo campo : nulas) {
     anio[campo] = SerieCanonica();
     cuaderno.Aviso(
-        {.clase = ClaseNota::CodigoAusente,
+        {.clase = ClaseNota::ValorImposible,
          .campo = campo,
          .veces = HORAS_DEL_ANIO,
          .texto = std::string(NombreCampo(campo)) +

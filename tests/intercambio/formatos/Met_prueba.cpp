@@ -64,6 +64,16 @@ TEST(MetTrece, LosCodigosDeOtroFormatoNoPasanPorDatos) {
   }
 }
 
+TEST(MetTrece, UnaHumedadQueNoPasaDeUnoSeDice) {
+  LineasFichero lineas = LineasMetTrece();
+  for (std::size_t i = CABECERA_MET; i < lineas.size(); ++i) CambiarCampo(lineas[i], 8, "0.64", ' ');
+  const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+  ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
+  EXPECT_NE(Textos(resultado.avisos).find("parece en tanto por uno"), std::string::npos);
+  CambiarCampo(lineas[CABECERA_MET + 7], 8, "64", ' ');
+  EXPECT_EQ(Textos(LeerTextoClima(Unir(lineas)).avisos).find("tanto por uno"), std::string::npos);
+}
+
 TEST(MetQuince, LeeLoMismoQueElLectorDeLasLocalidades) {
   const std::string texto = Unir(LineasMetQuince());
   const ResultadoLectura resultado = LeerTextoClima(texto);

@@ -25,7 +25,7 @@ LineasFichero EpwCon(const std::vector<std::size_t> &columnas, const std::string
 TEST(RadiacionNula, UnaGlobalDeCeroTodoElAnioNoApagaElSol) {
   const ResultadoLectura resultado = LeerTextoClima(Unir(EpwCon({GLOBAL}, "0")));
   ASSERT_TRUE(resultado.SinErrores()) << Textos(resultado.errores);
-  const NotaLectura nota = NotaDe(resultado.avisos, ClaseNota::CodigoAusente);
+  const NotaLectura nota = NotaDe(resultado.avisos, ClaseNota::ValorImposible);
   EXPECT_EQ(nota.campo, Campo::GlobalHorizontal);
   EXPECT_NE(nota.texto.find("0 en todo el año"), std::string::npos) << nota.texto;
   EXPECT_TRUE(std::isnan(Valor(*resultado.anio, Campo::GlobalHorizontal, 36)));
