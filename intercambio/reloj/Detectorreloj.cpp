@@ -16,6 +16,8 @@ constexpr double GRADOS_POR_HORA = 15.0;
 constexpr double MEJORA_PRECISA = 0.75;
 /// Un mes que se aparta más de los otros no lleva su reloj [min].
 constexpr double DESVIO_DE_MES = 15.0;
+/// Lo mismo por la simetría de unos pocos días claros: la mitad de la hora que adelanta el verano [min].
+constexpr double DESVIO_DE_MES_POR_SIMETRIA = 30.0;
 constexpr double CONFIANZA_ALTA = 0.75;
 constexpr double CONFIANZA_MEDIA = 0.4;
 
@@ -125,9 +127,10 @@ void JuzgarPorLosDias(MetodoReloj &metodo, const AnioCanonico &anio, Juicio &jui
 /// Meses que no llevan el reloj del año.
 std::vector<int> MesesAparte(const VeredictoReloj &veredicto) {
   std::vector<int> meses;
+  const double mayor = veredicto.metodo == MetodoReloj::Simetria ? DESVIO_DE_MES_POR_SIMETRIA : DESVIO_DE_MES;
   for (int mes = 0; mes < static_cast<int>(veredicto.desfasePorMes.size()); ++mes) {
     const double desvio = veredicto.desfasePorMes[static_cast<std::size_t>(mes)] - veredicto.desfaseHallado;
-    if (std::fabs(desvio) > DESVIO_DE_MES) meses.push_back(mes);
+    if (std::fabs(desvio) > mayor) meses.push_back(mes);
   }
   return meses;
 }
