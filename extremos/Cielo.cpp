@@ -7,7 +7,7 @@ namespace tesmo::extremos {
 
 namespace {
 
-constexpr long double CERO_ABSOLUTO = 273.0L;
+constexpr long double KELVIN_EN_CERO_CELSIUS = 273.0L; // no 273,15: se conserva
 constexpr long double DECIMAS = 10.0L;
 
 } // namespace
@@ -21,7 +21,7 @@ long double CieloCubierto(long double claridad) {
 long double TemperaturaDeCielo(long double t, long double rocio, long double nubes) {
   const long double correccion = 1.0L + nubes * (0.0224L + nubes * (-0.0035L + nubes * 0.00028L));
   const long double emisividad = correccion * (0.787L + 0.0028L * rocio);
-  return std::pow(emisividad, 0.25L) * (t + CERO_ABSOLUTO) - CERO_ABSOLUTO;
+  return std::pow(emisividad, 0.25L) * (t + KELVIN_EN_CERO_CELSIUS) - KELVIN_EN_CERO_CELSIUS;
 }
 
 ValoresHorarios CursoDeCielo(const ValoresHorarios &exterior, const ValoresHorarios &rocio,

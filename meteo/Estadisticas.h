@@ -32,7 +32,9 @@ struct EstadisticasDelMes {
   ResultadoEstadisticas resultado;
 };
 
-/// Temperaturas desde las que se forman los grados-día [°C].
+/// Temperaturas desde las que se forman los grados-día [°C]. Son horarios: cada hora que cuenta suma 1/24 de
+/// lo que su temperatura queda por debajo (calefacción) o por encima (refrigeración) de la base, si no es
+/// negativo.
 struct BasesGradosDia {
   float calefaccion = 15.0F;
   float refrigeracion = 25.0F;

@@ -15,8 +15,9 @@ struct EstadoBuscaRaiz {
   double tolerancia = 0.0;
 };
 
-/// Un paso de la búsqueda de una raíz: incremento del 10 % en el primero, secante en el segundo y parábola o
-/// secante después. La división por cero sigue a IEEE 754; ningún caso da vueltas sin fin.
+/// Un paso de la búsqueda de una raíz: incremento del 10 % en el primero, secante en el segundo y parábola
+/// por tres puntos (Muller, 1956) o secante después. La división por cero sigue a IEEE 754; ningún caso da
+/// vueltas sin fin.
 /// @param estado memoria, que empieza a cero salvo la tolerancia
 /// @param x estimación en vigor @param f su residuo @param k número de pasos ya dados
 /// @param convergido si @p x ya es la raíz; entonces la memoria no cambia

@@ -30,7 +30,7 @@ enum class Magnitudaire : std::uint8_t {
 /// Las operaciones que dan un estado llevan cada argumento a su intervalo y dejan constancia en el registro;
 /// un argumento que no es número toma el mínimo. Nada comprueba p > p_s(t): por debajo, la humedad de
 /// saturación es negativa y la humedad que queda también (se conserva).
-/// Fuente de las relaciones: ASHRAE Handbook of Fundamentals, capítulo Psychrometrics.
+/// Fuente de las relaciones: ASHRAE Handbook of Fundamentals, 1997, cap. 6 (Psychrometrics).
 class CorrienteAire : public ObjetoBase {
 public:
   /// Aire a 25 °C, 50 % y 101325 Pa, con 15 kg/s.

@@ -4,7 +4,7 @@ namespace tesmo {
 
 /// Presión de saturación del vapor de agua [Pa], sobre agua líquida desde 0 °C y sobre hielo por debajo.
 /// @param t temperatura [°C]. Con T = t + 273.15 negativa el resultado no es un número.
-/// Fuente: R. W. Hyland y A. Wexler (1983), en ASHRAE Handbook of Fundamentals, capítulo Psychrometrics.
+/// Fuente: R. W. Hyland y A. Wexler (1983), en ASHRAE Handbook of Fundamentals, 1997, cap. 6.
 [[nodiscard]] float presionSaturacion(float t);
 
 /// Humedad absoluta del aire saturado [kg/kg], ε·p_s / (p − p_s). Negativa si p < p_s(t), infinita si son
@@ -17,7 +17,7 @@ namespace tesmo {
 [[nodiscard]] float tSatVap(float p);
 
 /// Humedad absoluta [kg/kg] del aire a @p t [°C] secos y @p th [°C] húmedos a la presión @p p [Pa]: balance
-/// de la saturación adiabática (ASHRAE Handbook of Fundamentals, capítulo Psychrometrics).
+/// de la saturación adiabática (ASHRAE Handbook of Fundamentals, 1997, cap. 6).
 [[nodiscard]] double humedadDeBulboHumedo(float t, float th, float p);
 
 /// Temperatura húmeda [°C] del aire a @p t [°C] con la humedad absoluta @p w [kg/kg], por BuscaRaiz con

@@ -31,7 +31,8 @@ struct AngulosSolares {
 /// tiene días antes; un día fuera del mes sigue contando.
 [[nodiscard]] long double DeclinacionSolar(int mes, int dia);
 
-/// Horas de salida y puesta en @p latitud [°] con el sol a @p declinacion [°].
+/// Horas de salida y puesta en @p latitud [°] con el sol a @p declinacion [°]: cos ω = −tan φ · tan δ, del
+/// centro del sol y sin refracción (Duffie y Beckman, 1991).
 [[nodiscard]] SalidaPuesta HorasDeSol(float latitud, long double declinacion);
 
 /// ¿Está @p hora entre la salida y la puesta? Las dos tolerancias son distintas (se conserva): una hora igual
@@ -43,7 +44,8 @@ class SolSobreElLugar {
 public:
   /// @param latitud [°]; @param declinacion [°]
   SolSobreElLugar(float latitud, long double declinacion);
-  /// Vector hacia el sol a la @p hora de un momento de día. El signo del sur sigue una sola regla en los dos
+  /// Vector hacia el sol a la @p hora de un momento de día, del triángulo esférico de latitud, declinación y
+  /// ángulo horario (Duffie y Beckman, 1991). El signo del sur sigue una sola regla en los dos
   /// hemisferios (se conserva), así que al sur del ecuador la componente sur no es de fiar.
   [[nodiscard]] VectorSolar Vector(float hora) const;
 
