@@ -38,8 +38,8 @@ struct Datos {
 /// Lo pedido, ya comprobado y con rutas absolutas.
 struct Peticion {
   std::string localidad, gdr, directorio, salida, base;
-  extremos::AjustesEstacion calefaccion{99.0F, {1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}, 1};
-  extremos::AjustesEstacion refrigeracion{1.0F, {0, 0, 0, 0, 0, 1, 1, 1, 1, 0, 0, 0}, 7};
+  extremos::AjustesEstacion calefaccion = extremos::CalefaccionDeFabrica();
+  extremos::AjustesEstacion refrigeracion = extremos::RefrigeracionDeFabrica();
   bool coma = false;
 };
 

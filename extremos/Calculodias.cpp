@@ -106,12 +106,12 @@ void FormarDia(const RegistroGdr &registro, const Estacion &estacion, float alti
   const int mes = estacion.ajustes.mes;
   dia.exterior = TemperaturaExterior(registro, estacion, traza);
 
-  const SolDelDia sol = CalcularSolDelDia(registro.latitud, mes);
+  const SolDeProyecto sol = CalcularSolDeProyecto(registro.latitud, mes);
   const auto mensual = static_cast<float>(registro.radiacion[PosicionDeMes(mes)] * WH_POR_KJ);
   traza.extraterrestre = sol.extraterrestre;
   traza.claridadMensual = sol.extraterrestre > 0.0L ? mensual / sol.extraterrestre : 0.0L;
   traza.diaria = ClaridadDiaria(traza.claridadMensual, traza.parteDelMes) * sol.extraterrestre;
-  const RadiacionDelDia radiacion = RadiacionHoraria(traza.diaria, sol);
+  const RadiacionDelDia radiacion = RepartirRadiacion(traza.diaria, sol);
   traza.claridadDiaria = radiacion.claridad;
   dia.directa = radiacion.directa;
   dia.difusa = radiacion.difusa;

@@ -18,6 +18,15 @@ struct AjustesEstacion {
   int mes = 1;                  ///< mes de proyecto, 1 a 12
 };
 
+/// Los de fábrica: de diciembre a febrero al 99 % y un día de enero.
+[[nodiscard]] constexpr AjustesEstacion CalefaccionDeFabrica() {
+  return {99.0F, {1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1}, 1};
+}
+/// Los de fábrica: de junio a septiembre al 1 % y un día de julio.
+[[nodiscard]] constexpr AjustesEstacion RefrigeracionDeFabrica() {
+  return {1.0F, {0, 0, 0, 0, 0, 1, 1, 1, 1, 0, 0, 0}, 7};
+}
+
 /// De dónde salió la humedad absoluta de un día.
 enum class OrigenHumedad {
   Registro,     ///< etiqueta del registro

@@ -31,18 +31,10 @@ DiasExtremos::DiasExtremos() : ObjetoBase("DiasExtremos") {
   primeraVez_ = true;
 }
 
-extremos::AjustesEstacion DiasExtremos::AjustesCalefaccion() const {
-  return {percentilCalefaccion_, temporadaCalefaccion_, mesCalefaccion_};
-}
-
-extremos::AjustesEstacion DiasExtremos::AjustesRefrigeracion() const {
-  return {percentilRefrigeracion_, temporadaRefrigeracion_, mesRefrigeracion_};
-}
-
 bool DiasExtremos::Calcular() {
   const std::string clave = DameBaseDeLocalidades().DameTextoDe(localidad_, "Localidad Corta");
   const std::string ruta = DameConfiguracion().RutaMeteo(FICHERO_ESTADISTICAS);
-  if (CalcularRegistro(ruta, clave, AjustesCalefaccion(), AjustesRefrigeracion())) return true;
+  if (CalcularRegistro(ruta, clave, calefaccion_, refrigeracion_)) return true;
   DameMensajes().Mensaje(MENSAJE_FICHERO_METEO, localidad_);
   return false;
 }
@@ -56,7 +48,7 @@ bool DiasExtremos::CalcularDias(const std::string &clave, float percentilCal, fl
 }
 
 bool DiasExtremos::CalcularDesde(const std::string &ruta, const std::string &clave) {
-  return CalcularRegistro(ruta, clave, AjustesCalefaccion(), AjustesRefrigeracion());
+  return CalcularRegistro(ruta, clave, calefaccion_, refrigeracion_);
 }
 
 bool DiasExtremos::CalcularRegistro(const std::string &ruta, const std::string &clave,

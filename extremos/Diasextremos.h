@@ -12,9 +12,11 @@
 namespace tesmo {
 
 /// Días de proyecto de calefacción y de refrigeración de una localidad, a partir de sus estadísticas
-/// mensuales de temperatura y de un percentil. Los ajustes se leen y escriben por nombre, en UTF-8:
-/// "Localidad", "Provincia", "Percentil calefacción" y "Percentil refrigeración" [%, 0 a 100], "Mes
-/// calefacción" y "Mes refrigeración" [1 a 12].
+/// mensuales de temperatura y de un percentil. Las operaciones con claves y CalcularDias son contrato: fijan
+/// los ajustes por su nombre y avisan por los mensajes. El código nuevo que no los necesite llama a
+/// extremos::CalcularDias con un RegistroGdr y dos AjustesEstacion. Los ajustes se leen y escriben por
+/// nombre, en UTF-8: "Localidad", "Provincia", "Percentil calefacción" y "Percentil refrigeración" [%, 0 a
+/// 100], "Mes calefacción" y "Mes refrigeración" [1 a 12].
 class DiasExtremos : public ObjetoBase {
 public:
   DiasExtremos();
@@ -90,20 +92,14 @@ private:
   bool CalcularRegistro(const std::string &ruta, const std::string &clave,
                         const extremos::AjustesEstacion &calefaccion,
                         const extremos::AjustesEstacion &refrigeracion);
-  [[nodiscard]] extremos::AjustesEstacion AjustesCalefaccion() const;
-  [[nodiscard]] extremos::AjustesEstacion AjustesRefrigeracion() const;
 
   /// Común a todos los objetos: la pone cada constructor y la quita el primer cálculo (se conserva).
   static bool primeraVez_;
 
   std::string localidad_ = "Almería";
   std::string provincia_ = "Almería";
-  float percentilCalefaccion_ = 99.0F;
-  float percentilRefrigeracion_ = 1.0F;
-  std::int32_t mesCalefaccion_ = 1;
-  std::int32_t mesRefrigeracion_ = 7;
-  MesesDeTemporada temporadaCalefaccion_{1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
-  MesesDeTemporada temporadaRefrigeracion_{0, 0, 0, 0, 0, 1, 1, 1, 1, 0, 0, 0};
+  extremos::AjustesEstacion calefaccion_ = extremos::CalefaccionDeFabrica();
+  extremos::AjustesEstacion refrigeracion_ = extremos::RefrigeracionDeFabrica();
   std::array<std::int32_t, NUMERO_COLORES> colores_;
   bool calculado_ = false;
   // De qué es el resultado, aunque los ajustes cambien después.

@@ -10,11 +10,9 @@ namespace tesmo {
 namespace {
 
 constexpr float PERCENTIL_MAXIMO = 100.0F;
-constexpr float PERCENTIL_CALEFACCION = 99.0F;
-constexpr float PERCENTIL_REFRIGERACION = 1.0F;
+constexpr extremos::AjustesEstacion CALEFACCION = extremos::CalefaccionDeFabrica();
+constexpr extremos::AjustesEstacion REFRIGERACION = extremos::RefrigeracionDeFabrica();
 constexpr std::int32_t ULTIMO_MES = 12;
-constexpr std::int32_t MES_CALEFACCION = 1;
-constexpr std::int32_t MES_REFRIGERACION = 7;
 constexpr std::string_view PATRON_PERCENTIL = "0.0##";
 
 } // namespace
@@ -22,23 +20,23 @@ constexpr std::string_view PATRON_PERCENTIL = "0.0##";
 std::string DiasExtremos::DameTexto(std::string_view clave) const {
   if (clave == "Localidad") return localidad_;
   if (clave == "Provincia") return provincia_;
-  if (clave == "Percentil calefacción") return FormatearPatron(percentilCalefaccion_, PATRON_PERCENTIL);
-  if (clave == "Percentil refrigeración") return FormatearPatron(percentilRefrigeracion_, PATRON_PERCENTIL);
-  if (clave == "Mes calefacción") return std::to_string(mesCalefaccion_);
-  if (clave == "Mes refrigeración") return std::to_string(mesRefrigeracion_);
+  if (clave == "Percentil calefacción") return FormatearPatron(calefaccion_.percentil, PATRON_PERCENTIL);
+  if (clave == "Percentil refrigeración") return FormatearPatron(refrigeracion_.percentil, PATRON_PERCENTIL);
+  if (clave == "Mes calefacción") return std::to_string(calefaccion_.mes);
+  if (clave == "Mes refrigeración") return std::to_string(refrigeracion_.mes);
   return {};
 }
 
 void DiasExtremos::DameReal(std::string_view clave, float &valor) const {
-  if (clave == "Percentil calefacción") valor = percentilCalefaccion_;
-  if (clave == "Percentil refrigeración") valor = percentilRefrigeracion_;
-  if (clave == "Mes calefacción") valor = static_cast<float>(mesCalefaccion_);
-  if (clave == "Mes refrigeración") valor = static_cast<float>(mesRefrigeracion_);
+  if (clave == "Percentil calefacción") valor = calefaccion_.percentil;
+  if (clave == "Percentil refrigeración") valor = refrigeracion_.percentil;
+  if (clave == "Mes calefacción") valor = static_cast<float>(calefaccion_.mes);
+  if (clave == "Mes refrigeración") valor = static_cast<float>(refrigeracion_.mes);
 }
 
 void DiasExtremos::DameEntero(std::string_view clave, std::int32_t &valor) const {
-  if (clave == "Mes calefacción") valor = mesCalefaccion_;
-  if (clave == "Mes refrigeración") valor = mesRefrigeracion_;
+  if (clave == "Mes calefacción") valor = calefaccion_.mes;
+  if (clave == "Mes refrigeración") valor = refrigeracion_.mes;
 }
 
 void DiasExtremos::DameEstado(std::string_view clave, std::int32_t &estado) const {
@@ -56,26 +54,26 @@ void DiasExtremos::PonTexto(std::string_view clave, const std::string &texto) {
   } else if (clave == "Provincia") {
     ActualizarTexto(provincia_, colores_[COLOR_PROVINCIA], texto, {});
   } else if (clave == "Percentil calefacción") {
-    ActualizarReal(percentilCalefaccion_, colores_[COLOR_PER_CAL], texto, 0.0F, PERCENTIL_MAXIMO,
-                   PERCENTIL_CALEFACCION);
+    ActualizarReal(calefaccion_.percentil, colores_[COLOR_PER_CAL], texto, 0.0F, PERCENTIL_MAXIMO,
+                   CALEFACCION.percentil);
   } else if (clave == "Percentil refrigeración") {
-    ActualizarReal(percentilRefrigeracion_, colores_[COLOR_PER_REF], texto, 0.0F, PERCENTIL_MAXIMO,
-                   PERCENTIL_REFRIGERACION);
+    ActualizarReal(refrigeracion_.percentil, colores_[COLOR_PER_REF], texto, 0.0F, PERCENTIL_MAXIMO,
+                   REFRIGERACION.percentil);
   } else if (clave == "Mes calefacción") {
-    ActualizarEntero(mesCalefaccion_, colores_[COLOR_MES_CAL], texto, 1, ULTIMO_MES, MES_CALEFACCION);
+    ActualizarEntero(calefaccion_.mes, colores_[COLOR_MES_CAL], texto, 1, ULTIMO_MES, CALEFACCION.mes);
   } else if (clave == "Mes refrigeración") {
-    ActualizarEntero(mesRefrigeracion_, colores_[COLOR_MES_REF], texto, 1, ULTIMO_MES, MES_REFRIGERACION);
+    ActualizarEntero(refrigeracion_.mes, colores_[COLOR_MES_REF], texto, 1, ULTIMO_MES, REFRIGERACION.mes);
   }
 }
 
 void DiasExtremos::DameTemporada(std::string_view clave, MesesDeTemporada &meses) const {
-  if (clave == "Temporada calefacción") meses = temporadaCalefaccion_;
-  if (clave == "Temporada refrigeración") meses = temporadaRefrigeracion_;
+  if (clave == "Temporada calefacción") meses = calefaccion_.temporada;
+  if (clave == "Temporada refrigeración") meses = refrigeracion_.temporada;
 }
 
 void DiasExtremos::PonTemporada(std::string_view clave, const MesesDeTemporada &meses) {
-  if (clave == "Temporada calefacción") temporadaCalefaccion_ = meses;
-  if (clave == "Temporada refrigeración") temporadaRefrigeracion_ = meses;
+  if (clave == "Temporada calefacción") calefaccion_.temporada = meses;
+  if (clave == "Temporada refrigeración") refrigeracion_.temporada = meses;
 }
 
 void DiasExtremos::ListaDe(std::string_view clave, std::vector<std::string> &lista) const {

@@ -22,12 +22,15 @@ class Distribucion {
 public:
   /// Añade @p valor en @p grado, de −49 a 50, y ensancha el alcance hasta él.
   void Anadir(int grado, long double valor);
+  /// Añade todos los valores de @p otra.
   void Anadir(const Distribucion &otra);
   /// Valor en @p grado; 0 fuera de −49..50.
   [[nodiscard]] long double operator[](int grado) const;
+  /// Menor y mayor grado que contiene; 50 y −49 si está vacía.
   [[nodiscard]] int Menor() const { return menor_; }
   [[nodiscard]] int Mayor() const { return mayor_; }
 
+  /// Divide todos los valores por @p divisor, que no ha de ser 0.
   void DividirPor(long double divisor);
   /// Cada grado pasa a ser la suma de todos hasta él, desde el menor.
   void Acumular();
@@ -40,6 +43,7 @@ public:
   /// Valor en el grado @p t truncado hacia cero.
   [[nodiscard]] long double Valor(long double t) const;
 
+  /// La misma, redondeada a 32 bits.
   [[nodiscard]] DistribucionGuardada Guardada() const;
 
 private:

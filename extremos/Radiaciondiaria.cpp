@@ -43,12 +43,12 @@ long double AnguloDelOcaso(long double phi, long double delta) {
 
 } // namespace
 
-SolDelDia CalcularSolDelDia(float latitud, int mes) {
+SolDeProyecto CalcularSolDeProyecto(float latitud, int mes) {
   const long double n = (mes - 1) * DIAS_POR_MES + DIA_DE_PROYECTO;
   const long double delta = 23.45L * std::sin(2.0L * PI * (284.0L + n) / DIAS_DEL_ANIO) * GRADO;
   const long double phi = latitud * GRADO;
   const long double excentricidad = 1.0L + 0.033L * std::cos(360.0L * n / DIAS_DEL_ANIO);
-  SolDelDia sol;
+  SolDeProyecto sol;
   sol.ocaso = AnguloDelOcaso(phi, delta);
   sol.extraterrestre =
       HORAS_DEL_DIA / PI * excentricidad * CONSTANTE_SOLAR *

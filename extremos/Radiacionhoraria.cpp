@@ -51,7 +51,7 @@ RepartoHorario RepartirDia(long double ocaso) {
   return reparto;
 }
 
-RadiacionDelDia RadiacionHoraria(long double diaria, const SolDelDia &sol) {
+RadiacionDelDia RepartirRadiacion(long double diaria, const SolDeProyecto &sol) {
   RadiacionDelDia radiacion;
   if (!(sol.extraterrestre > 0.0L)) return radiacion; // noche polar
   radiacion.claridad = diaria / sol.extraterrestre;

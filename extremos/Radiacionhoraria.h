@@ -32,6 +32,6 @@ struct RadiacionDelDia {
 
 /// Reparte @p diaria [Wh/m²]: la difusa del día por la fracción difusa y cada hora por su parte; la directa
 /// es la diferencia entre la global y la difusa de la hora, nunca negativa. De noche, 0.
-[[nodiscard]] RadiacionDelDia RadiacionHoraria(long double diaria, const SolDelDia &sol);
+[[nodiscard]] RadiacionDelDia RepartirRadiacion(long double diaria, const SolDeProyecto &sol);
 
 } // namespace tesmo::extremos

@@ -17,18 +17,18 @@ double D(long double valor) { return static_cast<double>(valor); }
 // 35° N en enero 17,5, abril 35,5, junio 41,5 y octubre 25,8 MJ/m², con 1367 W/m² y el día medio de cada mes.
 // La constante de aquí es un 1 % menor, el factor de excentricidad puede apartarse un 3,3 % y el día es
 // siempre el 15.
-TEST(SolDelDia, RadiacionExtraterrestrePublicada) {
+TEST(SolDeProyecto, RadiacionExtraterrestrePublicada) {
   constexpr double TABLA[][2] = {{1, 17.5}, {4, 35.5}, {6, 41.5}, {10, 25.8}};
   for (const auto &[mes, mj] : TABLA) {
-    const double h0 = D(CalcularSolDelDia(35.0F, static_cast<int>(mes)).extraterrestre) * 3600.0 / 1e6;
+    const double h0 = D(CalcularSolDeProyecto(35.0F, static_cast<int>(mes)).extraterrestre) * 3600.0 / 1e6;
     EXPECT_NEAR(h0, mj, 0.065 * mj) << mes;
   }
 }
 
-TEST(RadiacionHoraria, LaNochePolarNoDaRadiacionYEsFinita) {
-  const SolDelDia sol = CalcularSolDelDia(80.0F, 1);
+TEST(RepartirRadiacion, LaNochePolarNoDaRadiacionYEsFinita) {
+  const SolDeProyecto sol = CalcularSolDeProyecto(80.0F, 1);
   ASSERT_LE(sol.extraterrestre, 0.0L);
-  const RadiacionDelDia radiacion = RadiacionHoraria(0.0L, sol);
+  const RadiacionDelDia radiacion = RepartirRadiacion(0.0L, sol);
   EXPECT_EQ(radiacion.claridad, 0.0L);
   for (std::size_t h = 0; h < radiacion.directa.size(); ++h) {
     EXPECT_EQ(radiacion.directa[h], 0.0F) << h;
@@ -37,8 +37,8 @@ TEST(RadiacionHoraria, LaNochePolarNoDaRadiacionYEsFinita) {
 }
 
 // Enero, 36,84° N, a mano: n = 15, δ = −21,2695°, E0 = 1 + 0,033 cos(14,7945) = 0,97983.
-TEST(SolDelDia, EneroAMano) {
-  const SolDelDia sol = CalcularSolDelDia(36.84F, 1);
+TEST(SolDeProyecto, EneroAMano) {
+  const SolDeProyecto sol = CalcularSolDeProyecto(36.84F, 1);
   const double delta = -21.2695 * std::numbers::pi / 180.0;
   const double phi = 36.84 * std::numbers::pi / 180.0;
   EXPECT_NEAR(D(sol.ocaso), std::acos(-std::tan(phi) * std::tan(delta)), 1e-5);
@@ -49,8 +49,8 @@ TEST(SolDelDia, EneroAMano) {
 
 // El coseno de la excentricidad toma los grados por radianes: en julio da cos(194,86) = 0,9959 en vez de
 // −0,97.
-TEST(SolDelDia, LaExcentricidadTomaGradosPorRadianes) {
-  const SolDelDia sol = CalcularSolDelDia(0.0F, 7);
+TEST(SolDeProyecto, LaExcentricidadTomaGradosPorRadianes) {
+  const SolDeProyecto sol = CalcularSolDeProyecto(0.0F, 7);
   const double n = 6 * 30.4 + 15;
   const double delta = 23.45 * std::sin(2 * std::numbers::pi * (284 + n) / 365) * std::numbers::pi / 180;
   const double esperado =
@@ -58,12 +58,12 @@ TEST(SolDelDia, LaExcentricidadTomaGradosPorRadianes) {
   EXPECT_NEAR(D(sol.extraterrestre), esperado, 1e-6);
 }
 
-TEST(SolDelDia, ElOcasoEnTodaLatitud) {
-  EXPECT_NEAR(D(CalcularSolDelDia(0.0F, 3).ocaso), std::numbers::pi / 2, 1e-12);
-  EXPECT_GT(D(CalcularSolDelDia(60.0F, 6).ocaso), std::numbers::pi / 2);
-  EXPECT_LT(D(CalcularSolDelDia(60.0F, 12).ocaso), std::numbers::pi / 2);
-  EXPECT_NEAR(D(CalcularSolDelDia(80.0F, 6).ocaso), std::numbers::pi, 1e-12); // no se pone
-  EXPECT_NEAR(D(CalcularSolDelDia(80.0F, 12).ocaso), 0.0, 1e-12);             // no sale
+TEST(SolDeProyecto, ElOcasoEnTodaLatitud) {
+  EXPECT_NEAR(D(CalcularSolDeProyecto(0.0F, 3).ocaso), std::numbers::pi / 2, 1e-12);
+  EXPECT_GT(D(CalcularSolDeProyecto(60.0F, 6).ocaso), std::numbers::pi / 2);
+  EXPECT_LT(D(CalcularSolDeProyecto(60.0F, 12).ocaso), std::numbers::pi / 2);
+  EXPECT_NEAR(D(CalcularSolDeProyecto(80.0F, 6).ocaso), std::numbers::pi, 1e-12); // no se pone
+  EXPECT_NEAR(D(CalcularSolDeProyecto(80.0F, 12).ocaso), 0.0, 1e-12);             // no sale
 }
 
 TEST(ClaridadDiaria, LosExtremosDeCadaCurva) {
@@ -120,7 +120,7 @@ TEST(Reparto, EquinoccioAMano) {
 
 TEST(Reparto, EsSimetricoYSumaCasiUno) {
   for (int mes = 1; mes <= 12; ++mes) {
-    const RepartoHorario r = RepartirDia(CalcularSolDelDia(37.0F, mes).ocaso);
+    const RepartoHorario r = RepartirDia(CalcularSolDeProyecto(37.0F, mes).ocaso);
     double global = 0.0;
     double difusa = 0.0;
     for (std::size_t i = 0; i < HORAS_DE_REPARTO; ++i) {
@@ -138,11 +138,11 @@ TEST(Reparto, EsSimetricoYSumaCasiUno) {
   }
 }
 
-TEST(RadiacionHoraria, DeNocheEsCeroYNuncaNegativa) {
+TEST(RepartirRadiacion, DeNocheEsCeroYNuncaNegativa) {
   for (int mes = 1; mes <= 12; ++mes) {
-    const SolDelDia sol = CalcularSolDelDia(37.0F, mes);
+    const SolDeProyecto sol = CalcularSolDeProyecto(37.0F, mes);
     for (const long double k : {0.05L, 0.3L, 0.6L, 0.82L}) {
-      const RadiacionDelDia r = RadiacionHoraria(k * sol.extraterrestre, sol);
+      const RadiacionDelDia r = RepartirRadiacion(k * sol.extraterrestre, sol);
       EXPECT_NEAR(D(r.claridad), D(k), 1e-12);
       for (std::size_t h = 0; h < 24; ++h) {
         EXPECT_GE(r.directa[h], 0.0F);
