@@ -1,5 +1,6 @@
 #include "cli/Guioncorrientes.h"
 
+#include "core/Caracteres.h"
 #include "core/Error.h"
 #include "core/Ficheros.h"
 #include "core/Sistema.h"
@@ -36,8 +37,6 @@ constexpr std::array<OrdenCorriente, 12> ORDENES{{
 
 constexpr std::string_view ESCRIBIR = "escribir";
 constexpr std::size_t ANCHO_ORDEN = 24; ///< de la columna de la ayuda [caracteres]
-
-bool EsBlanco(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f' || c == '\v'; }
 
 std::string ComponerAyuda() {
   std::string texto = "NOMBRE ORDEN [ARGUMENTOS…], con NOMBRE una corriente; si no existe, se crea.\n";

@@ -1,5 +1,6 @@
 #include "core/Flujoreales.h"
 
+#include "core/Caracteres.h"
 #include "core/Ordenmagnitud.h"
 
 #include <algorithm>
@@ -15,9 +16,6 @@ namespace tesmo {
 
 namespace {
 
-constexpr bool EsBlanco(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
-constexpr bool EsCifra(char c) { return c >= '0' && c <= '9'; }
-constexpr char Minuscula(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 constexpr bool EsCifraHexadecimal(char c) {
   return EsCifra(c) || (Minuscula(c) >= 'a' && Minuscula(c) <= 'f');
 }

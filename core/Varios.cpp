@@ -1,5 +1,6 @@
 #include "core/Varios.h"
 
+#include "core/Caracteres.h"
 #include "core/Configuracionregional.h"
 #include "core/Lectornumeros.h"
 
@@ -10,9 +11,6 @@
 namespace tesmo {
 
 namespace {
-
-bool EsCifra(char c) { return c >= '0' && c <= '9'; }
-bool EsBlanco(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 std::string_view SinBlancos(std::string_view texto) {
   while (!texto.empty() && EsBlanco(texto.front())) texto.remove_prefix(1);

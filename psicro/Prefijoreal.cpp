@@ -1,5 +1,6 @@
 #include "psicro/Prefijoreal.h"
 
+#include "core/Caracteres.h"
 #include "core/Ordenmagnitud.h"
 
 #include <charconv>
@@ -9,8 +10,6 @@
 namespace tesmo {
 
 namespace {
-
-bool EsBlanco(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 /// Número sin signo al comienzo de @p texto; vacío si no lo hay.
 std::optional<double> PrefijoSinSigno(std::string_view texto, BaseReal base) {

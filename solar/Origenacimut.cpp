@@ -1,5 +1,6 @@
 #include "solar/Origenacimut.h"
 
+#include "core/Caracteres.h"
 #include "core/Codificacion.h"
 
 #include <algorithm>
@@ -10,7 +11,6 @@ namespace tesmo {
 
 namespace {
 
-constexpr bool EsCifra(char c) { return c >= '0' && c <= '9'; }
 constexpr bool EsLetra(char c) { return c >= 'a' && c <= 'z'; }
 
 /// Minúsculas, sin blancos ni guiones ni signos de grado: "0° = S" y "0=s" son lo mismo.

@@ -1,5 +1,6 @@
 #include "intercambio/formatos/Cabeceras.h"
 
+#include "core/Caracteres.h"
 #include "intercambio/formatos/Numeros.h"
 
 #include <algorithm>
@@ -16,8 +17,6 @@ constexpr double GRADOS_POR_HORA = 15.0;
 /// Altitudes [m] que se creen: de la orilla del mar Muerto a la cima más alta.
 constexpr double ALTITUD_MINIMA = -450.0;
 constexpr double ALTITUD_MAXIMA = 9000.0;
-
-constexpr char Minuscula(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 std::size_t Buscar(std::string_view texto, std::string_view clave) {
   const auto igual = [](char a, char b) { return Minuscula(a) == Minuscula(b); };

@@ -1,5 +1,7 @@
 #include "intercambio/formatos/Numeros.h"
 
+#include "core/Caracteres.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -8,8 +10,6 @@
 namespace tesmo {
 
 namespace {
-
-constexpr bool EsCifra(char c) { return c >= '0' && c <= '9'; }
 
 /// Con quince cifras la mantisa y la potencia de diez son dobles exactos, y su cociente sale bien redondeado.
 constexpr int CIFRAS_EXACTAS = 15;
