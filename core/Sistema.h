@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ctime>
 #include <filesystem>
 
 namespace tesmo {
@@ -8,6 +9,9 @@ namespace tesmo {
 
 /// Ruta del ejecutable en marcha; vacía si el sistema no la da.
 [[nodiscard]] std::filesystem::path RutaEjecutable();
+
+/// Fecha y hora de @p instante en el reloj del sistema, con su huso y su horario de verano.
+[[nodiscard]] std::tm HoraLocal(std::time_t instante);
 
 /// Nombre libre, propio de este proceso, en el directorio de @p ruta.
 [[nodiscard]] std::filesystem::path RutaTemporalJunto(const std::filesystem::path &ruta);

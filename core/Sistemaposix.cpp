@@ -28,6 +28,12 @@ fs::path RutaEjecutable() {
 #endif
 }
 
+std::tm HoraLocal(std::time_t instante) {
+  std::tm partes{};
+  ::localtime_r(&instante, &partes);
+  return partes;
+}
+
 fs::path RutaTemporalJunto(const fs::path &ruta) {
   static std::atomic<unsigned> cuenta{0};
   fs::path temporal = ruta;

@@ -20,6 +20,12 @@ fs::path RutaEjecutable() {
   return bufer;
 }
 
+std::tm HoraLocal(std::time_t instante) {
+  std::tm partes{};
+  ::localtime_s(&partes, &instante);
+  return partes;
+}
+
 fs::path RutaTemporalJunto(const fs::path &ruta) {
   static std::atomic<unsigned> cuenta{0};
   fs::path temporal = ruta;

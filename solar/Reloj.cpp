@@ -1,6 +1,7 @@
 #include "solar/Reloj.h"
 
 #include "core/Calendario.h"
+#include "core/Sistema.h"
 #include "solar/Geometria.h"
 
 #include <cmath>
@@ -17,21 +18,11 @@ constexpr long double DESFASE_DE_LA_REGION = -1.4006666666666665L;
 constexpr long double HORAS_POR_MINUTO = 1.0L / 60.0L;
 constexpr int PRIMER_ANIO_TM = 1900;
 
-/// Ecuación del tiempo [min] del día @p n del año (Spencer, 1971).
-long double EcuacionDelTiempo(int n) {
+/// Ecuación del tiempo del día @p n del año (Spencer, 1971).
+long double MinutosDeEcuacion(int n) {
   const long double b = (n - 1) * 360.0L * (1.0L / DIAS_DEL_ANIO) * GRADO_EN_RADIANES;
   return 229.2L * (0.000075L + 0.001868L * std::cos(b) - 0.032077L * std::sin(b) -
                    0.014615L * std::cos(2.0L * b) - 0.04089L * std::sin(2.0L * b));
-}
-
-std::tm HoraLocal(std::time_t instante) {
-  std::tm partes{};
-#ifdef _WIN32
-  localtime_s(&partes, &instante);
-#else
-  localtime_r(&instante, &partes);
-#endif
-  return partes;
 }
 
 } // namespace
@@ -46,7 +37,7 @@ float HoraSolarDeReloj(const InstanteLocal &instante) {
   const long double hora = instante.hora - (verano ? 1 : 0);
   const int n = DiaDelAnio(instante.mes, instante.dia);
   return static_cast<float>(hora + instante.minuto * HORAS_POR_MINUTO + DESFASE_DE_LA_REGION +
-                            EcuacionDelTiempo(n) * HORAS_POR_MINUTO);
+                            MinutosDeEcuacion(n) * HORAS_POR_MINUTO);
 }
 
 } // namespace tesmo
