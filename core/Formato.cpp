@@ -61,7 +61,7 @@ bool EscalarExacto(double absoluto, int decimales, std::uint64_t &unidades) {
   const double escalado = absoluto * POTENCIAS_DE_10[static_cast<std::size_t>(decimales)];
   if (static_cast<double>(static_cast<float>(absoluto)) != absoluto) return false;
   if (!(escalado < MAYOR_MITAD_EXACTA)) return false;
-  unidades = static_cast<std::uint64_t>(escalado + 0.5);
+  unidades = static_cast<std::uint64_t>(escalado + 0.5); // NOLINT(bugprone-incorrect-roundings): suma exacta
   return true;
 }
 
@@ -121,7 +121,7 @@ void PatronNumero::EscribirUnidades(std::string &salida, std::uint64_t unidades,
 
 void PatronNumero::EscribirCifras(std::string &salida, std::string cifras, bool negativo,
                                   char separador) const {
-  const auto minimo = static_cast<std::size_t>(decimalesMaximos_ + enteros_);
+  const auto minimo = static_cast<std::size_t>(decimalesMaximos_) + static_cast<std::size_t>(enteros_);
   const std::size_t ceros = cifras.find_first_not_of('0');
   const bool esCero = ceros == std::string::npos;
   cifras.erase(0, esCero ? cifras.size() : ceros);
