@@ -1,3 +1,4 @@
+#include "bench/comun/Mejorestiempos.h"
 #include "core/Ficheros.h"
 #include "core/Formato.h"
 #include "intercambio/formatos/Lectura.h"
@@ -8,7 +9,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
-#include <map>
 #include <string>
 #include <thread>
 #include <vector>
@@ -93,26 +93,16 @@ void LeerConTodosLosNucleos(benchmark::State &estado) {
   estado.SetItemsProcessed(estado.iterations() * nucleos * ANIOS_POR_NUCLEO);
 }
 
-/// Guarda el mejor tiempo de cada medida para dar la proporción al final.
-class ConProporcion : public benchmark::ConsoleReporter {
+/// Da la proporción al final.
+class ConProporcion : public ConMejoresTiempos {
 public:
-  void ReportRuns(const std::vector<Run> &vueltas) override {
-    for (const Run &vuelta : vueltas) {
-      if (vuelta.run_type != Run::RT_Iteration || vuelta.error_occurred) continue;
-      const double tiempo = vuelta.GetAdjustedRealTime();
-      const auto [lugar, nuevo] = mejores_.try_emplace(vuelta.run_name.function_name, tiempo);
-      if (!nuevo) lugar->second = std::min(lugar->second, tiempo);
-    }
-    ConsoleReporter::ReportRuns(vueltas);
-  }
   void Finalize() override {
     constexpr double MICROSEGUNDOS_POR_SEGUNDO = 1e6;
-    std::printf("EPW por segundo y núcleo: %.0f\n", MICROSEGUNDOS_POR_SEGUNDO / mejores_["LeerElEpw"]);
-    std::printf("Leer el EPW / leer sus bytes: %.1f\n", mejores_["LeerElEpw"] / mejores_["LeerLosBytes"]);
+    std::printf("EPW por segundo y núcleo: %.0f\n", MICROSEGUNDOS_POR_SEGUNDO / Mejor("LeerElEpw"));
+    std::printf("Leer el EPW / leer sus bytes: %.1f\n", Mejor("LeerElEpw") / Mejor("LeerLosBytes"));
   }
 
 private:
-  std::map<std::string, double> mejores_;
 };
 
 } // namespace

@@ -5,22 +5,21 @@
 
 #include "app/Programa.h"
 #include "app/Seleccion.h"
+#include "bench/comun/Mediana.h"
 #include "core/Rutas.h"
 #include "localidades/Ciudad.h"
 #include "psicro/Marcacarta.h"
 #include "psicro/Psicrometrico.h"
 #include "vistas/carta/Marcocarta.h"
 #include "vistas/carta/Paginapsicrometrico.h"
+#include "vistas/carta/Vistapsicrometrico.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
-#include "vistas/carta/Vistapsicrometrico.h"
 
 #include <QApplication>
 #include <QImage>
 #include <QPainter>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -31,19 +30,6 @@ namespace {
 constexpr QSize TAMANO(1280, 720);
 constexpr double OBJETIVO = 100.0; ///< de la pulsación a verse [ms]
 constexpr int VECES = 15;
-
-template <typename Accion>
-double Mediana(Accion accion) {
-  std::vector<double> tiempos;
-  for (int i = 0; i < VECES; ++i) {
-    const auto antes = std::chrono::steady_clock::now();
-    accion();
-    tiempos.push_back(
-        std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - antes).count());
-  }
-  std::ranges::sort(tiempos);
-  return tiempos[tiempos.size() / 2];
-}
 
 /// La primera localidad de la base con un año entero.
 bool ElegirLocalidad(tesmo::Programa &programa, tesmo::Seleccion &seleccion) {
@@ -103,16 +89,16 @@ int main(int argc, char **argv) {
   ver(); // la lectura del fichero se hace al elegir la localidad
   if (vista.Contenido().marcas.size() != tesmo::HORAS_DEL_ANIO) return EXIT_FAILURE;
 
-  const double pulsacion = Mediana(ver);
-  const double conMarcas = Mediana([&] {
+  const double pulsacion = Mediana(VECES, ver);
+  const double conMarcas = Mediana(VECES, [&] {
     marco.Redibujar();
     marco.repaint();
   });
   QImage imagen(marco.TamanoDeCarta(), QImage::Format_RGB32);
   imagen.fill(Qt::white);
-  const double unaAUna = Mediana([&] { PintarUnaAUna(imagen, vista.Contenido()); });
+  const double unaAUna = Mediana(VECES, [&] { PintarUnaAUna(imagen, vista.Contenido()); });
   vista.redibujar();
-  const double sinMarcas = Mediana([&] {
+  const double sinMarcas = Mediana(VECES, [&] {
     marco.Redibujar();
     marco.repaint();
   });

@@ -1,6 +1,7 @@
 // Repintado de un año con las 21 series a la vista: el gráfico del programa frente al trazado por defecto de
 // la biblioteca, con la misma pluma de ancho 2, las mismas series y el mismo tamaño, en una sola ejecución.
 
+#include "bench/comun/Mediana.h"
 #include "core/Calendario.h"
 #include "vistas/grafico/Escalahoras.h"
 #include "vistas/grafico/Grafico.h"
@@ -8,8 +9,6 @@
 #include <QApplication>
 #include <qcustomplot.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -45,19 +44,6 @@ std::vector<float> Serie(int numero) {
 }
 
 QColor Color(int numero) { return QColor::fromHsv(numero * 17, 200, 200); }
-
-template <typename Accion>
-double Mediana(int veces, Accion accion) {
-  std::vector<double> tiempos;
-  for (int i = 0; i < veces; ++i) {
-    const auto antes = std::chrono::steady_clock::now();
-    accion();
-    tiempos.push_back(
-        std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - antes).count());
-  }
-  std::ranges::sort(tiempos);
-  return tiempos[tiempos.size() / 2];
-}
 
 void LlenarPropio(tesmo::Grafico &grafico) {
   grafico.resize(ANCHO, ALTO);

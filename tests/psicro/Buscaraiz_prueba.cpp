@@ -1,7 +1,7 @@
 #include "psicro/Buscaraiz.h"
 #include "psicro/Saturacion.h"
+#include "tests/comun/Apoyos.h"
 #include "tests/psicro/Buscaraizllana.h"
-#include "tests/psicro/Registrodeprueba.h"
 
 #include <array>
 #include <bit>
@@ -220,7 +220,7 @@ TEST(BuscaRaiz, CoincidePasoAPasoConLaEscrituraLlanaEnMuchasFunciones) {
 }
 
 TEST(BuscarRaiz, EncuentraLaRaizYNoDejaNadaEnElRegistro) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   int evaluaciones = 0;
   const float x = BuscarRaiz(1.0F, 1e-5, 50, "nadie", [&](float v) {
     ++evaluaciones;
@@ -232,7 +232,7 @@ TEST(BuscarRaiz, EncuentraLaRaizYNoDejaNadaEnElRegistro) {
 }
 
 TEST(BuscarRaiz, SinConvergerDaElError3UnaVezTrasTodasLasVueltas) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   int evaluaciones = 0;
   const float x = BuscarRaiz(1.0F, 1e-5, 30, "Alguien::busca", [&](float) {
     ++evaluaciones;
@@ -246,7 +246,7 @@ TEST(BuscarRaiz, SinConvergerDaElError3UnaVezTrasTodasLasVueltas) {
 }
 
 TEST(BuscarRaiz, ConvergerEnLaUltimaVueltaCuentaComoConverger) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   int evaluaciones = 0;
   (void)BuscarRaiz(1.0F, 1e-5, 5, "nadie", [&](float) { return ++evaluaciones == 5 ? 0.0F : 1.0F; });
   EXPECT_EQ(evaluaciones, 5);

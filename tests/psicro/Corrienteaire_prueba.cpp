@@ -1,6 +1,6 @@
 #include "psicro/Corrienteaire.h"
 #include "psicro/Saturacion.h"
-#include "tests/psicro/Registrodeprueba.h"
+#include "tests/comun/Apoyos.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -59,7 +59,7 @@ TEST(CorrienteAire, ElBulboHumedoSeCalculaALaPresionNormalAunqueLaCorrienteTenga
 }
 
 TEST(CorrienteAire, PontWLlevaLaHumedadALaDeSaturacionYLoDice) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.pont_w(20.0F, 1.0F, P);
   EXPECT_EQ(c.humedadAbsoluta(), static_cast<float>(humedadSaturacion(20.0F, P)));
@@ -68,7 +68,7 @@ TEST(CorrienteAire, PontWLlevaLaHumedadALaDeSaturacionYLoDice) {
 }
 
 TEST(CorrienteAire, PontWCompruebaTemperaturaPresionYHumedadPorEseOrden) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.pont_w(-150.0F, -1.0F, 0.0F);
   ASSERT_EQ(registro.textos.size(), 3U);
@@ -83,7 +83,7 @@ TEST(CorrienteAire, PontWCompruebaTemperaturaPresionYHumedadPorEseOrden) {
 }
 
 TEST(CorrienteAire, BajoLaPresionDeSaturacionLaHumedadQuedaNegativa) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.pont_w(99.0F, 0.01F, 50000.0F);
   EXPECT_EQ(c.humedadAbsoluta(), static_cast<float>(humedadSaturacion(99.0F, 50000.0F)));
@@ -93,7 +93,7 @@ TEST(CorrienteAire, BajoLaPresionDeSaturacionLaHumedadQuedaNegativa) {
 }
 
 TEST(CorrienteAire, PontThAcotaLaTemperaturaHumedaALaSeca) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.pont_th(20.0F, 25.0F, P);
   EXPECT_EQ(registro.textos,
@@ -116,7 +116,7 @@ TEST(CorrienteAire, PontThUsaLaPresionDeLaCorriente) {
 }
 
 TEST(CorrienteAire, PontTrAcotaElRocioALaTemperaturaSeca) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.pont_tr(20.0F, 21.0F, P);
   EXPECT_EQ(registro.textos,
@@ -128,7 +128,7 @@ TEST(CorrienteAire, PontTrAcotaElRocioALaTemperaturaSeca) {
 }
 
 TEST(CorrienteAire, PontHrCompruebaLaPresionAntesQueLaTemperatura) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   registro.textos.clear();
   c.pont_hr(-101.0F, 101.0F, 0.0F);
@@ -140,7 +140,7 @@ TEST(CorrienteAire, PontHrCompruebaLaPresionAntesQueLaTemperatura) {
 }
 
 TEST(CorrienteAire, PontHAcotaLaEntalpiaEntreAireSecoYSaturado) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.pont_h(20.0F, 0.0F, P);
   EXPECT_EQ(registro.textos,
@@ -158,7 +158,7 @@ TEST(CorrienteAire, PontHAcotaLaEntalpiaEntreAireSecoYSaturado) {
 }
 
 TEST(CorrienteAire, PonwHNombraOtraClaseEnSusDosUltimasEtiquetas) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.ponw_h(0.01F, 300000.0F, 2e6F);
   EXPECT_EQ(
@@ -177,7 +177,7 @@ TEST(CorrienteAire, PonwHNombraOtraClaseEnSusDosUltimasEtiquetas) {
 
 TEST(CorrienteAire, PonwHBajoLaPresionDeSaturacionA99GradosDejaLaHumedadNegativa) {
   // W_s(99, p) es entonces negativa y hace de máximo: a 80 kPa no sirve para ningún aire. Se conserva.
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.ponw_h(0.01F, 50000.0F, 80000.0F);
   EXPECT_EQ(c.humedadAbsoluta(), static_cast<float>(humedadSaturacion(99.0F, 80000.0F)));
@@ -231,7 +231,7 @@ TEST(CorrienteAire, PonmConvierteCadaUnidad) {
 }
 
 TEST(CorrienteAire, PonmConUnaUnidadDesconocidaLoDiceYNoCambiaNada) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   for (const char *cod : {"KG/S", "kg/S", "kg/s ", ""}) {
     registro.textos.clear();
@@ -243,7 +243,7 @@ TEST(CorrienteAire, PonmConUnaUnidadDesconocidaLoDiceYNoCambiaNada) {
 }
 
 TEST(CorrienteAire, PonmAcotaElCaudalAntesDeMirarLaUnidad) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.ponm(-1.0F, "kg/s");
   EXPECT_EQ(c.caudal(), 0.0F);
@@ -256,7 +256,7 @@ TEST(CorrienteAire, PonmAcotaElCaudalAntesDeMirarLaUnidad) {
 }
 
 TEST(CorrienteAire, DameConUnCodigoDesconocidoDaCeroSinDecirlo) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   const CorrienteAire c;
   for (const char *cod : {"xx", "", "H", "hr ", "dame"}) EXPECT_EQ(c.dame(cod), 0.0L) << cod;
   EXPECT_TRUE(registro.textos.empty());

@@ -1,7 +1,7 @@
 #include "psicro/Psicrometrico.h"
+#include "tests/comun/Apoyos.h"
 #include "tests/psicro/Cartallana.h"
 #include "tests/psicro/Lienzodeprueba.h"
-#include "tests/psicro/Registrodeprueba.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -244,7 +244,7 @@ TEST(DibujoCarta, SinPonerVistaElAumentoEsCeroYTodoCaeEnElOrigen) {
 }
 
 TEST(DibujoCarta, LasInterseccionesQueNoConvergenLoDicenYSeSigueDibujando) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   Psicro carta = SoloCon(Familia::H);
   carta.ponRango(Familia::H, {1e9F, 1e9F, 1.0F});
   (void)Dibujar(carta, 900, 600);
@@ -263,7 +263,7 @@ TEST(DibujoCarta, LasInterseccionesQueNoConvergenLoDicenYSeSigueDibujando) {
 TEST(DibujoCarta, UnaEntalpiaCuyoCorteNoEsNumeroDejaSinTrazoTambienLasSiguientes) {
   // Contra el aire seco la entalpía es casi una recta y el buscador puede acabar en lo que no es número; la
   // estimación pasa de línea en línea y ya no se recupera. Se conserva.
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   Psicro carta = SoloCon(Familia::H);
   carta.ponRango(Familia::H, {0.0F, 120000.0F, 3333.3F});
   LienzoDePrueba lienzo;
@@ -276,7 +276,7 @@ TEST(DibujoCarta, UnaEntalpiaCuyoCorteNoEsNumeroDejaSinTrazoTambienLasSiguientes
 }
 
 TEST(DibujoCarta, PorEncimaDe99GradosLaCorrienteSeAcotaYLoDice) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   Psicro carta = SoloCon(Familia::W);
   carta.ponRango(Familia::T, {0.0F, 120.0F, 5.0F});
   (void)Dibujar(carta, 900, 600);

@@ -1,11 +1,10 @@
 #include "core/Ficheros.h"
 #include "psicro/Corrienteaire.h"
-#include "tests/psicro/Registrodeprueba.h"
+#include "tests/comun/Apoyos.h"
 
 #include <cstdio>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 using namespace tesmo;
 
@@ -18,13 +17,8 @@ std::string F(long double valor) {
   return bufer;
 }
 
-std::filesystem::path Temporal() {
-  std::string plantilla = (std::filesystem::temp_directory_path() / "tesmo-psicro-XXXXXX").string();
-  return mkdtemp(plantilla.data());
-}
-
 std::string Informe(const CorrienteAire &c) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   c.mostrar();
   std::string todo;
   for (const auto &t : registro.textos) todo += t;
@@ -36,7 +30,7 @@ std::string Informe(const CorrienteAire &c) {
 TEST(InformeAire, MostrarEscribeNueveTextosSinFinDeLinea) {
   CorrienteAire c;
   c.pont_w(20.0F, 0.0078125F, 101325.0F);
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   c.mostrar();
   const std::vector<std::string> esperado{
       "Caudal masico (kg/s): 15.000000",
@@ -53,25 +47,23 @@ TEST(InformeAire, MostrarEscribeNueveTextosSinFinDeLinea) {
 }
 
 TEST(InformeAire, EscribirSustituyeElFicheroYDejaElRegistroCerrado) {
-  const auto directorio = Temporal();
+  const prueba::DirectorioTemporal directorio;
   const std::string ruta = (directorio / "aire.txt").string();
   ASSERT_TRUE(EscribirFicheroEntero(ruta, "lo que había"));
   const CorrienteAire c;
   const std::string esperado = Informe(c);
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   c.escribir(ruta);
   EXPECT_FALSE(RegistroAbierto());
   EscribirRegistro("perdido");
   EXPECT_TRUE(registro.textos.empty());
   EXPECT_EQ(LeerFicheroEntero(ruta), esperado);
-  std::filesystem::remove_all(directorio);
 }
 
 TEST(InformeAire, EscribirDondeNoSePuedeNoDejaNada) {
-  const auto directorio = Temporal();
+  const prueba::DirectorioTemporal directorio;
   const CorrienteAire c;
-  c.escribir(directorio.string()); // un directorio en lugar de un fichero
+  c.escribir(directorio.Ruta().string()); // un directorio en lugar de un fichero
   EXPECT_FALSE(RegistroAbierto());
-  EXPECT_TRUE(std::filesystem::is_empty(directorio));
-  std::filesystem::remove_all(directorio);
+  EXPECT_TRUE(std::filesystem::is_empty(directorio.Ruta()));
 }

@@ -1,5 +1,5 @@
 #include "psicro/Corrienteaire.h"
-#include "tests/psicro/Registrodeprueba.h"
+#include "tests/comun/Apoyos.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -47,7 +47,7 @@ TEST(Mezclar, ConservaAguaYEntalpia) {
 }
 
 TEST(Mezclar, ConPresionesDistintasLoDiceYNoTocaElResultado) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   const CorrienteAire a = Aire(35, 30, 2);
   const CorrienteAire b = Aire(10, 80, 5, 90000);
   CorrienteAire r = Aire(1, 2, 3);
@@ -91,7 +91,7 @@ TEST(Calores, SensibleYLatenteSiguenSusFormulas) {
 }
 
 TEST(Calores, ConCaudalesDistintosAmbosNombranAlSensibleYDanCero) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   const CorrienteAire ent = Aire(20, 50, 2);
   const CorrienteAire sal = Aire(30, 50, 2.0000002F);
   EXPECT_EQ(dameQSen(ent, sal), 0.0F);

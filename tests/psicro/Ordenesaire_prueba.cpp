@@ -1,10 +1,9 @@
 #include "core/Ficheros.h"
 #include "psicro/Corrienteaire.h"
-#include "tests/psicro/Registrodeprueba.h"
+#include "tests/comun/Apoyos.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 using namespace tesmo;
 using Textos = std::vector<std::string>;
@@ -16,7 +15,7 @@ constexpr const char *FALTA = "Alguno de los objetos no existe:CorrienteAire::Pr
 
 /// Ejecuta la orden y devuelve lo que deja en el registro.
 Textos Ordenar(CorrienteAire &corriente, const std::vector<const char *> &palabras) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   std::vector<const char *> argv{"nombre"};
   argv.insert(argv.end(), palabras.begin(), palabras.end());
   corriente.ProcesarOrden(static_cast<int>(argv.size()), argv.data());
@@ -110,7 +109,7 @@ TEST(OrdenesAire, UnaOrdenDesconocidaNombraSuPrimerArgumento) {
 }
 
 TEST(OrdenesAire, SinVectorDeArgumentosNoSeLeeNada) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire c;
   c.ProcesarOrden(0, nullptr);
   c.ProcesarOrden(5, nullptr);
@@ -148,8 +147,7 @@ TEST(OrdenesAire, MostrarDaLosNueveTextos) {
 }
 
 TEST(OrdenesAire, EscribirDejaElInformeEnElFicheroYElRegistroCerrado) {
-  std::string plantilla = (std::filesystem::temp_directory_path() / "tesmo-ordenes-XXXXXX").string();
-  const std::filesystem::path directorio = mkdtemp(plantilla.data());
+  const prueba::DirectorioTemporal directorio;
   const std::string ruta = (directorio / "informe").string();
   CorrienteAire c;
   std::string esperado;
@@ -158,7 +156,6 @@ TEST(OrdenesAire, EscribirDejaElInformeEnElFicheroYElRegistroCerrado) {
   EXPECT_FALSE(RegistroAbierto());
   EXPECT_EQ(LeerFicheroEntero(ruta), esperado);
   EXPECT_TRUE(Ordenar(c, {"escribir"}).empty()); // sin ruta no hay dónde
-  std::filesystem::remove_all(directorio);
 }
 
 TEST(OrdenesAire, MezclarBuscaLasTresCorrientesPorSuNombre) {

@@ -1,7 +1,7 @@
 #include "psicro/Buscaraiz.h"
 #include "psicro/Constantes.h"
 #include "psicro/Saturacion.h"
-#include "tests/psicro/Registrodeprueba.h"
+#include "tests/comun/Apoyos.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -86,7 +86,7 @@ TEST(HumedadSaturacion, EsNegativaPorDebajoDeLaPresionDeSaturacionEInfinitaEnEll
 }
 
 TEST(TSatVap, EsLaInversaDeLaPresionDeSaturacionDentroDeLaTolerancia) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   for (int t = -60; t <= 99; ++t) {
     const float p = presionSaturacion(static_cast<float>(t));
     EXPECT_NEAR(tSatVap(p), t, 1e-5 * std::fabs(t) + 1e-5) << t;
@@ -102,7 +102,7 @@ TEST(TSatVap, DaLaEbullicionDelAgua) {
 }
 
 TEST(TSatVap, SinVaporNoConvergeYLoDice) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   const float t = tSatVap(0.0F);
   EXPECT_EQ(registro.textos, std::vector<std::string>{"**Error 3: El proceso iterativo no ha convergido: "
                                                       "CorrienteAire::tSatVap(float p_)"});
@@ -111,7 +111,7 @@ TEST(TSatVap, SinVaporNoConvergeYLoDice) {
 }
 
 TEST(TBulboHumedo, DelAireSaturadoEsSuTemperaturaDeCeroANoventaGrados) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   for (int i = 0; i <= 360; ++i) {
     const float t = static_cast<float>(i) * 0.25F;
     const auto w = static_cast<float>(humedadSaturacion(t, aire::PRESION_NORMAL));
@@ -151,7 +151,7 @@ TEST(TBulboHumedo, NoPasaDeLaEbullicion) {
 }
 
 TEST(TBulboHumedo, SinConvergerLoDice) {
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   (void)tBulboHumedo(20.0F, 1e30F);
   ASSERT_FALSE(registro.textos.empty());
   EXPECT_EQ(registro.textos.front(), "**Error 3: El proceso iterativo no ha convergido: "

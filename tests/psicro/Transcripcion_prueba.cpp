@@ -7,7 +7,6 @@
 #include "core/Ficheros.h"
 #include "psicro/Corrienteaire.h"
 #include "tests/comun/Apoyos.h"
-#include "tests/psicro/Registrodeprueba.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -57,7 +56,7 @@ public:
     for (std::string palabra; flujo >> palabra;) palabras.push_back(palabra == "''" ? "" : palabra);
     std::vector<const char *> argv;
     for (const std::string &palabra : palabras) argv.push_back(palabra.c_str());
-    RegistroDePrueba registro;
+    prueba::RegistroApuntado registro;
     BuscarCorriente(palabras.at(0))->ProcesarOrden(static_cast<int>(argv.size()), argv.data());
     return registro.textos;
   }
@@ -231,7 +230,7 @@ TEST(Transcripcion, EscribirDejaLosNueveTextosSeguidosYElRegistroCerrado) {
   for (const std::string &texto : sesion.Ordenar("a mostrar")) seguidos += texto;
   Transcribir(sesion, {{("a escribir " + ruta).c_str(), {}}});
   EXPECT_EQ(LeerFicheroEntero(ruta), seguidos);
-  RegistroDePrueba registro;
+  prueba::RegistroApuntado registro;
   CorrienteAire suelta("suelta");
   suelta.escribir(ruta);
   EXPECT_FALSE(RegistroAbierto());

@@ -1,5 +1,6 @@
 #include "intercambio/formatos/Mapacolumnas.h"
 #include "intercambio/sintesis/Azar.h"
+#include "tests/comun/Mutaciones.h"
 #include "tests/intercambio/formatos/Generadorclima.h"
 
 #include "core/Codificacion.h"
@@ -14,32 +15,8 @@ namespace {
 
 using namespace prueba;
 
-/// Estropea @p texto en unos pocos sitios: bytes cambiados, quitados, repetidos o un corte.
-std::string Mutar(std::string texto, Azar &azar) {
-  constexpr std::string_view BYTES("\0\n\r\",;#.-+eE9 \xFF\xC3\xA1/:[=\t", 22);
-  const int cambios = 1 + static_cast<int>(azar.Siguiente() % 8);
-  for (int i = 0; i < cambios && !texto.empty(); ++i) {
-    const std::size_t donde = azar.Siguiente() % texto.size();
-    const char byte = BYTES[azar.Siguiente() % BYTES.size()];
-    switch (azar.Siguiente() % 5) {
-    case 0:
-      texto[donde] = byte;
-      break;
-    case 1:
-      texto.insert(donde, 1, byte);
-      break;
-    case 2:
-      texto.erase(donde, 1 + azar.Siguiente() % 200);
-      break;
-    case 3:
-      texto.insert(donde, texto.substr(donde, azar.Siguiente() % 2000));
-      break;
-    default:
-      if (azar.Siguiente() % 8 == 0) texto.resize(donde);
-    }
-  }
-  return texto;
-}
+/// Los bytes que significan algo para algún lector.
+constexpr Estropicio ESTROPICIO{std::string_view("\0\n\r\",;#.-+eE9 \xFF\xC3\xA1/:[=\t", 22), 8, 200, 2000};
 
 /// Lo que ha de cumplir toda lectura, salga lo que salga.
 void ComprobarSensatez(const ResultadoLectura &resultado, const std::string &texto, bool tapado = true) {
@@ -71,7 +48,7 @@ void Machacar(const std::string &entero, int vueltas, const char *semilla,
               const std::shared_ptr<const MapaColumnas> &mapa = nullptr) {
   Azar azar(semilla);
   for (int i = 0; i < vueltas; ++i) {
-    const std::string texto = Mutar(entero, azar);
+    const std::string texto = Mutar(entero, ESTROPICIO, [&] { return azar.Siguiente(); });
     OpcionesLectura opciones{.paraAuditar = i % 3 == 1, .mapa = mapa};
     if (i % 3 == 2) opciones.huecosLargos = HuecosLargos::RellenarVecinos;
     ASSERT_NO_FATAL_FAILURE(ComprobarSensatez(LeerTextoClima(texto, opciones), texto, !opciones.paraAuditar))
@@ -113,7 +90,8 @@ TEST(Mutaciones, Mapa) {
   Azar azar("mapa");
   int validos = 0;
   for (int i = 0; i < 4000; ++i) {
-    const ResultadoMapa resultado = LeerMapa(Mutar(MapaDePrueba(), azar));
+    const ResultadoMapa resultado =
+        LeerMapa(Mutar(MapaDePrueba(), ESTROPICIO, [&] { return azar.Siguiente(); }));
     ASSERT_NE(resultado.mapa.has_value(), !resultado.errores.empty());
     if (!resultado.mapa) continue;
     ++validos;

@@ -3,6 +3,7 @@
 
 #include "core/Codificacion.h"
 #include "tests/comun/Apoyos.h"
+#include "tests/comun/Mutaciones.h"
 #include "tests/intercambio/sintesis/Apoyosintesis.h"
 
 #include <gtest/gtest.h>
@@ -13,32 +14,8 @@
 namespace tesmo {
 namespace {
 
-/// Estropea @p texto en unos pocos sitios: bytes cambiados, quitados, repetidos o un corte.
-std::string Mutar(std::string texto, Azar &azar) {
-  constexpr std::string_view BYTES("\0\n\r\",;#.-+eE9 \xFF\xC3\xA1", 17);
-  const int cambios = 1 + static_cast<int>(azar.Siguiente() % 6);
-  for (int i = 0; i < cambios && !texto.empty(); ++i) {
-    const std::size_t donde = azar.Siguiente() % texto.size();
-    const char byte = BYTES[azar.Siguiente() % BYTES.size()];
-    switch (azar.Siguiente() % 5) {
-    case 0:
-      texto[donde] = byte;
-      break;
-    case 1:
-      texto.insert(donde, 1, byte);
-      break;
-    case 2:
-      texto.erase(donde, 1 + azar.Siguiente() % 40);
-      break;
-    case 3:
-      texto.insert(donde, texto.substr(donde, azar.Siguiente() % 300));
-      break;
-    default:
-      if (azar.Siguiente() % 8 == 0) texto.resize(donde);
-    }
-  }
-  return texto;
-}
+/// Los bytes que significan algo para el lector.
+constexpr prueba::Estropicio ESTROPICIO{std::string_view("\0\n\r\",;#.-+eE9 \xFF\xC3\xA1", 17), 6, 40, 300};
 
 void ComprobarSensatez(const std::vector<NormalesLocalidad> &localidades, const std::string &texto) {
   for (const NormalesLocalidad &localidad : localidades) {
@@ -65,7 +42,7 @@ TEST(NormalesMutaciones, NingunFicheroEstropeadoRompeElLectorNiPasaSinDecirlo) {
   int rechazados = 0;
   const auto limite = std::chrono::steady_clock::now() + std::chrono::seconds(3);
   while (std::chrono::steady_clock::now() < limite) {
-    const std::string texto = Mutar(semilla, azar);
+    const std::string texto = prueba::Mutar(semilla, ESTROPICIO, [&] { return azar.Siguiente(); });
     std::vector<std::string> errores;
     const auto localidades = LeerNormales(texto, "m.csv", errores);
     ++vueltas;
