@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <clocale>
 #include <filesystem>
 #include <sstream>
@@ -67,6 +68,45 @@ TEST_F(Sintesis, DaLosMismosBytesCadaVezYEnCualquierSubconjunto) {
   ASSERT_TRUE(Sintetizar(Primeras(3), TextoDeRuta(otro.Ruta()), resultado));
   EXPECT_GT(primero.size(), 500000U);
   EXPECT_TRUE(primero == Contenido(otro / "Meteo/Cadiz.met"));
+}
+
+/// Temperatura seca [°C], global horizontal [W/m²], humedad absoluta [g/kg] y viento [m/s], medias de un año.
+struct MediasDelAnio {
+  const char *localidad;
+  double temperatura, global, humedad, viento;
+};
+
+/// Las de los ficheros de la suma de comprobación de abajo. Otra biblioteca matemática puede cambiar la
+/// última cifra de algunas horas, pero no las medias: esta prueba corre en todas partes.
+TEST(SintesisMedias, LasDelAnioSonLasDeSiempreEnCualquierSistema) {
+  const std::array ESPERADAS{MediasDelAnio{"Almería", 19.0026, 213.0243, 9.03135, 4.31506},
+                             MediasDelAnio{"Antequera", 15.3550, 201.5079, 6.61659, 3.85800},
+                             MediasDelAnio{"Baza", 14.1357, 210.0754, 5.94481, 4.31548},
+                             MediasDelAnio{"Cádiz", 18.6569, 205.2088, 9.80887, 4.04084},
+                             MediasDelAnio{"Córdoba", 18.1772, 201.1006, 7.51513, 2.66840},
+                             MediasDelAnio{"Granada", 15.5756, 210.2242, 6.45809, 2.60355},
+                             MediasDelAnio{"Huelva", 18.0908, 211.5604, 8.32147, 3.26008},
+                             MediasDelAnio{"Jaén", 17.1004, 204.9545, 8.00289, 2.16734},
+                             MediasDelAnio{"Málaga", 18.4415, 201.1710, 8.64078, 3.85787},
+                             MediasDelAnio{"Ronda", 14.9055, 207.5488, 6.56191, 3.85741},
+                             MediasDelAnio{"Sevilla", 19.1649, 199.9282, 7.90049, 2.99086},
+                             MediasDelAnio{"Tarifa", 17.2347, 195.3764, 9.46286, 8.38193}};
+  for (const MediasDelAnio &esperada : ESPERADAS) {
+    const auto &anios = prueba::AniosDelPrograma();
+    const auto anio = std::find_if(anios.begin(), anios.end(), [&](const prueba::AnioDePrueba &a) {
+      return a.normales.nombre == esperada.localidad;
+    });
+    ASSERT_NE(anio, anios.end()) << esperada.localidad;
+    const auto media = [&](prueba::Columna columna) {
+      std::vector<double> valores;
+      for (const auto &registro : anio->met.registros) valores.push_back(registro[columna]);
+      return prueba::Media(valores);
+    };
+    EXPECT_NEAR(media(prueba::TS), esperada.temperatura, 0.001) << esperada.localidad;
+    EXPECT_NEAR(media(prueba::RDIR) + media(prueba::RDIF), esperada.global, 0.01) << esperada.localidad;
+    EXPECT_NEAR(media(prueba::W) * 1000.0, esperada.humedad, 0.0005) << esperada.localidad;
+    EXPECT_NEAR(media(prueba::VV), esperada.viento, 0.0005) << esperada.localidad;
+  }
 }
 
 TEST_F(Sintesis, LaSumaDeComprobacionEnDebian12EsLaFijada) {
