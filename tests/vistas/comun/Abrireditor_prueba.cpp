@@ -5,6 +5,8 @@
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QStatusBar>
+#include <csignal>
 #include <optional>
 
 using namespace tesmo;
@@ -113,15 +115,20 @@ private slots:
 
   void elAvisoDeUnEditorQueSobreviveALaVentanaNoTocaNada() {
     const QString sigue = Ruta("sigue");
-    const QString fin = Ruta("fin");
-    const ConVariable visual("VISUAL", Guion("while [ ! -e '" + sigue +
-                                             "' ]; do sleep 0.05; done; echo x >> '" + fin + "'; exit 3"));
+    const QString procesos = Ruta("procesos");
+    const ConVariable visual(
+        "VISUAL",
+        Guion("while [ ! -e '" + sigue + "' ]; do sleep 0.05; done; echo $$ >> '" + procesos + "'; exit 3"));
     marco_->Numero(0).Controlador().DameFormulario().Button1Click();
     marco_->marco.mnuCerrarClick();
     QTRY_VERIFY(marco_->marco.Controladores().empty());
+    const QString dicho = QStringLiteral("lo último que se dijo");
+    marco_->marco.statusBar()->showMessage(dicho);
     marco_->datos.Directorio().Escribir("sigue", "");
-    QTRY_COMPARE(Lineas(fin).size(), 2);
-    QTest::qWait(200); // da tiempo a que lleguen los dos avisos
+    QTRY_COMPARE(Lineas(procesos).size(), 2);
+    // Un proceso deja de existir cuando el nuestro recoge su final, que es cuando avisa de él.
+    for (const QString &proceso : Lineas(procesos)) QTRY_VERIFY(::kill(proceso.toInt(), 0) != 0);
+    QCOMPARE(marco_->marco.statusBar()->currentMessage(), dicho);
   }
 
 private:
