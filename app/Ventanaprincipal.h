@@ -48,6 +48,7 @@ public:
   [[nodiscard]] QWidget *DameImagen() const;
 
 public slots:
+  // Las órdenes de los menús del mismo nombre.
   void mnuNuevoClick();
   void mnuImportarClick();
   void mnuAuditarClick();
@@ -58,6 +59,7 @@ public slots:
   void mnuAcercadeClick();
 
 private slots:
+  /// Un tictac de la presentación; el séptimo la acaba.
   void Timer1Timer();
 
 protected:

@@ -25,6 +25,7 @@ public:
   /// @p controlador le sobrevive.
   explicit TforProgramas(VistaPrograma &controlador, QWidget *padre = nullptr);
 
+  // Quien la gobierna, sus páginas y el panel común.
   [[nodiscard]] VistaPrograma &DameControlador() const { return controlador_; }
   [[nodiscard]] PaginaEntorno &DamePaginaEntorno() const { return *paginaEntorno_; }
   [[nodiscard]] PaginaDiasExtremos &DamePaginaDiasExtremos() const { return *paginaDiasExtremos_; }
@@ -38,12 +39,14 @@ public:
   /// Nombre de la página que está delante ("tsDatosGenerales"…).
   [[nodiscard]] QString PestanaDelante() const;
 
+  // Los sucesos de los controles del mismo nombre; cada uno llama a su operación del controlador.
   void cbProvinciasChange();
   void cbLocalidadesChange();
   void pcProgramasChange();
   void btnActualizarClick();
   void csMesIniChange();
   void btnSimulacionClick();
+  /// Cualquier casilla del visor.
   void casillaClick();
   void btnCalDiaExtClick();
   void CheckListBox1ClickCheck();
@@ -51,6 +54,7 @@ public:
   void btnEscribirClick();
   void btnSubirClick();
   void btnBajarClick();
+  /// La casilla de exportación de la magnitud @p rotulo.
   void casillaExportacionClick(const QString &rotulo, bool puesta);
   /// Dice un fallo o una carga incompleta: no se quita al cambiar de pestaña, como lo demás que se dice.
   void Avisar(const QString &texto);

@@ -40,21 +40,31 @@ public:
   /// "Localidad-Provincia", o el nombre de la ventana si no hay localidad.
   [[nodiscard]] std::string Titulo() const;
 
+  /// Toma la provincia del panel: lista sus localidades, olvida la cargada y vacía el gráfico.
   void CambiarProvincia();
+  /// Toma la localidad del panel y la carga; si había series dibujadas, las dibuja con los datos nuevos.
   void CambiarLocalidad();
+  /// Toma el período del panel y quita de la vista lo que era de otro; se dibuja cuando se pida.
   void CambiarPeriodo();
+  /// Lee otra vez el fichero de la localidad con el período del panel y dibuja.
   void Actualizar();
+  /// Dibuja las magnitudes marcadas, derivando lo que haga falta, y dice cómo se maneja el gráfico.
   void Visualizar();
+  /// Enseña u oculta series según sus casillas, sin leer el fichero.
   void ActualizarVisibles();
+  /// Reparte las series visibles entre los dos ejes por su unidad; sin series, las primeras que se dibujen.
   void EjesPorUnidad();
+  // Los botones de los días extremos.
   void CalcularDiasExtremos();
   void ElegirMagnitudesExtremas();
   void VisualizarFicherosExtremos();
+  /// La altitud de la carta cambió y con ella la presión: redibuja las series que haya.
   void CambiarAltitud();
   /// Toma los colores de la tabla compartida.
   void AplicarColores();
   /// Pone al día la vista de la posición solar y escribe el fichero horario.
   void EscribirArchivoHorario();
+  /// Pone Titulo() en la ventana.
   void PonTitulo();
 
   /// Un motor cambió: el formulario se repinta.

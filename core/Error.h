@@ -11,7 +11,9 @@ namespace tesmo {
 void AbrirRegistro(const std::string &ruta);
 /// Hace que los diagnósticos vayan, uno por llamada, a @p destino en vez de a un fichero.
 void AbrirRegistroEn(std::function<void(std::string_view)> destino);
+/// Deja de escribir diagnósticos; sin registro abierto no hace nada.
 void CerrarRegistro();
+/// ¿Va a algún sitio lo que se escriba en el registro?
 [[nodiscard]] bool RegistroAbierto();
 /// Escribe @p texto tal cual, sin fin de línea; nada si no hay registro abierto. De varios hilos, uno cada
 /// vez.

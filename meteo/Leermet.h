@@ -20,6 +20,10 @@ class PosicionSolar;
 
 /// El año meteorológico de una localidad y lo que de él se deriva. Nada se valida al cargar; las posiciones
 /// que caen fuera del año nunca se leen.
+///
+/// Las operaciones por clave, las que responden por referencia (Estadisticas) y las que derivan por partes
+/// son contrato y no cambian de forma. El código nuevo pide las series con DameSerie y el rótulo de su ficha
+/// y las estadísticas con DameEstadisticas, y deriva con AsegurarDerivadas.
 class LeerMet : public ObjetoBase {
 public:
   LeerMet();
@@ -45,6 +49,7 @@ public:
   /// Horas del día, 1 a 24 y ambas incluidas, que cuentan en las estadísticas; de fábrica sólo la 1.
   void PonHorasDelDia(int primera, int ultima);
 
+  /// Las de meteo/Fecha.h, con su nombre de contrato.
   [[nodiscard]] static int IndiceHora(int mes, int dia, int hora) {
     return tesmo::IndiceHora(mes, dia, hora);
   }
@@ -104,7 +109,6 @@ public:
   [[nodiscard]] int UltimaHora() const { return tramo_.ultima; }   ///< incluidas
   /// Horas del período: las que DameSerie copia; 0 si el fin va antes que el inicio.
   [[nodiscard]] int HorasDelPeriodo() const;
-  [[nodiscard]] const SeriesLeidas &Leidas() const { return leidas_; }
   [[nodiscard]] const SeriesDerivadas &Derivadas() const { return derivadas_; }
 
 private:

@@ -177,6 +177,7 @@ inline constexpr std::array<Magnitud, 21> ORDEN_DE_EXPORTACION{
   Magnitud::VE, Magnitud::CE, Magnitud::DN, Magnitud::Dr, Magnitud::Df, Magnitud::R, Magnitud::G};
 // clang-format on
 
+/// La fila de @p magnitud.
 [[nodiscard]] constexpr const FichaMagnitud &Ficha(Magnitud magnitud) {
   return MAGNITUDES[static_cast<std::size_t>(magnitud)];
 }
@@ -189,6 +190,7 @@ inline constexpr std::array<Magnitud, 21> ORDEN_DE_EXPORTACION{
   return rotulo.substr(abre + 1, cierra - abre - 1);
 }
 
+/// La unidad del rótulo de @p magnitud.
 [[nodiscard]] constexpr std::string_view Unidad(Magnitud magnitud) {
   return UnidadDeRotulo(Ficha(magnitud).rotulo);
 }

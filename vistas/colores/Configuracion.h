@@ -11,7 +11,8 @@ namespace tesmo {
 
 class LectorClaves;
 
-/// Colores de las 21 magnitudes del visor, en su orden: enteros 0x00BBGGRR. Empieza con los de fábrica.
+/// La configuración que se guarda es la de los colores: los de las 21 magnitudes del visor, en su orden,
+/// enteros 0x00BBGGRR. Empieza con los de fábrica.
 class Configuracion {
 public:
   Configuracion();
