@@ -25,7 +25,7 @@ std::optional<double> SiHay(double valor) { return std::isnan(valor) ? std::null
 class LectorDelimitado {
 public:
   LectorDelimitado(std::string_view texto, const MapaColumnas &mapa, AnioCanonico &anio, Cuaderno &cuaderno)
-      : lineas_(texto), mapa_(mapa), anio_(anio), cuaderno_(cuaderno) {}
+      : texto_(texto), lineas_(texto), mapa_(mapa), anio_(anio), cuaderno_(cuaderno) {}
 
   void Leer() {
     anio_.sitio.nombre = mapa_.nombre;
@@ -75,8 +75,24 @@ private:
          .linea = mapa_.lineasCabecera,
          .texto = "no hay columna " + Citado(columna) + " para " + std::string(para) +
                   "; póngase en el mapa su número, desde 1, o su rótulo tal como está en la línea " +
-                  std::to_string(mapa_.lineasCabecera)});
+                  std::to_string(mapa_.lineasCabecera) + OtraLineaConRotulo(columna)});
     return SIN_COLUMNA;
+  }
+
+  /// Si @p rotulo está en otra de las primeras líneas, cuál; lo corriente es haber contado mal la cabecera.
+  [[nodiscard]] std::string OtraLineaConRotulo(const std::string &rotulo) const {
+    constexpr int LINEAS_MIRADAS = 100;
+    const std::string buscado = PlegarMinusculas(rotulo);
+    Lineas lineas(texto_);
+    CamposLinea campos;
+    for (std::string_view linea; lineas.Numero() < LINEAS_MIRADAS && lineas.Siguiente(linea);) {
+      PartirLinea(linea, mapa_.separador, COLUMNAS_MAXIMAS, campos);
+      const auto es = [&buscado](std::string_view c) { return PlegarMinusculas(AUtf8(c)) == buscado; };
+      if (std::any_of(campos.begin(), campos.end(), es))
+        return "; está en la línea " + std::to_string(lineas.Numero()) +
+               ": «líneas de cabecera = " + std::to_string(lineas.Numero()) + "»";
+    }
+    return {};
   }
 
   void AnadirColumna(const ColumnaMapa &columna, EsquemaFilas &esquema) {
@@ -156,6 +172,7 @@ private:
     };
   }
 
+  std::string_view texto_;
   Lineas lineas_;
   const MapaColumnas &mapa_;
   AnioCanonico &anio_;

@@ -116,6 +116,15 @@ TEST(Delimitado, LosRotulosPuedenAcabarEnCorchetes) {
   EXPECT_EQ(Valor(*resultado.anio, Campo::DireccionViento, 36), 252.0);
 }
 
+TEST(Delimitado, UnaCabeceraMalContadaDiceDondeEstanLosRotulos) {
+  LineasFichero lineas = LineasDelimitado();
+  lineas.insert(lineas.begin(), "Estación de Almena");
+  const ResultadoLectura resultado = Leer(lineas, MapaDePrueba());
+  EXPECT_FALSE(resultado.anio);
+  EXPECT_NE(resultado.errores.at(0).texto.find("«líneas de cabecera = 2»"), std::string::npos)
+      << resultado.errores[0].texto;
+}
+
 TEST(Delimitado, UnRotuloQueNoEstaEsUnError) {
   const ResultadoLectura resultado =
       Leer(LineasDelimitado(), Cambiar(MapaDePrueba(), "= Temp", "= Temperatura"));
