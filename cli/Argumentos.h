@@ -24,7 +24,7 @@ namespace tesmo::cli {
 [[nodiscard]] double LeerNumero(const std::string &texto, const std::string &que);
 [[nodiscard]] double LeerNumero(const std::string &texto, const std::string &que, double minimo,
                                 double maximo);
-/// Latitud [º] de −89 a 89, lo que admite la ventana.
+/// Latitud [°] de −89 a 89, lo que admite la ventana.
 [[nodiscard]] float LeerLatitud(const std::string &texto);
 [[nodiscard]] int LeerEntero(const std::string &texto, const std::string &que, int minimo, int maximo);
 /// "M/D/H" de un año de 365 días, horas 1 a 24.

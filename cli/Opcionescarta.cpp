@@ -20,7 +20,7 @@ struct FichaFamilia {
   const char *que;
 };
 constexpr std::array<FichaFamilia, NUMERO_FAMILIAS> FAMILIAS{
-    {{"t", Familia::T, "temperatura seca [ºC]"},
+    {{"t", Familia::T, "temperatura seca [°C]"},
      {"w", Familia::W, "humedad absoluta [kg/kg]"},
      {"h", Familia::H, "entalpía [J/kg]"},
      {"hr", Familia::HR, "humedad relativa [%]"},

@@ -64,16 +64,16 @@ void RegistrarAire(CLI::App &raiz, Contexto &contexto) {
   CLI::App &orden =
       NuevaOrden(raiz, "aire",
                  {"Estado del aire húmedo a partir de dos magnitudes y la presión",
-                  "Escribe caudal m [kg/s], presión p [Pa], temperaturas t, húmeda th y de rocío tr [ºC], "
+                  "Escribe caudal m [kg/s], presión p [Pa], temperaturas t, húmeda th y de rocío tr [°C], "
                   "humedad absoluta w\n"
                   "[kg/kg] y relativa hr [%], entalpía h [J/kg], densidad ro [kg/m³] y volumen específico ve "
                   "[m³/kg], uno por\n"
                   "línea. Lo que se sale de límites se lleva a ellos y se dice en la salida de errores.",
                   "aire pont_hr 25 50\naire pont_w -5 0.002 93000\naire pont_h 20 40000 --json"});
   Exigir(AnadirArgumento(orden, "ORDEN", datos->orden, "pont_w, pont_th, pont_tr, pont_hr, pont_h o ponw_h"));
-  Exigir(AnadirArgumento(orden, "A", datos->a, "Temperatura seca [ºC]; en ponw_h, humedad absoluta [kg/kg]"));
+  Exigir(AnadirArgumento(orden, "A", datos->a, "Temperatura seca [°C]; en ponw_h, humedad absoluta [kg/kg]"));
   Exigir(AnadirArgumento(orden, "B", datos->b,
-                         "Lo que dice la orden: w [kg/kg], th o tr [ºC], hr [%], h [J/kg]"));
+                         "Lo que dice la orden: w [kg/kg], th o tr [°C], hr [%], h [J/kg]"));
   AnadirArgumento(orden, "P", datos->p, "Presión [Pa] (101325)");
   AnadirJson(orden, datos->json);
   AlEjecutar(orden, contexto, datos, Ejecutar);

@@ -231,9 +231,9 @@ void RegistrarDiasExtremos(CLI::App &raiz, Contexto &contexto) {
       {"Días de proyecto de calefacción y de refrigeración",
        "Escribe una línea por hora solar (0 a 23) de cada día, «cal» y «ref»: temperaturas exterior, de "
        "rocío "
-       "y de cielo [ºC],\nradiación directa y difusa horizontales [W/m²], humedades absoluta [g/kg] y "
+       "y de cielo [°C],\nradiación directa y difusa horizontales [W/m²], humedades absoluta [g/kg] y "
        "relativa "
-       "[%]. La traza lleva un nombre y\nsus valores por línea; las distribuciones van de -49 a 50 ºC, un "
+       "[%]. La traza lleva un nombre y\nsus valores por línea; las distribuciones van de -49 a 50 °C, un "
        "valor por grado.",
        "dias-extremos --localidad Almería\n"
        "dias-extremos --localidad Granada --per-cal 99.6 --mes-cal 12 --traza\n"

@@ -103,8 +103,8 @@ void RegistrarEstadisticas(CLI::App &raiz, Contexto &contexto) {
        "estadisticas --localidad Granada TS\n"
        "estadisticas --localidad Granada --desde 6/1/1 --hasta 9/30/24 --horas 9-20 --base-ref 26 TS TH G"});
   AnadirSeleccion(orden, datos->seleccion);
-  AnadirValor(orden, "--base-cal", datos->baseCalefaccion, "GRADOS", "Base de calefacción [ºC] (15)");
-  AnadirValor(orden, "--base-ref", datos->baseRefrigeracion, "GRADOS", "Base de refrigeración [ºC] (25)");
+  AnadirValor(orden, "--base-cal", datos->baseCalefaccion, "GRADOS", "Base de calefacción [°C] (15)");
+  AnadirValor(orden, "--base-ref", datos->baseRefrigeracion, "GRADOS", "Base de refrigeración [°C] (25)");
   AnadirValor(orden, "--horas", datos->horas, "A-B", "Horas del día que cuentan, las dos incluidas (1-24)");
   AnadirInterruptor(orden, "--mensual", datos->mensual, "Una línea por mes, con la fecha de los extremos");
   AnadirVariables(orden, *datos);

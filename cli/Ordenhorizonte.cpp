@@ -115,7 +115,7 @@ void RegistrarLeer(CLI::App &horizonte, Contexto &contexto) {
   const auto [orden, datos] = RegistrarUna(
       horizonte, contexto, "leer",
       {"Enseña los puntos de un perfil de horizonte",
-       "Escribe «n N» y una línea «acimut altura» [º] por punto, con el acimut 0 al sur y el oeste positivo. "
+       "Escribe «n N» y una línea «acimut altura» [°] por punto, con el acimut 0 al sur y el oeste positivo. "
        "Reconoce los formatos de «horizonte convertir».",
        "horizonte leer sierra.txt\nhorizonte leer pvgis.csv --json"},
       Leer);
@@ -139,7 +139,7 @@ void RegistrarConvertir(CLI::App &horizonte, Contexto &contexto) {
       {"Pasa un perfil de horizonte de un formato a otro",
        "Con todos sus puntos. Formatos: nativo (número de puntos y parejas), completo (.csv), pvgis "
        "(.pvgis), "
-       "tabla desde el norte (.tsv) y alturas cada 10º desde el norte (.alturas). Sin --a se toma el de la "
+       "tabla desde el norte (.tsv) y alturas cada 10° desde el norte (.alturas). Sin --a se toma el de la "
        "extensión; si no es ninguna de ésas, el nativo.",
        "horizonte convertir pvgis.txt -o sierra.csv\nhorizonte convertir sierra.csv -o sierra.txt --a "
        "nativo\n"

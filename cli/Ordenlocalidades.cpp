@@ -57,7 +57,7 @@ void RegistrarLocalidades(CLI::App &raiz, Contexto &contexto) {
   CLI::App &orden = NuevaOrden(raiz, "localidades",
                                {"Lista las localidades de la base",
                                 "Una línea por localidad: provincia, localidad, nombre corto, fichero, "
-                                "latitud [º], longitud [º] y décimo "
+                                "latitud [°], longitud [°] y décimo "
                                 "número (en los datos propios, la altitud [m]).",
                                 "localidades\nlocalidades --provincia Granada --json"});
   AnadirValor(orden, "--provincia", datos->provincia, "PROVINCIA", "Sólo las de esa provincia");

@@ -90,7 +90,7 @@ void RegistrarSol(CLI::App &raiz, Contexto &contexto) {
   RegistrarUna(
       sol, contexto, "salida",
       {"Horas de salida y de puesta y declinación",
-       "Escribe en una línea salida y puesta [h] y declinación [º]: -1 y 25 si el sol no se pone, -1 y -1 "
+       "Escribe en una línea salida y puesta [h] y declinación [°]: -1 y 25 si el sol no se pone, -1 y -1 "
        "si no sale.",
        "sol salida 36.84 6 21"},
       Salida, false);
@@ -101,13 +101,13 @@ void RegistrarSol(CLI::App &raiz, Contexto &contexto) {
                Vector, true);
   RegistrarUna(sol, contexto, "posicion",
                {"Acimut, altura y cenit del sol",
-                "Escribe acimut (0 al sur, oeste positivo), altura y cenit [º], y 1 si es de día o 0 si no.",
+                "Escribe acimut (0 al sur, oeste positivo), altura y cenit [°], y 1 si es de día o 0 si no.",
                 "sol posicion 36.84 6 21 10.5"},
                Posicion, true);
   RegistrarUna(
       sol, contexto, "momento",
       {"Lo que la carta solar enseña de un momento",
-       "Lo mismo que «sol posicion»: acimut (0 al sur, oeste positivo), altura y cenit [º], y 1 si es "
+       "Lo mismo que «sol posicion»: acimut (0 al sur, oeste positivo), altura y cenit [°], y 1 si es "
        "de día o 0 si no.",
        "sol momento 36.84 6 21 10.5"},
       Posicion, true);

@@ -26,7 +26,7 @@ void RegistrarSolAnual(CLI::App &sol, Contexto &contexto) {
   CLI::App &orden = NuevaOrden(sol, "anual",
                                {"Escribe el fichero con las posiciones del sol de un año",
                                 "Una línea con la latitud y 8.760 con mes, hora, hora, acimut, altura y "
-                                "cenit [º] a la hora más media; "
+                                "cenit [°] a la hora más media; "
                                 "de noche, 0, 0 y 90.",
                                 "sol anual 36.84 -o FPS.TXT"});
   Exigir(AnadirArgumento(orden, "LAT", datos->latitud, AYUDA_LATITUD));

@@ -13,6 +13,9 @@ const std::vector<Argumentos> ORDENES{{},
                                       {"serie"},
                                       {"estadisticas"},
                                       {"exportar"},
+                                      {"dias-extremos"},
+                                      {"importar"},
+                                      {"convertir"},
                                       {"sintetizar"},
                                       {"auditar"},
                                       {"corriente"},
@@ -49,6 +52,13 @@ TEST_F(AyudaYErrores, CadaOrdenTieneAyudaEnEspanolConEjemplos) {
       EXPECT_NE(e.salida.find("Ejemplos:\n  tesmo-cli "), std::string::npos) << e.salida;
       SinIngles(e.salida);
     }
+  }
+}
+
+TEST_F(AyudaYErrores, LosGradosSeEscribenConSuSignoYNoConElOrdinal) {
+  for (Argumentos argumentos : ORDENES) {
+    argumentos.emplace_back("--help");
+    EXPECT_EQ(Orden(argumentos).salida.find("º"), std::string::npos) << ::testing::PrintToString(argumentos);
   }
 }
 
