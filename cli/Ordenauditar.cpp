@@ -1,21 +1,17 @@
 #include "cli/Ordenes.h"
 
 #include "cli/Argumentos.h"
+#include "cli/Json.h"
 #include "cli/Opcionesreloj.h"
 #include "cli/Opcionesseleccion.h"
 #include "intercambio/auditoria/Textoauditoria.h"
 #include "intercambio/sintesis/Normalesprograma.h"
 
-#include <nlohmann/json.hpp>
-
-#include <cmath>
 #include <memory>
 
 namespace tesmo::cli {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 struct Datos {
   std::vector<std::string> ficheros;
@@ -30,50 +26,48 @@ struct Auditado {
   Auditoria auditoria;
 };
 
-Json NumeroJson(double valor) { return std::isfinite(valor) ? Json(valor) : Json(nullptr); }
-
 /// Líneas en orden como parejas de la primera y la última de cada tramo.
 Json TramosJson(const std::vector<int> &lineas) {
-  Json tramos = Json::array();
+  ListaJson tramos;
   for (std::size_t i = 0, fin = 0; i < lineas.size(); i = fin) {
     fin = i + 1;
     while (fin < lineas.size() && lineas[fin] == lineas[fin - 1] + 1) ++fin;
-    tramos.push_back(Json::array({lineas[i], lineas[fin - 1]}));
+    tramos.push_back(ListaJson{lineas[i], lineas[fin - 1]});
   }
   return tramos;
 }
 
 Json SitioJson(const SitioClima &sitio) {
-  return {{"nombre", sitio.nombre},
-          {"pais", sitio.pais},
-          {"latitud", NumeroJson(sitio.latitud)},
-          {"longitud", NumeroJson(sitio.longitud)},
-          {"altitud", NumeroJson(sitio.altitud)}};
+  return ObjetoJson{{"nombre", sitio.nombre},
+                    {"pais", sitio.pais},
+                    {"latitud", sitio.latitud},
+                    {"longitud", sitio.longitud},
+                    {"altitud", sitio.altitud}};
 }
 
 Json RelojJson(const VeredictoReloj &veredicto) {
-  return {{"declarado", TextoReloj(veredicto.declarado.reloj)},
-          {"propuesto", TextoReloj(veredicto.propuesto.reloj)},
-          {"desfase_min", NumeroJson(veredicto.desfaseHallado)},
-          {"confianza", TextoConfianza(veredicto.confianza)},
-          {"concuerda", veredicto.concuerda}};
+  return ObjetoJson{{"declarado", TextoReloj(veredicto.declarado.reloj)},
+                    {"propuesto", TextoReloj(veredicto.propuesto.reloj)},
+                    {"desfase_min", veredicto.desfaseHallado},
+                    {"confianza", TextoConfianza(veredicto.confianza)},
+                    {"concuerda", veredicto.concuerda}};
 }
 
 Json AuditadoJson(const Auditado &auditado) {
-  Json comprobaciones = Json::array();
+  ListaJson comprobaciones;
   for (const ResultadoComprobacion &resultado : auditado.auditoria.resultados) {
-    comprobaciones.push_back({{"clave", resultado.comprobacion->clave},
-                              {"titulo", resultado.comprobacion->titulo},
-                              {"resultado", NombreGravedad(resultado.hallazgo.gravedad)},
-                              {"texto", resultado.hallazgo.texto},
-                              {"lineas", TramosJson(resultado.hallazgo.lineas)}});
+    comprobaciones.push_back(ObjetoJson{{"clave", resultado.comprobacion->clave},
+                                        {"titulo", resultado.comprobacion->titulo},
+                                        {"resultado", NombreGravedad(resultado.hallazgo.gravedad)},
+                                        {"texto", resultado.hallazgo.texto},
+                                        {"lineas", TramosJson(resultado.hallazgo.lineas)}});
   }
-  return {{"fichero", auditado.fichero},
-          {"formato", NombreFormato(auditado.materia.anio.formato)},
-          {"sitio", SitioJson(auditado.materia.anio.sitio)},
-          {"veredicto", NombreVeredicto(auditado.auditoria.veredicto)},
-          {"reloj", RelojJson(auditado.materia.reloj)},
-          {"comprobaciones", comprobaciones}};
+  return ObjetoJson{{"fichero", auditado.fichero},
+                    {"formato", NombreFormato(auditado.materia.anio.formato)},
+                    {"sitio", SitioJson(auditado.materia.anio.sitio)},
+                    {"veredicto", NombreVeredicto(auditado.auditoria.veredicto)},
+                    {"reloj", RelojJson(auditado.materia.reloj)},
+                    {"comprobaciones", comprobaciones}};
 }
 
 /// Audita @p fichero; si no se puede ni abrir o no es de ningún formato, lo dice y devuelve nada.
@@ -94,7 +88,7 @@ std::optional<Auditado> AuditarFichero(const std::string &fichero, const Opcione
 void Ejecutar(const Datos &datos, Contexto &contexto) {
   const std::vector<NormalesLocalidad> delPrograma = NormalesDelPrograma();
   const OpcionesLectura opciones{.paraAuditar = true, .mapa = InterpretarMapa(datos.mapa)};
-  Json lista = Json::array();
+  ListaJson lista;
   bool falta = false, primera = true;
   for (const std::string &fichero : datos.ficheros) {
     const std::vector<NormalesLocalidad> normales =
@@ -110,7 +104,7 @@ void Ejecutar(const Datos &datos, Contexto &contexto) {
                     << TextoAuditoria(fichero, auditado->materia, auditado->auditoria);
     primera = false;
   }
-  if (datos.json) contexto.salida << lista.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+  if (datos.json) contexto.salida << TextoJson(lista) << '\n';
   if (falta) throw Fallo(Estado::FaltaEntrada, "");
 }
 

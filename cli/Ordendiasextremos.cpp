@@ -1,6 +1,7 @@
 #include "cli/Ordenes.h"
 
 #include "cli/Argumentos.h"
+#include "cli/Json.h"
 #include "cli/Opcionesseleccion.h"
 #include "cli/Tabla.h"
 #include "core/Configuracionregional.h"
@@ -12,11 +13,7 @@
 #include "extremos/Escritordias.h"
 #include "localidades/Ciudad.h"
 
-#include <nlohmann/json.hpp>
-
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <memory>
 
 namespace tesmo::cli {
@@ -150,22 +147,13 @@ std::string TrazaComoTexto(const std::vector<extremos::LineaDeTraza> &lineas) {
 }
 
 std::string TrazaComoJson(const std::vector<extremos::LineaDeTraza> &lineas) {
-  nlohmann::ordered_json objeto = nlohmann::ordered_json::object();
-  const auto numero = [](double valor) -> nlohmann::ordered_json {
-    if (!std::isfinite(valor)) return nullptr;
-    const std::string cifras = FormatoG9(valor); // las mismas que en el texto
-    double redondo = 0.0;
-    std::from_chars(cifras.data(), cifras.data() + cifras.size(), redondo);
-    return redondo;
-  };
+  ObjetoJson objeto;
   for (const auto &[nombre, valores] : lineas) {
-    if (valores.size() == 1) {
-      objeto[nombre] = numero(valores.front());
-      continue;
-    }
-    for (const double valor : valores) objeto[nombre].push_back(numero(valor));
+    ListaJson numeros;
+    for (const double valor : valores) numeros.push_back(ConNueveCifras(valor));
+    objeto.push_back({nombre, numeros.size() == 1 ? numeros.front() : numeros});
   }
-  return objeto.dump() + "\n";
+  return TextoJson(objeto) + "\n";
 }
 
 void Escribir(const Datos &datos, const Peticion &peticion, const DiasExtremos &motor, Contexto &contexto) {

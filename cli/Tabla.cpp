@@ -1,17 +1,11 @@
 #include "cli/Tabla.h"
 
+#include "cli/Json.h"
 #include "core/Formato.h"
-
-#include <nlohmann/json.hpp>
-
-#include <charconv>
-#include <cmath>
 
 namespace tesmo::cli {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 std::string Texto(const Celda &celda) {
   if (const auto *texto = std::get_if<std::string>(&celda)) return *texto;
@@ -22,16 +16,8 @@ std::string Texto(const Celda &celda) {
 Json ValorJson(const Celda &celda) {
   if (const auto *texto = std::get_if<std::string>(&celda)) return *texto;
   if (const auto *entero = std::get_if<int>(&celda)) return *entero;
-  if (!std::isfinite(std::get<double>(celda))) return nullptr;
-  // Las mismas cifras que en el texto: un float pasado a double arrastraría otras diez.
-  const std::string cifras = Texto(celda);
-  double valor = 0.0;
-  std::from_chars(cifras.data(), cifras.data() + cifras.size(), valor);
-  return valor;
+  return ConNueveCifras(std::get<double>(celda));
 }
-
-/// Un texto del disco o de la línea de órdenes puede no ser UTF-8 y el JSON no lo admite: se sustituye.
-std::string Volcar(const Json &valor) { return valor.dump(-1, ' ', false, Json::error_handler_t::replace); }
 
 void AnadirLinea(std::string &texto, const std::vector<std::string> &partes) {
   for (std::size_t i = 0; i < partes.size(); ++i) {
@@ -66,10 +52,10 @@ std::string Tabla::ATexto() const {
 std::string Tabla::AJson() const {
   std::string texto;
   for (const std::vector<Celda> &fila : filas_) {
-    Json objeto = Json::object();
-    for (std::size_t i = 0; i < fila.size(); ++i) objeto[titulos_[i]] = ValorJson(fila[i]);
+    ObjetoJson objeto;
+    for (std::size_t i = 0; i < fila.size(); ++i) objeto.push_back({titulos_[i], ValorJson(fila[i])});
     if (!texto.empty()) texto += ",\n";
-    texto += Volcar(objeto);
+    texto += TextoJson(objeto);
   }
   const bool lista = forma_ == Forma::ConCabecera || forma_ == Forma::SinCabecera;
   return (lista ? "[" + texto + "]" : texto) + "\n";
