@@ -46,6 +46,11 @@ Json::Json(std::string_view texto) : valor(std::string(texto)) {}
 Json::Json(const char *texto) : valor(std::string(texto)) {}
 Json::Json(ListaJson lista) : valor(std::move(lista)) {}
 Json::Json(ObjetoJson objeto) : valor(std::move(objeto)) {}
+Json::~Json() = default;
+Json::Json(const Json &) = default;
+Json::Json(Json &&) noexcept = default;
+Json &Json::operator=(const Json &) = default;
+Json &Json::operator=(Json &&) noexcept = default;
 
 std::string TextoJson(const Json &valor) {
   return Traducir(valor).dump(-1, ' ', false, Ajeno::error_handler_t::replace);

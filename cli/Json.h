@@ -26,6 +26,12 @@ struct Json {
   Json(const char *texto);
   Json(ListaJson lista);
   Json(ObjetoJson objeto);
+  // En Json.cpp: dentro de cada fichero que compone un objeto cuestan dos segundos de compilar.
+  ~Json();
+  Json(const Json &);
+  Json(Json &&) noexcept;
+  Json &operator=(const Json &);
+  Json &operator=(Json &&) noexcept;
 
   std::variant<std::nullptr_t, bool, int, double, std::string, ListaJson, ObjetoJson> valor;
 };
