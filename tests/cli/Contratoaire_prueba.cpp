@@ -1,9 +1,8 @@
+#include "tests/cli/Jsonleido.h"
 #include "tests/cli/Proceso.h"
 
 #include "core/Formato.h"
 #include "psicro/Corrienteaire.h"
-
-#include <nlohmann/json.hpp>
 
 namespace tesmo::prueba {
 namespace {
@@ -59,10 +58,10 @@ TEST_F(OrdenAire, CadaDiagnosticoEnSuLineaYNadaMas) {
 
 TEST_F(OrdenAire, JsonConLosMismosValores) {
   const Ejecucion texto = Orden({"aire", "pont_th", "30", "20", "95000"});
-  const auto json = nlohmann::json::parse(Orden({"aire", "pont_th", "30", "20", "95000", "--json"}).salida);
-  ASSERT_EQ(json.size(), CODIGOS.size());
+  const JsonLeido json(Orden({"aire", "pont_th", "30", "20", "95000", "--json"}).salida);
+  ASSERT_EQ(json.Tamano(), CODIGOS.size());
   for (const std::string &linea : texto.Lineas())
-    EXPECT_EQ(json.at(Campos(linea)[0]).get<double>(), std::stod(Campos(linea)[1])) << linea;
+    EXPECT_EQ(json[Campos(linea)[0]].Numero(), std::stod(Campos(linea)[1])) << linea;
 }
 
 TEST_F(OrdenAire, LoQueNoEsNumeroEstado2) {

@@ -1,13 +1,10 @@
+#include "tests/cli/Jsonleido.h"
 #include "tests/cli/Proceso.h"
 #include "tests/comun/Lugares.h"
 #include "tests/intercambio/formatos/Generadorclima.h"
 
-#include <nlohmann/json.hpp>
-
 namespace tesmo::prueba {
 namespace {
-
-using Json = nlohmann::json;
 
 /// tesmo-cli sobre los años sintéticos, que son .met de quince columnas sin ninguna falta.
 class OrdenAuditar : public LineaDeOrdenes {
@@ -44,15 +41,17 @@ TEST_F(OrdenAuditar, UnAnioSinFaltasEsApto) {
 TEST_F(OrdenAuditar, ElJsonDaElVeredictoYLosTramosDeLineas) {
   const Ejecucion e = Orden({"auditar", ConCodigoEnLaLinea(50), almeria_, "--json"});
   EXPECT_EQ(e.estado, 0) << e.error;
-  const Json lista = Json::parse(e.salida);
-  ASSERT_EQ(lista.size(), 2U);
-  EXPECT_EQ(lista[0]["veredicto"], "no apto");
-  EXPECT_EQ(lista[1]["veredicto"], "apto");
-  EXPECT_NEAR(lista[1]["sitio"]["latitud"].get<double>(), 36.8464, 1e-9);
+  const JsonLeido lista(e.salida);
+  ASSERT_EQ(lista.Tamano(), 2U);
+  EXPECT_EQ(lista[0]["veredicto"].Texto(), "no apto");
+  EXPECT_EQ(lista[1]["veredicto"].Texto(), "apto");
+  EXPECT_NEAR(lista[1]["sitio"]["latitud"].Numero(), 36.8464, 1e-9);
   bool visto = false;
-  for (const Json &comprobacion : lista[0]["comprobaciones"]) {
-    if (comprobacion["clave"] != "codigos" && comprobacion["clave"] != "huecos") continue;
-    visto = visto || comprobacion["lineas"] == Json::parse("[[50,50]]");
+  const JsonLeido comprobaciones = lista[0]["comprobaciones"];
+  for (std::size_t i = 0; i < comprobaciones.Tamano(); ++i) {
+    const std::string clave = comprobaciones[i]["clave"].Texto();
+    if (clave != "codigos" && clave != "huecos") continue;
+    visto = visto || comprobaciones[i]["lineas"].Escrito() == "[[50,50]]";
   }
   EXPECT_TRUE(visto) << e.salida;
 }
@@ -64,7 +63,7 @@ TEST_F(OrdenAuditar, ElJsonSaleEnUtf8AunqueLaCiudadVengaEnLatin1) {
                "a");
   const Ejecucion e = Orden({"auditar", raiz_.Escribir("x.epw", Unir(lineas)), "--json"});
   EXPECT_EQ(e.estado, 0) << e.error;
-  EXPECT_EQ(Json::parse(e.salida)[0]["sitio"]["nombre"], "Almería");
+  EXPECT_EQ(JsonLeido(e.salida)[0]["sitio"]["nombre"].Texto(), "Almería");
 }
 
 TEST_F(OrdenAuditar, SinNadaQueAuditarElJsonEsUnaListaVacia) {

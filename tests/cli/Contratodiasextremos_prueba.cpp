@@ -1,6 +1,5 @@
+#include "tests/cli/Jsonleido.h"
 #include "tests/cli/Proceso.h"
-
-#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <cmath>
@@ -118,16 +117,17 @@ TEST_F(OrdenDiasExtremos, LaTablaSigueALaTraza) {
 }
 
 TEST_F(OrdenDiasExtremos, EnJsonSonLosMismosNumeros) {
-  const auto tabla = nlohmann::json::parse(Jaen({"--json"}).salida);
-  ASSERT_EQ(tabla.size(), 48U);
-  EXPECT_EQ(tabla[24]["estacion"], "ref");
-  EXPECT_EQ(tabla[24]["hora"], 0);
-  EXPECT_EQ(tabla[30]["text"], std::stod(Campos(Jaen().Lineas()[31])[2]));
-  const auto traza = nlohmann::json::parse(Jaen({"--traza", "--json"}).salida);
-  EXPECT_EQ(traza["T2"], Traza(Jaen({"--traza"}))["T2"][0]);
-  EXPECT_EQ(traza.size(), 29U);
-  const auto distribuciones = std::ranges::count_if(traza, [](const auto &v) { return v.is_array(); });
-  EXPECT_EQ(distribuciones, 6);
+  const JsonLeido tabla(Jaen({"--json"}).salida);
+  ASSERT_EQ(tabla.Tamano(), 48U);
+  EXPECT_EQ(tabla[24]["estacion"].Texto(), "ref");
+  EXPECT_EQ(tabla[24]["hora"].Numero(), 0);
+  EXPECT_EQ(tabla[30]["text"].Numero(), std::stod(Campos(Jaen().Lineas()[31])[2]));
+  const JsonLeido traza(Jaen({"--traza", "--json"}).salida);
+  auto enTexto = Traza(Jaen({"--traza"}));
+  EXPECT_EQ(traza["T2"].Numero(), enTexto["T2"][0]);
+  EXPECT_EQ(traza.Tamano(), 29U);
+  const auto esLista = [&](const auto &linea) { return traza[linea.first].EsLista(); };
+  EXPECT_EQ(std::ranges::count_if(enTexto, esLista), 6); // las distribuciones
 }
 
 TEST_F(OrdenDiasExtremos, ConDirectorioEscribeLosDosFicherosYNadaMas) {

@@ -1,6 +1,5 @@
+#include "tests/cli/Jsonleido.h"
 #include "tests/cli/Proceso.h"
-
-#include <nlohmann/json.hpp>
 
 namespace tesmo::prueba {
 namespace {
@@ -49,12 +48,12 @@ TEST_F(OrdenHorizonte, SiNoSeSabeDesdeDondeCuentaSeAvisa) {
 }
 
 TEST_F(OrdenHorizonte, LeerJson) {
-  const auto json = nlohmann::json::parse(Orden({"horizonte", "leer", cinco_, "--json"}).salida);
-  EXPECT_EQ(json.at("n").get<int>(), 5);
-  EXPECT_EQ(json.at("formato").get<std::string>(), "nativo");
-  ASSERT_EQ(json.at("puntos").size(), 5U);
-  EXPECT_EQ(json.at("puntos").at(1).at("acimut").get<double>(), -60.5);
-  EXPECT_EQ(json.at("puntos").at(1).at("altura").get<double>(), 8.0);
+  const JsonLeido json(Orden({"horizonte", "leer", cinco_, "--json"}).salida);
+  EXPECT_EQ(json["n"].Numero(), 5);
+  EXPECT_EQ(json["formato"].Texto(), "nativo");
+  ASSERT_EQ(json["puntos"].Tamano(), 5U);
+  EXPECT_EQ(json["puntos"][1]["acimut"].Numero(), -60.5);
+  EXPECT_EQ(json["puntos"][1]["altura"].Numero(), 8.0);
 }
 
 TEST_F(OrdenHorizonte, GuardarEscribeUnPuntoDeCadaDos) {
@@ -78,7 +77,7 @@ TEST_F(OrdenHorizonte, ConvertirACadaFormatoPorNombre) {
   for (const char *formato : {"nativo", "completo", "pvgis", "tabla"}) {
     Hacer({"horizonte", "convertir", cinco_, "-o", "otro.txt", "--a", formato});
     const Ejecucion e = Orden({"horizonte", "leer", "otro.txt", "--json"});
-    EXPECT_EQ(nlohmann::json::parse(e.salida).at("formato").get<std::string>(), formato);
+    EXPECT_EQ(JsonLeido(e.salida)["formato"].Texto(), formato);
     EXPECT_EQ(Orden({"horizonte", "leer", "otro.txt"}).salida, PUNTOS_DE_CINCO);
     EXPECT_EQ(e.error, "");
   }
@@ -130,9 +129,9 @@ TEST_F(OrdenHorizonte, EfectoDeUnMuroDeTreintaGrados) {
   EXPECT_EQ(lineas[0], "cielo\t0.5"); // sen 30° = 1/2
   EXPECT_TRUE(lineas[1].starts_with("horas_de_sol\t4"));
   EXPECT_TRUE(lineas[2].starts_with("horas_perdidas\t"));
-  const auto json = nlohmann::json::parse(Orden({"horizonte", "efecto", muro, "-36.84", "--json"}).salida);
-  EXPECT_GT(json.at("horas_perdidas").get<int>(), 1000);
-  EXPECT_LT(json.at("horas_perdidas").get<int>(), json.at("horas_de_sol").get<int>());
+  const JsonLeido json(Orden({"horizonte", "efecto", muro, "-36.84", "--json"}).salida);
+  EXPECT_GT(json["horas_perdidas"].Numero(), 1000);
+  EXPECT_LT(json["horas_perdidas"].Numero(), json["horas_de_sol"].Numero());
 }
 
 TEST_F(OrdenHorizonte, EntradasQueFaltanONoSonPerfilesEstado3) {

@@ -1,6 +1,5 @@
+#include "tests/cli/Jsonleido.h"
 #include "tests/cli/Proceso.h"
-
-#include <nlohmann/json.hpp>
 
 namespace tesmo::prueba {
 namespace {
@@ -29,10 +28,10 @@ TEST_F(OrdenLocalidades, ProvinciaDesconocidaEstado3) {
 }
 
 TEST_F(OrdenLocalidades, Json) {
-  const auto json = nlohmann::json::parse(ConBase({"localidades", "--json"}).salida);
-  ASSERT_EQ(json.size(), 3U);
-  EXPECT_EQ(json[2].at("localidad").get<std::string>(), "Rota");
-  EXPECT_EQ(json[0].at("longitud").get<double>(), -3.75);
+  const JsonLeido json(ConBase({"localidades", "--json"}).salida);
+  ASSERT_EQ(json.Tamano(), 3U);
+  EXPECT_EQ(json[2]["localidad"].Texto(), "Rota");
+  EXPECT_EQ(json[0]["longitud"].Numero(), -3.75);
 }
 
 TEST_F(OrdenLocalidades, FicheroAusenteMensajeYEstado3) {

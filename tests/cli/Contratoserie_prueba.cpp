@@ -1,6 +1,5 @@
+#include "tests/cli/Jsonleido.h"
 #include "tests/cli/Proceso.h"
-
-#include <nlohmann/json.hpp>
 
 namespace tesmo::prueba {
 namespace {
@@ -86,19 +85,19 @@ TEST_F(OrdenSerie, NoFinitosEnTextoYNuloEnJson) {
   EXPECT_EQ(ConBase(argumentos).Lineas()[1], "1\t1\t1\tnan\tinf\t-inf");
   Argumentos enJson = argumentos;
   enJson.emplace_back("--json");
-  const auto json = nlohmann::json::parse(ConBase(enJson).salida);
-  EXPECT_TRUE(json.at(0).at("Temperatura seca (ºC)").is_null());
-  EXPECT_TRUE(json.at(0).at("Radiación solar directa (W/m²)").is_null());
+  const JsonLeido json(ConBase(enJson).salida);
+  EXPECT_TRUE(json[0]["Temperatura seca (ºC)"].EsNulo());
+  EXPECT_TRUE(json[0]["Radiación solar directa (W/m²)"].EsNulo());
 }
 
 TEST_F(OrdenSerie, JsonConLosMismosValores) {
-  const auto json = nlohmann::json::parse(Serie({"--hasta", "1/1/3", "--json", "TS", "TH"}).salida);
-  ASSERT_EQ(json.size(), 3U);
-  EXPECT_EQ(json[2].at("mes").get<int>(), 1);
-  EXPECT_EQ(json[2].at("hora").get<int>(), 3);
-  EXPECT_EQ(json[2].at("Temperatura seca (ºC)").get<double>(), 0.5);
+  const JsonLeido json(Serie({"--hasta", "1/1/3", "--json", "TS", "TH"}).salida);
+  ASSERT_EQ(json.Tamano(), 3U);
+  EXPECT_EQ(json[2]["mes"].Numero(), 1);
+  EXPECT_EQ(json[2]["hora"].Numero(), 3);
+  EXPECT_EQ(json[2]["Temperatura seca (ºC)"].Numero(), 0.5);
   const std::vector<std::string> linea = Campos(Serie({"--hasta", "1/1/3", "TS", "TH"}).Lineas()[3]);
-  EXPECT_EQ(json[2].at("Temperatura húmeda (ºC)").get<double>(), std::stod(linea[4]));
+  EXPECT_EQ(json[2]["Temperatura húmeda (ºC)"].Numero(), std::stod(linea[4]));
 }
 
 TEST_F(OrdenSerie, LaSuperficieCambiaLaDirecta) {
@@ -271,10 +270,10 @@ TEST_F(OrdenEstadisticas, HorasQueNoValenEstado2) {
 }
 
 TEST_F(OrdenEstadisticas, Json) {
-  const auto json = nlohmann::json::parse(Estadisticas({"--hasta", "1/2/24", "--json", "TS", "HR"}).salida);
-  ASSERT_EQ(json.size(), 2U);
-  EXPECT_EQ(json[0].at("maximo").get<double>(), 11.75);
-  EXPECT_EQ(json[1].at("unidad").get<std::string>(), "%");
+  const JsonLeido json(Estadisticas({"--hasta", "1/2/24", "--json", "TS", "HR"}).salida);
+  ASSERT_EQ(json.Tamano(), 2U);
+  EXPECT_EQ(json[0]["maximo"].Numero(), 11.75);
+  EXPECT_EQ(json[1]["unidad"].Texto(), "%");
 }
 
 } // namespace

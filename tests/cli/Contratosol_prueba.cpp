@@ -1,6 +1,5 @@
+#include "tests/cli/Jsonleido.h"
 #include "tests/cli/Proceso.h"
-
-#include <nlohmann/json.hpp>
 
 #include <cmath>
 #include <numbers>
@@ -84,12 +83,11 @@ TEST_F(OrdenSol, UnDiaQueElMesNoTieneCuentaEnElSiguiente) {
 }
 
 TEST_F(OrdenSol, Json) {
-  const auto salida = nlohmann::json::parse(Orden({"sol", "salida", "36.84", "6", "21", "--json"}).salida);
-  EXPECT_TRUE(salida.contains("salida") && salida.contains("puesta") && salida.contains("declinacion"));
-  const auto posicion =
-      nlohmann::json::parse(Orden({"sol", "posicion", "36", "6", "21", "2", "--json"}).salida);
-  EXPECT_EQ(posicion.at("dia").get<int>(), 0);
-  EXPECT_EQ(posicion.at("cenit").get<double>(), 90.0);
+  const JsonLeido salida(Orden({"sol", "salida", "36.84", "6", "21", "--json"}).salida);
+  EXPECT_TRUE(salida.Tiene("salida") && salida.Tiene("puesta") && salida.Tiene("declinacion"));
+  const JsonLeido posicion(Orden({"sol", "posicion", "36", "6", "21", "2", "--json"}).salida);
+  EXPECT_EQ(posicion["dia"].Numero(), 0);
+  EXPECT_EQ(posicion["cenit"].Numero(), 90.0);
 }
 
 } // namespace

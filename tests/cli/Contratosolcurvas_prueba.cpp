@@ -1,9 +1,8 @@
 #include "core/Formato.h"
 #include "solar/Curvassol.h"
 #include "solar/Ficheroanual.h"
+#include "tests/cli/Jsonleido.h"
 #include "tests/cli/Proceso.h"
-
-#include <nlohmann/json.hpp>
 
 namespace tesmo::prueba {
 namespace {
@@ -74,17 +73,17 @@ TEST_F(OrdenSolCurvas, MesesEscribeLasDoceCurvasYDespuesLasHoras) {
 }
 
 TEST_F(OrdenSolCurvas, Json) {
-  const auto dia = nlohmann::json::parse(Orden({"sol", "dia", "36.84", "12", "21", "--json"}).salida);
+  const JsonLeido dia(Orden({"sol", "dia", "36.84", "12", "21", "--json"}).salida);
   const CurvasDelDia curvas = CurvasDeDia(36.84F, 12, 21);
-  EXPECT_EQ(dia.at("curva").size(), curvas.curva.size());
-  EXPECT_EQ(dia.at("horas").size(), 9U); // de las 8 a las 16
-  EXPECT_EQ(dia.at("horas").at(0).at("hora").get<int>(), 8);
-  EXPECT_NEAR(dia.at("curva").at(0).at("t").get<double>(), curvas.curva[0].t, 1e-6);
-  const auto meses = nlohmann::json::parse(Orden({"sol", "meses", "36.84", "21", "--json"}).salida);
-  EXPECT_EQ(meses.at("meses").at(0).at("mes").get<int>(), 1);
-  EXPECT_EQ(meses.at("horas").at(0).at("hora").get<int>(), 5);
-  const auto noche = nlohmann::json::parse(Orden({"sol", "dia", "89", "12", "21", "--json"}).salida);
-  EXPECT_TRUE(noche.at("curva").empty() && noche.at("horas").empty());
+  EXPECT_EQ(dia["curva"].Tamano(), curvas.curva.size());
+  EXPECT_EQ(dia["horas"].Tamano(), 9U); // de las 8 a las 16
+  EXPECT_EQ(dia["horas"][0]["hora"].Numero(), 8);
+  EXPECT_NEAR(dia["curva"][0]["t"].Numero(), curvas.curva[0].t, 1e-6);
+  const JsonLeido meses(Orden({"sol", "meses", "36.84", "21", "--json"}).salida);
+  EXPECT_EQ(meses["meses"][0]["mes"].Numero(), 1);
+  EXPECT_EQ(meses["horas"][0]["hora"].Numero(), 5);
+  const JsonLeido noche(Orden({"sol", "dia", "89", "12", "21", "--json"}).salida);
+  EXPECT_TRUE(noche["curva"].Tamano() == 0 && noche["horas"].Tamano() == 0);
 }
 
 TEST_F(OrdenSolCurvas, LoQueNoValeEstado2) {

@@ -1,8 +1,8 @@
 #include "cli/Tabla.h"
 
-#include <gtest/gtest.h>
+#include "tests/cli/Jsonleido.h"
 
-#include <nlohmann/json.hpp>
+#include <gtest/gtest.h>
 
 #include <limits>
 
@@ -34,10 +34,10 @@ TEST(TablaDeResultados, NoFinitosEnTextoYNuloEnJson) {
 
 TEST(TablaDeResultados, JsonConLasMismasCifrasQueElTexto) {
   EXPECT_EQ(Ejemplo(Tabla::Forma::Registro).AJson(), "{\"nombre\":\"uno\",\"mes\":1,\"valor\":36.8400002}\n");
-  const auto json = nlohmann::json::parse(Ejemplo(Tabla::Forma::ConCabecera).AJson());
-  ASSERT_TRUE(json.is_array());
-  EXPECT_EQ(json.at(0).at("valor").get<double>(), 36.8400002);
-  EXPECT_TRUE(nlohmann::json::parse(Ejemplo(Tabla::Forma::Propiedades).AJson()).is_object());
+  const prueba::JsonLeido json(Ejemplo(Tabla::Forma::ConCabecera).AJson());
+  ASSERT_TRUE(json.EsLista());
+  EXPECT_EQ(json[0]["valor"].Numero(), 36.8400002);
+  EXPECT_TRUE(prueba::JsonLeido(Ejemplo(Tabla::Forma::Propiedades).AJson()).EsObjeto());
 }
 
 TEST(TablaDeResultados, SinFilas) {
@@ -49,7 +49,7 @@ TEST(TablaDeResultados, SinFilas) {
 TEST(TablaDeResultados, TextoQueNoEsUtf8NoRompeElJson) {
   Tabla tabla(Tabla::Forma::Registro, {"a"});
   tabla.Anadir({std::string("Ja\xE9n \"x\"\n")});
-  EXPECT_EQ(nlohmann::json::parse(tabla.AJson()).at("a").get<std::string>(), "Ja\xEF\xBF\xBDn \"x\"\n");
+  EXPECT_EQ(prueba::JsonLeido(tabla.AJson())["a"].Texto(), "Ja\xEF\xBF\xBDn \"x\"\n");
 }
 
 } // namespace
