@@ -1,17 +1,19 @@
 #include "app/Ventanaprogramas.h"
 
 #include "app/Vistaprograma.h"
-#include "vistas/extremos/Paginadiasextremos.h"
+#include "vistas/carta/Paginapsicrometrico.h"
+#include "vistas/comun/Panelseleccion.h"
 #include "vistas/datos/Paginaentorno.h"
 #include "vistas/datos/Paginaestadisticas.h"
 #include "vistas/datos/Paginaexportacion.h"
-#include "vistas/sol/Paginaposicionsolar.h"
-#include "vistas/carta/Paginapsicrometrico.h"
-#include "vistas/extremos/Paginaresultadosextremos.h"
-#include "vistas/comun/Panelseleccion.h"
 #include "vistas/datos/Vistaexportacion.h"
+#include "vistas/extremos/Paginadiasextremos.h"
+#include "vistas/extremos/Paginaresultadosextremos.h"
+#include "vistas/sol/Paginaposicionsolar.h"
 
+#include <QAbstractSpinBox>
 #include <QCloseEvent>
+#include <QLineEdit>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -105,6 +107,11 @@ void TforProgramas::EnsenarResultados(bool ensenar) {
 }
 
 void TforProgramas::closeEvent(QCloseEvent *suceso) {
+  // A mitad de una acción, quizá con un mensaje suyo delante, aún hace falta todo.
+  if (controlador_.DameAccion() != nullptr) return suceso->ignore();
+  // Al esconderse, una casilla termina lo que se tecleaba y avisa: ya no ha de calcularse nada.
+  for (QAbstractSpinBox *casilla : findChildren<QAbstractSpinBox *>()) casilla->blockSignals(true);
+  for (QLineEdit *casilla : findChildren<QLineEdit *>()) casilla->blockSignals(true);
   suceso->accept();
   emit cerrada();
 }

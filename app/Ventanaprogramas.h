@@ -70,6 +70,7 @@ signals:
   void importarPedido(const QString &ruta, const QString &localidad, const QString &provincia);
 
 protected:
+  /// Lo que se estuviera tecleando se olvida. Con una acción en curso (Accion) no se cierra.
   void closeEvent(QCloseEvent *suceso) override;
 
 private:
