@@ -3,36 +3,42 @@
 #include "app/Accion.h"
 #include "app/Carga.h"
 #include "app/Ventanaprogramas.h"
+#include "core/Formato.h"
 #include "core/Rutas.h"
 #include "intercambio/formatos/Lectura.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
+#include "vistas/carta/Paginapsicrometrico.h"
+#include "vistas/carta/Vistapsicrometrico.h"
 #include "vistas/colores/Configuracion.h"
 #include "vistas/comun/Cursorocupado.h"
-#include "vistas/extremos/Paginadiasextremos.h"
-#include "vistas/datos/Paginaentorno.h"
-#include "vistas/datos/Paginaestadisticas.h"
-#include "vistas/sol/Paginaposicionsolar.h"
-#include "vistas/extremos/Paginaresultadosextremos.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
-#include "vistas/extremos/Vistadiasextremos.h"
+#include "vistas/datos/Paginaentorno.h"
+#include "vistas/datos/Paginaestadisticas.h"
 #include "vistas/datos/Vistaentorno.h"
 #include "vistas/datos/Vistaestadisticas.h"
 #include "vistas/datos/Vistaexportacion.h"
+#include "vistas/extremos/Paginadiasextremos.h"
+#include "vistas/extremos/Paginaresultadosextremos.h"
+#include "vistas/extremos/Vistadiasextremos.h"
+#include "vistas/sol/Paginaposicionsolar.h"
 #include "vistas/sol/Vistaposicionsolar.h"
-#include "vistas/carta/Vistapsicrometrico.h"
 
 namespace tesmo {
+
+namespace {
+
+constexpr std::string_view PATRON_ALTITUD = "0.##";
+
+} // namespace
 
 VistaPrograma::VistaPrograma(const Programa &programa, std::string nombre)
     : Programa(programa), nombre_(std::move(nombre)), formulario_(new TforProgramas(*this)),
       vistaDiasExtremos_(CrearVistaDiasExtremos()), vistaPosicionSolar_(CrearVistaPosicionSolar()),
       vistaEntorno_(std::make_unique<Vistaentorno>(formulario_->DamePaginaEntorno(), formulario_->DamePanel(),
                                                    *this, seleccion_, DameTablaDeColores())),
-      vistaPsicrometrico_(std::make_unique<Vistapsicrometrico>(formulario_->DamePaginaPsicrometrico(),
-                                                               formulario_->DamePanel(), *this, seleccion_,
-                                                               [this] { CambiarAltitud(); })),
+      vistaPsicrometrico_(CrearVistaPsicrometrico()),
       vistaExportacion_(std::make_unique<VistaExportacion>(
           formulario_->DamePaginaExportacion(), formulario_->DamePanel(), *this, seleccion_,
           VistaExportacion::Ventana{[this] { return LeerDatos(); },
@@ -61,6 +67,16 @@ std::unique_ptr<Vistaposicionsolar> VistaPrograma::CrearVistaPosicionSolar() {
   return std::make_unique<Vistaposicionsolar>(formulario_->DamePaginaPosicionSolar(),
                                               formulario_->DamePanel(), *this, seleccion_,
                                               [this](const QString &texto) { Decir(texto); });
+}
+
+std::unique_ptr<Vistapsicrometrico> VistaPrograma::CrearVistaPsicrometrico() {
+  PaginaPsicrometrico &pagina = formulario_->DamePaginaPsicrometrico();
+  if (DamePsicro() == nullptr) { // no hubo memoria para su motor
+    pagina.setEnabled(false);
+    return nullptr;
+  }
+  return std::make_unique<Vistapsicrometrico>(pagina, formulario_->DamePanel(), *this, seleccion_,
+                                              [this] { CambiarAltitud(); });
 }
 
 VistaPrograma::~VistaPrograma() {
@@ -169,7 +185,7 @@ bool VistaPrograma::LeerDatos() {
 
 bool VistaPrograma::Cargar() {
   if (!LeerDatos()) return false;
-  vistaPsicrometrico_->redibujar();
+  if (vistaPsicrometrico_) vistaPsicrometrico_->redibujar();
   DecirCarga();
   if (!DameLeerMet()->Resumen().Completa()) OfrecerImportar();
   return true;

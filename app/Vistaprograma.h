@@ -35,6 +35,7 @@ public:
   [[nodiscard]] TforProgramas &DameFormulario() const { return *formulario_; }
   [[nodiscard]] const Seleccion &DameSeleccion() const { return seleccion_; }
   [[nodiscard]] Vistaposicionsolar &DameVistaPosicionSolar() const { return *vistaPosicionSolar_; }
+  /// Sólo si el programa tiene carta.
   [[nodiscard]] Vistapsicrometrico &DameVistaPsicrometrico() const { return *vistaPsicrometrico_; }
   [[nodiscard]] VistaExportacion &DameVistaExportacion() const { return *vistaExportacion_; }
   /// "Localidad-Provincia", o el nombre de la ventana si no hay localidad.
@@ -73,6 +74,8 @@ public:
 private:
   std::unique_ptr<VistaDiasExtremos> CrearVistaDiasExtremos();
   std::unique_ptr<Vistaposicionsolar> CrearVistaPosicionSolar();
+  /// Nula, con su página apagada, si el programa no tiene carta.
+  std::unique_ptr<Vistapsicrometrico> CrearVistaPsicrometrico();
   void RellenarLocalidades();
   /// La base tiene un registro nuevo o cambiado: los selectores lo enseñan sin perder lo elegido.
   void AltaDeLocalidad(const ObjetoCiudad &registro);

@@ -118,6 +118,36 @@ private slots:
     QVERIFY(controlador.Vista() == &controlador);
   }
 
+  /// Un motor para el que no hubo memoria queda nulo, y la ventana se abre y se usa sin él.
+  void sinUnMotorLaVentanaSeAbreYSeUsa_data() {
+    QTest::addColumn<int>("motor");
+    QTest::newRow("días extremos") << 0;
+    QTest::newRow("posición solar") << 1;
+    QTest::newRow("datos") << 2;
+    QTest::newRow("carta") << 3;
+  }
+  void sinUnMotorLaVentanaSeAbreYSeUsa() {
+    QFETCH(const int, motor);
+    FabricaMotores fabrica = FabricaMotores::DeLaAplicacion();
+    if (motor == 0) fabrica.diasExtremos = [] { return nullptr; };
+    if (motor == 1) fabrica.posicionSolar = [] { return nullptr; };
+    if (motor == 2) fabrica.leerMet = [] { return nullptr; };
+    if (motor == 3) fabrica.psicro = [] { return nullptr; };
+    VistaPrograma controlador{Programa(fabrica), "coja"};
+    controlador.Abrir();
+    const Ventana ventana(controlador);
+    ventana.Localidad("Almería");
+    for (const char *boton : {"btnSimulacion", "btnActualizar", "btnCalDiaExt"}) ventana.Pulsar(boton);
+    controlador.CambiarPeriodo();
+    controlador.CambiarAltitud();
+    controlador.ElegirMagnitudesExtremas();
+    controlador.EscribirArchivoHorario();
+    ventana.Provincia("Granada");
+    QCOMPARE(controlador.Titulo(), std::string("coja"));
+    QCOMPARE(ventana.Buscar<QWidget>("tsPsicrometrico").isEnabled(), motor != 3);
+    QCOMPARE(ventana.Buscar<QWidget>("tsPosicionSolar").isEnabled(), motor != 1);
+  }
+
   void cerrarUnaVentanaDestruyeSusMotoresYNoDejaNadaColgando() {
     Orden("mnuNuevo").trigger();
     marco_->Numero(1).Localidad("Almería");
