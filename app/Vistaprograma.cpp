@@ -108,16 +108,15 @@ void VistaPrograma::AltaDeLocalidad(const ObjetoCiudad &registro) {
   std::vector<std::string> provincias;
   DameLocalidades()->ListaDe("Provincias", provincias);
   panel.ActualizarProvincias(provincias);
-  if (panel.Provincia() != seleccion_.DameProvincia()) { // la lista estaba vacía
-    RellenarLocalidades();
-    return;
-  }
+  // La lista estaba vacía, o la provincia elegida se quedó sin localidades.
+  if (panel.Provincia() != seleccion_.DameProvincia()) return CambiarProvincia();
   std::vector<std::string> localidades;
   DameLocalidades()->ListaDe("Localidades", panel.Provincia(), localidades);
   panel.ActualizarLocalidades(localidades);
   const bool esLaElegida = seleccion_.HayLocalidad() && registro.localidad == seleccion_.DameLocalidad() &&
                            registro.provincia == seleccion_.DameProvincia();
-  if (esLaElegida) CambiarLocalidad(); // su fichero es otro
+  const bool seFue = panel.Localidad() != seleccion_.DameLocalidad(); // a otra provincia
+  if (seFue || esLaElegida) CambiarLocalidad();                       // si sigue, su fichero es otro
 }
 
 /// Un fichero de trece columnas se lee sin rechistar y mal: se ofrece pasarlo a quince. Uno de quince
@@ -258,9 +257,9 @@ void VistaPrograma::DecirCarga() const {
   const bool altitudMala = !seleccion_.DameAltitudUsuario() && !AltitudCreible(altitud);
   if (altitudMala) {
     texto += QObject::tr(" Su altitud, %1 m, no está entre %2 y %3: se calcula al nivel del mar.")
-                 .arg(static_cast<double>(altitud))
-                 .arg(static_cast<double>(ALTITUD_MINIMA))
-                 .arg(static_cast<double>(ALTITUD_MAXIMA));
+                 .arg(Texto(FormatearPatron(static_cast<double>(altitud), PATRON_ALTITUD)))
+                 .arg(static_cast<int>(ALTITUD_MINIMA))
+                 .arg(static_cast<int>(ALTITUD_MAXIMA));
   }
   if (resumen.registros == HORAS_DEL_ANIO && !altitudMala) return Decir(texto);
   if (formulario_) formulario_->Avisar(texto);

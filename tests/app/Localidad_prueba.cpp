@@ -1,6 +1,7 @@
 // Elegir provincia y localidad: título, carga, fallos y cursor de ocupado.
 
 #include "app/Presentadorventanas.h"
+#include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
 #include "tests/comun/ventanas/Manejo.h"
 
@@ -185,6 +186,51 @@ private slots:
     QVERIFY(estado.last().at(0).toString().contains(QStringLiteral("100 de las 8760")));
   }
 
+  void siLaElegidaSeVaAOtraProvinciaLaVentanaVuelveALocalidad() {
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Localidad("Níjar");
+    ventana.Pulsar("btnSimulacion");
+    Mudar("Níjar", "Granada");
+    QCOMPARE(ventana.Buscar<QComboBox>("cbProvincias").currentText(), QStringLiteral("Almería"));
+    ComprobarSinLocalidad(ventana);
+  }
+
+  void siEraLaUnicaDeSuProvinciaLaVentanaPasaAOtra() {
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Provincia("Cádiz");
+    ventana.Localidad("Tarifa");
+    ventana.Pulsar("btnSimulacion");
+    Mudar("Tarifa", "Granada");
+    const auto &provincias = ventana.Buscar<QComboBox>("cbProvincias");
+    QCOMPARE(provincias.findText(QStringLiteral("Cádiz")), -1);
+    QCOMPARE(provincias.currentText().toStdString(), ventana.Controlador().DameSeleccion().DameProvincia());
+    ComprobarSinLocalidad(ventana);
+  }
+
+  void siLaElegidaSeReemplazaEnSuProvinciaSeVuelveALeer() {
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Localidad("Níjar");
+    ventana.Pulsar("btnSimulacion");
+    marco_->datos.Directorio().Escribir("Meteo/nijar.met",
+                                        Contenido(marco_->datos.Directorio() / "Meteo/granada.met"));
+    Mudar("Níjar", "Almería");
+    QCOMPARE(ventana.Titulo(), QStringLiteral("Níjar-Almería"));
+    QCOMPARE(ventana.Chart().Punto(0, 0).y(), double(DatosPrueba::BASE_GRANADA));
+  }
+
+  void laAltitudQueNoSeCreeSeDiceConElSeparadorRegional() {
+    const ConSeparador coma(',');
+    std::string texto = Contenido(marco_->datos.Directorio() / "Meteo/nijar.met");
+    const std::string altitud = " 21.000000 ";
+    const std::size_t sitio = texto.find(altitud);
+    QVERIFY(sitio != std::string::npos);
+    marco_->datos.Directorio().Escribir("Meteo/nijar.met", texto.replace(sitio, altitud.size(), " 9000.5 "));
+    QSignalSpy estado(&marco_->Numero(0).Controlador().DameFormulario(), &TforProgramas::estado);
+    marco_->Numero(0).Localidad("Níjar");
+    const QString dicho = estado.last().at(0).toString();
+    QVERIFY2(dicho.contains(QStringLiteral("9000,5 m, no está entre -500 y 9000")), qPrintable(dicho));
+  }
+
   void elMensajeEsUnaCajaModalEnCastellanoConLaFlecha() {
     PresentadorVentanas presentador;
     PresentadorMensajes *anterior = DameMensajes().PonPresentador(&presentador);
@@ -210,6 +256,23 @@ private slots:
   }
 
 private:
+  /// Reemplaza una localidad con su provincia cambiada, como una importación.
+  static void Mudar(const char *localidad, const char *provincia) {
+    const ObjetoCiudad *actual = DameBaseDeLocalidades().BuscarLocalidad(localidad);
+    QVERIFY(actual != nullptr);
+    ObjetoCiudad registro = *actual;
+    registro.provincia = provincia;
+    DameBaseDeLocalidades().PonRegistro(registro);
+  }
+  void ComprobarSinLocalidad(const Ventana &ventana) const {
+    QCOMPARE(ventana.Localidad(), QStringLiteral("Localidad"));
+    QVERIFY(!ventana.Controlador().DameSeleccion().HayLocalidad());
+    QCOMPARE(ventana.Titulo(), QStringLiteral("Sin Nombre1"));
+    QCOMPARE(ventana.Chart().NumeroSeries(), 0);
+    QVERIFY(!ventana.Controlador().HayDatos());
+    QVERIFY(marco_->mensajes.apuntes.empty());
+  }
+
   std::optional<MarcoPrueba> marco_;
 };
 
