@@ -55,6 +55,7 @@ void Configuracion::ponColor(int i, std::uint32_t color) {
 }
 
 void Configuracion::leer() {
+  if (sinGuardar_) return;
   const auto lector = LeerFicheroDeClaves(RutaDesdeTexto(DameConfiguracion().RutaPrograma(FICHERO)));
   if (lector) Tomar(*lector);
 }
@@ -82,8 +83,9 @@ std::string Configuracion::Bytes() const {
   return texto;
 }
 
-bool Configuracion::escribirConfiguracion() const {
-  return EscribirFicheroEntero(RutaDesdeTexto(DameConfiguracion().RutaPrograma(FICHERO)), Bytes());
+bool Configuracion::escribirConfiguracion() {
+  sinGuardar_ = !EscribirFicheroEntero(RutaDesdeTexto(DameConfiguracion().RutaPrograma(FICHERO)), Bytes());
+  return !sinGuardar_;
 }
 
 Configuracion &DameTablaDeColores() {

@@ -24,12 +24,13 @@ public:
 
   /// Toma los colores de "tesmo.inp", en el directorio del programa; si falta, la tabla queda como está. Una
   /// clave ausente da a su color el de la clave anterior: como la de la altura se escribe de otro modo, tras
-  /// guardar y leer la altura queda del color del cénit (se conserva).
+  /// guardar y leer la altura queda del color del cénit (se conserva). Tras una escritura fallida no lee
+  /// nada: el fichero tiene los colores de antes y valen los de la tabla.
   void leer();
   /// Lo mismo con el contenido de un fichero.
   void leerTexto(std::string_view contenido);
   /// Escribe "tesmo.inp" entero. Si no se puede devuelve falso y no dice nada.
-  bool escribirConfiguracion() const;
+  bool escribirConfiguracion();
   /// Los bytes de ese fichero, en Windows-1252.
   [[nodiscard]] std::string Bytes() const;
 
@@ -37,6 +38,7 @@ private:
   void Tomar(const LectorClaves &lector);
 
   std::array<std::uint32_t, NUMERO_MAGNITUDES_VISOR> colores_{};
+  bool sinGuardar_ = false; ///< la última escritura falló
 };
 
 /// La tabla compartida, creada la primera vez que se pide.

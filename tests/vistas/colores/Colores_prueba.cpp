@@ -2,8 +2,8 @@
 
 #include "tests/comun/ventanas/Manejo.h"
 #include "vistas/colores/Configuracion.h"
-#include "vistas/grafico/Trazosdistintos.h"
 #include "vistas/colores/Ventanacolores.h"
+#include "vistas/grafico/Trazosdistintos.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -172,6 +172,21 @@ private slots:
     QCOMPARE(DameTablaDeColores().dameColor(0, 0), 0x00FF00U);
     QVERIFY(marco_->marco.statusBar()->currentMessage().contains(QStringLiteral("tesmo.inp")));
     QVERIFY(marco_->mensajes.apuntes.empty());
+  }
+
+  /// El fichero está y se lee, pero no se puede cambiar: sus colores son los de antes.
+  void losColoresQueNoSePudieronGuardarValenTambienEnLasVentanasNuevas() {
+    const std::filesystem::path intocable("/proc/version"); // ni con todos los permisos
+    if (!std::filesystem::is_regular_file(intocable)) QSKIP("no es Linux");
+    std::filesystem::create_symlink(intocable, marco_->datos.Directorio() / "tesmo.inp");
+    Abrir().PonMuestra(0, VERDE);
+    Pulsar("btnAceptar");
+    QVERIFY(marco_->marco.statusBar()->currentMessage().contains(QStringLiteral("tesmo.inp")));
+    marco_->Orden("mnuNuevo").trigger();
+    marco_->Numero(1).Localidad("Almería");
+    marco_->Numero(1).Pulsar("btnSimulacion");
+    QCOMPARE(marco_->Numero(1).Chart().Serie(0).color, VERDE);
+    QCOMPARE(DameTablaDeColores().dameColor(0, 0), 0x00FF00U);
   }
 
   void losVeintiunTrazosSonDistintosYElPrimeroContinuo() {
