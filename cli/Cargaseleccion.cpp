@@ -55,12 +55,19 @@ std::string FicheroLeido(const PeticionSeleccion &peticion, const Programa &prog
       programa.DameLocalidades()->DameTextoDe(peticion.localidad, "Fichero"));
 }
 
+/// El que está y no se deja leer se da por leído, con lo que hubiera antes: una orden no tiene nada de antes.
+void ExigirQueSeLea(const std::string &fichero) {
+  if (!LeerFicheroEntero(BuscarSinMayusculas(RutaDesdeTexto(fichero))))
+    throw Fallo(Estado::FaltaEntrada, "no se puede leer: " + fichero);
+}
+
 /// De los números de 8760 líneas de trece salen 7592 registros de quince: sólo un fichero que se quedó corto
 /// puede ser de trece columnas, y mirarlo otra vez no retrasa a los demás.
 void AvisarSiEsCorto(const PeticionSeleccion &peticion, const Programa &programa, Contexto &contexto) {
   const ResumenLectura &resumen = programa.DameLeerMet()->Resumen();
   if (resumen.registros >= HORAS_DEL_ANIO) return;
   const std::string fichero = FicheroLeido(peticion, programa);
+  if (resumen.registros == 0) ExigirQueSeLea(fichero);
   if (EsFicheroMetDeTreceColumnas(fichero)) {
     Avisar(contexto,
            programa.DameLocalidadCargada() + ": " + fichero +

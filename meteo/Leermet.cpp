@@ -31,9 +31,11 @@ TramoHoras Recortar(TramoHoras tramo, std::size_t horas) {
 LeerMet::LeerMet() : ObjetoBase("LeerMet") {}
 
 bool LeerMet::LeerFichero(const std::string &ruta) {
-  const std::optional<std::string> texto = LeerFicheroEntero(BuscarSinMayusculas(RutaDesdeTexto(ruta)));
-  if (!texto) return false;
-  resumen_ = LeerTextoMet(*texto, sitio_, leidas_);
+  const std::filesystem::path fichero = BuscarSinMayusculas(RutaDesdeTexto(ruta));
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(fichero, error)) return false;
+  // El que está y no se puede leer es como uno vacío: las horas conservan lo que tenían.
+  resumen_ = LeerTextoMet(LeerFicheroEntero(fichero).value_or(std::string()), sitio_, leidas_);
   ++carga_;
   return true;
 }

@@ -28,8 +28,9 @@ class LeerMet : public ObjetoBase {
 public:
   LeerMet();
 
-  /// Lee un fichero .met. Falso, sin cambiar nada, si @p ruta falta, no es un fichero regular o no se puede
-  /// abrir; cierto en otro caso, por corto o estropeado que esté. No toca las series derivadas.
+  /// Lee un fichero .met. Falso, sin cambiar nada, si @p ruta falta o no es un fichero regular; cierto en
+  /// otro caso, aunque esté corto o estropeado o no se pueda abrir ni leer: las horas que no se leyeron
+  /// conservan lo que tenían, y Resumen() dice cuántas se leyeron. No toca las series derivadas.
   bool LeerFichero(const std::string &ruta);
   /// Pone un año que no sale de un .met, como si se hubiera leído entero. No toca las series derivadas.
   void PonAnio(const SitioMet &sitio, SeriesLeidas series);

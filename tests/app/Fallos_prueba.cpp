@@ -116,6 +116,30 @@ private slots:
     QVERIFY(mensajes_->apuntes.empty());
   }
 
+  void unMetQueEstaYNoSePuedeLeerSeDiceEnLaLineaDeEstado() {
+    const std::filesystem::path memoria("/proc/self/mem"); // se abre, y leerlo falla con cualquier permiso
+    if (!std::filesystem::is_regular_file(memoria)) QSKIP("no es Linux");
+    const auto fichero = datos_->Directorio() / "Meteo/nijar.met";
+    std::filesystem::remove(fichero);
+    std::filesystem::create_symlink(memoria, fichero);
+    Arrancar(datos_->Directorio());
+    Primera().Localidad("Níjar");
+    QVERIFY(mensajes_->apuntes.empty());
+    QVERIFY2(Estado().contains(QStringLiteral("0 de las 8760")), qPrintable(Estado()));
+    QVERIFY(Primera().Controlador().HayDatos());
+  }
+
+  void unDirectorioConElNombreDelMetNoEsSuFichero() {
+    const auto fichero = datos_->Directorio() / "Meteo/nijar.met";
+    std::filesystem::remove(fichero);
+    std::filesystem::create_directory(fichero);
+    Arrancar(datos_->Directorio());
+    Primera().Localidad("Níjar");
+    QCOMPARE(mensajes_->apuntes.size(), 1U);
+    QVERIFY(mensajes_->apuntes[0].texto.find("Níjar") != std::string::npos);
+    QVERIFY(!Primera().Controlador().HayDatos());
+  }
+
   void sinPoderEscribirResultadosLosDiasExtremosLoDicenSinCajas() {
     std::filesystem::remove_all(datos_->Directorio() / "Resultados");
     datos_->Directorio().Escribir("Resultados", "aquí no se puede escribir, ni siendo root");

@@ -153,6 +153,15 @@ TEST_F(OrdenSerie, EntradasQueFaltanEstado3) {
   }
 }
 
+TEST_F(OrdenSerie, UnFicheroQueEstaYNoSePuedeLeerTambien) {
+  const std::string memoria = "/proc/self/mem"; // se abre y no se puede leer
+  if (!std::filesystem::is_regular_file(memoria)) GTEST_SKIP() << "no es Linux";
+  const Ejecucion e = ConBase({"serie", "--fichero", memoria, "TS"});
+  EXPECT_EQ(e.estado, 3);
+  EXPECT_EQ(e.salida, "");
+  EXPECT_NE(e.error.find(memoria), std::string::npos) << e.error;
+}
+
 TEST_F(OrdenSerie, FicheroDeLocalidadAusenteMensaje59) {
   EXPECT_EQ(ConBase({"serie", "--localidad", "Perdida", "TS"}).error,
             "Información: El fichero meteorológico asociado a la ciudad Perdida no se ha podido abrir.\n");

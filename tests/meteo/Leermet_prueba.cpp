@@ -55,20 +55,44 @@ TEST(LeerMet, LeeElFicheroYGuardaElSitio) {
   EXPECT_EQ(Serie(met, "Temperatura seca (ºC)", 1)[0], ValorMet(4, 8759));
 }
 
-TEST(LeerMet, LoQueNoSePuedeAbrirEsFalsoYNoCambiaNada) {
+TEST(LeerMet, LoQueFaltaEsFalsoYNoCambiaNada) {
   const DirectorioTemporal directorio;
   LeerMet met;
   ASSERT_TRUE(met.LeerFichero(RutaDeMet(directorio)));
-  const std::string ilegible = directorio.Escribir("ilegible.met", TextoMet(1, "1 2 3 4"));
-  std::filesystem::permissions(ilegible, std::filesystem::perms::none);
   EXPECT_FALSE(met.LeerFichero(TextoDeRuta(directorio / "falta.met")));
   EXPECT_FALSE(met.LeerFichero(TextoDeRuta(directorio / "no/existe/a.met")));
   EXPECT_FALSE(met.LeerFichero(TextoDeRuta(directorio.Ruta()))) << "un directorio no es un fichero regular";
   EXPECT_FALSE(met.LeerFichero("/dev/zero")) << "un dispositivo tampoco, y no se acaba nunca";
   EXPECT_FALSE(met.LeerFichero(""));
-  EXPECT_TRUE(SinPrivilegios([&] { return !met.LeerFichero(ilegible); }));
   EXPECT_EQ(met.Latitud(), 36.84F);
   EXPECT_TRUE(met.Resumen().Completa());
+}
+
+TEST(LeerMet, ElQueEstaYNoSePuedeAbrirSeDaPorLeidoYLasHorasQuedanComoEstaban) {
+  const DirectorioTemporal directorio;
+  LeerMet met;
+  ASSERT_TRUE(met.LeerFichero(RutaDeMet(directorio)));
+  const std::string cerrado = directorio.Escribir("cerrado.met", TextoMet(1, "1 2 3 4"));
+  std::filesystem::permissions(cerrado, std::filesystem::perms::none);
+  met.PonPeriodo(12, 31, 24, 12, 31, 24);
+  EXPECT_TRUE(SinPrivilegios(directorio.Ruta(), [&] {
+    return met.LeerFichero("cerrado.met") && met.Resumen().registros == 0 && met.Latitud() == 36.84F &&
+           Serie(met, "Temperatura seca (ºC)", 1)[0] == ValorMet(4, 8759);
+  }));
+}
+
+TEST(LeerMet, ElQueSeAbreYNoSePuedeLeerSeDaPorLeido) {
+  // Su primera página no está: se abre y la lectura falla.
+  const std::string memoria = "/proc/self/mem";
+  if (!std::filesystem::is_regular_file(memoria)) GTEST_SKIP() << "no es Linux";
+  const DirectorioTemporal directorio;
+  LeerMet met;
+  ASSERT_TRUE(met.LeerFichero(RutaDeMet(directorio)));
+  EXPECT_TRUE(met.LeerFichero(memoria));
+  EXPECT_EQ(met.Resumen().registros, 0);
+  EXPECT_EQ(met.Latitud(), 36.84F);
+  met.PonPeriodo(12, 31, 24, 12, 31, 24);
+  EXPECT_EQ(Serie(met, "Temperatura seca (ºC)", 1)[0], ValorMet(4, 8759));
 }
 
 TEST(LeerMet, UnFicheroVacioOCortoSeDaPorLeido) {
