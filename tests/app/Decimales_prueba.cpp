@@ -6,9 +6,10 @@
 #include "solar/Posicionsolar.h"
 #include "tests/comun/ventanas/Manejo.h"
 #include "tests/comun/ventanas/Regional.h"
+#include "vistas/datos/Paginaestadisticas.h"
 #include "vistas/datos/Vistaexportacion.h"
 
-#include <QAbstractSpinBox>
+#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -82,7 +83,7 @@ private slots:
     QTest::addColumn<QString>("casilla");
     QTest::addColumn<QString>("tecleado");
     for (const char *casilla : {"csBaseCal", "csBaseRef", "csAltitud"}) {
-      for (const char *tecleado : {"13,5", "13.5"})
+      for (const char *tecleado : {"13,25", "13.25"})
         QTest::addRow("%s %s", casilla, tecleado) << casilla << QString::fromLatin1(tecleado);
     }
   }
@@ -90,14 +91,23 @@ private slots:
     QFETCH(const QString, casilla);
     QFETCH(const QString, tecleado);
     marco_->Numero(0).Localidad("Almería");
-    auto &numero = marco_->Numero(0).Buscar<QAbstractSpinBox>(casilla.toLatin1().constData());
+    auto &numero = marco_->Numero(0).Buscar<QDoubleSpinBox>(casilla.toLatin1().constData());
     numero.selectAll();
     QTest::keyClicks(&numero, tecleado);
     QTest::keyClick(&numero, Qt::Key_Return);
-    const QString texto = numero.text();
-    QVERIFY2(texto.startsWith(casilla == QLatin1String("csAltitud") ? "1" : Regional("13,5")),
-             qPrintable(texto));
-    QVERIFY2(!texto.startsWith(QLatin1String("135")), qPrintable(texto));
+    QVERIFY2(numero.text().startsWith(Regional("13,25")), qPrintable(numero.text()));
+    QCOMPARE(numero.value(), 13.25);
+    numero.interpretText();
+    QCOMPARE(numero.value(), 13.25);
+  }
+
+  void laBaseTecleadaEsLaDeLosGradosDia() {
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Localidad("Almería");
+    auto &base = ventana.Buscar<QDoubleSpinBox>("csBaseCal");
+    base.setValue(13.25);
+    const PaginaEstadisticas &pagina = ventana.Controlador().DameFormulario().DamePaginaEstadisticas();
+    QCOMPARE(pagina.Bases().calefaccion, 13.25F);
   }
 
   void loExportadoLlevaElSeparadorRegionalYLaCabeceraElPunto() {

@@ -1,12 +1,12 @@
 #include "vistas/carta/Paginapsicrometrico.h"
 
 #include "app/Carga.h"
-#include "vistas/comun/Botones.h"
-#include "vistas/comun/Casillanumero.h"
-#include "vistas/comun/Etiquetapulsable.h"
 #include "vistas/carta/Marcocarta.h"
 #include "vistas/carta/Tablapuntos.h"
 #include "vistas/carta/Valoresaire.h"
+#include "vistas/comun/Botones.h"
+#include "vistas/comun/Casillanumero.h"
+#include "vistas/comun/Etiquetapulsable.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -180,7 +180,7 @@ void PaginaPsicrometrico::CrearAltitud(QGridLayout &rejilla) {
   csAltitud_ = new CasillaReal;
   csAltitud_->setObjectName(QStringLiteral("csAltitud"));
   csAltitud_->setRange(double{ALTITUD_MINIMA}, double{ALTITUD_MAXIMA});
-  csAltitud_->setDecimals(1);
+  csAltitud_->setDecimals(2);
   csAltitud_->setAlignment(Qt::AlignRight);
   csAltitud_->setFixedWidth(ANCHO_VALOR);
   csAltitud_->setKeyboardTracking(false); // cuenta cuando se termina de teclear

@@ -59,7 +59,9 @@ std::optional<double> Leer(QString numero) {
 
 /// Lo que la casilla guarda de lo leído, antes de mirar sus límites.
 double Guardado(const QSpinBox &, double valor) { return std::trunc(valor); }
-double Guardado(const QDoubleSpinBox &, double valor) { return valor; }
+double Guardado(const QDoubleSpinBox &casilla, double valor) {
+  return Leer(casilla.textFromValue(valor)).value_or(valor);
+}
 
 template <class Casilla>
 std::optional<double> Leer(const Casilla &casilla, const QString &texto) {
@@ -118,6 +120,42 @@ double CasillaReal::valueFromText(const QString &texto) const {
 QString CasillaReal::textFromValue(double valor) const {
   const std::string decimales(static_cast<std::size_t>(decimals()), '0');
   return Texto(FormatearPatron(valor, decimales.empty() ? "0" : "0." + decimales));
+}
+
+/// «Sin valor» es el mínimo de la casilla, una última cifra por debajo del menor número.
+CasillaOpcional::CasillaOpcional(double menor, double mayor, int decimales, const QString &sinValor,
+                                 QWidget *padre)
+    : CasillaReal(padre) {
+  setDecimals(decimales);
+  setRange(menor - std::pow(10.0, -decimales), mayor);
+  setSpecialValueText(sinValor);
+  setValue(minimum());
+}
+
+std::optional<double> CasillaOpcional::Valor() const {
+  return value() == minimum() ? std::nullopt : std::optional(value());
+}
+
+void CasillaOpcional::PonValor(std::optional<double> valor) { setValue(valor.value_or(minimum())); }
+
+void CasillaOpcional::stepBy(int pasos) {
+  if (Valor()) return CasillaReal::stepBy(pasos);
+  setValue(std::clamp(0.0, minimum(), maximum()));
+}
+
+QValidator::State CasillaOpcional::validate(QString &texto, int &cursor) const {
+  return texto == specialValueText() ? QValidator::Acceptable : CasillaReal::validate(texto, cursor);
+}
+
+void CasillaOpcional::fixup(QString &texto) const {
+  if (Partes(*this, texto).numero.trimmed().isEmpty())
+    texto = specialValueText();
+  else
+    CasillaReal::fixup(texto);
+}
+
+double CasillaOpcional::valueFromText(const QString &texto) const {
+  return texto == specialValueText() ? minimum() : CasillaReal::valueFromText(texto);
 }
 
 } // namespace tesmo

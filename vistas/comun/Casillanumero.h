@@ -3,6 +3,8 @@
 #include <QDoubleSpinBox>
 #include <QSpinBox>
 
+#include <optional>
+
 namespace tesmo {
 
 /// Casillas de número con flechas que admiten el punto y la coma, los del teclado numérico también, y enseñan
@@ -23,7 +25,7 @@ protected:
   [[nodiscard]] int valueFromText(const QString &texto) const override;
 };
 
-/// Casilla de un número real, con los decimales de decimals().
+/// Casilla de un número real, con los decimales de decimals(): lo tecleado con más se guarda como se enseña.
 class CasillaReal : public QDoubleSpinBox {
   Q_OBJECT
 
@@ -35,6 +37,26 @@ protected:
   void fixup(QString &texto) const override;
   [[nodiscard]] double valueFromText(const QString &texto) const override;
   [[nodiscard]] QString textFromValue(double valor) const override;
+};
+
+/// Casilla de un número real que puede no saberse: vacía, o bajada del mínimo, enseña un texto en su lugar.
+class CasillaOpcional : public CasillaReal {
+  Q_OBJECT
+
+public:
+  /// @p sinValor es el texto que se enseña cuando no hay número; así nace.
+  CasillaOpcional(double menor, double mayor, int decimales, const QString &sinValor,
+                  QWidget *padre = nullptr);
+
+  [[nodiscard]] std::optional<double> Valor() const;
+  void PonValor(std::optional<double> valor);
+  /// Desde «sin valor» las flechas empiezan en cero.
+  void stepBy(int pasos) override;
+
+protected:
+  QValidator::State validate(QString &texto, int &cursor) const override;
+  void fixup(QString &texto) const override;
+  [[nodiscard]] double valueFromText(const QString &texto) const override;
 };
 
 } // namespace tesmo

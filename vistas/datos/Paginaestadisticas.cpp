@@ -2,9 +2,9 @@
 
 #include "vistas/comun/Botones.h"
 #include "vistas/comun/Casillanumero.h"
-#include "vistas/datos/Gruposmagnitud.h"
 #include "vistas/comun/Tablatexto.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/datos/Gruposmagnitud.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -133,7 +133,7 @@ CasillaReal *PaginaEstadisticas::CrearBase(const char *nombre, float valor) {
   auto *base = new CasillaReal;
   base->setObjectName(Nombre(nombre));
   base->setRange(-BASE_EXTREMA, BASE_EXTREMA);
-  base->setDecimals(1);
+  base->setDecimals(2);
   base->setSuffix(tr(" ºC"));
   base->setValue(static_cast<double>(valor));
   base->setKeyboardTracking(false);

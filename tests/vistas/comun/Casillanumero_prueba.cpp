@@ -195,6 +195,51 @@ private slots:
     QCOMPARE(cambios.at(0).at(0).toDouble(), 12.5);
   }
 
+  void loTecleadoConMasDecimalesSeGuardaComoSeEnsena() {
+    CasillaReal casilla;
+    casilla.setDecimals(1);
+    casilla.setKeyboardTracking(false);
+    const QSignalSpy cambios(&casilla, &QDoubleSpinBox::valueChanged);
+    Terminar(casilla, QStringLiteral("13,25"));
+    QCOMPARE(casilla.text(), Regional("13,3"));
+    QCOMPARE(casilla.value(), 13.3);
+    casilla.interpretText(); // leerla otra vez no la cambia
+    QCOMPARE(casilla.value(), 13.3);
+    QCOMPARE(cambios.count(), 1);
+  }
+
+  void laOpcionalVaciaEnsenaSuTexto() {
+    CasillaOpcional casilla(-450.0, 9000.0, 1, QStringLiteral("no se sabe"));
+    casilla.setSuffix(QStringLiteral(" m"));
+    QCOMPARE(casilla.Valor(), std::nullopt);
+    QCOMPARE(casilla.text(), QStringLiteral("no se sabe"));
+    Terminar(casilla, QStringLiteral("680,5"));
+    QCOMPARE(casilla.Valor(), std::optional(680.5));
+    QCOMPARE(casilla.text(), Regional("680,5") + QStringLiteral(" m"));
+    casilla.selectAll();
+    QTest::keyClick(&casilla, Qt::Key_Backspace);
+    QTest::keyClick(&casilla, Qt::Key_Return);
+    QCOMPARE(casilla.Valor(), std::nullopt);
+    QCOMPARE(casilla.text(), QStringLiteral("no se sabe"));
+    casilla.interpretText();
+    QCOMPARE(casilla.Valor(), std::nullopt);
+  }
+
+  void laOpcionalTieneElCeroYSuMenorNumero() {
+    CasillaOpcional casilla(-14.0, 14.0, 2, QStringLiteral("el de la longitud"));
+    for (const double valor : {0.0, -14.0, 5.75}) {
+      casilla.PonValor(valor);
+      QCOMPARE(casilla.Valor(), std::optional(valor));
+      casilla.interpretText();
+      QCOMPARE(casilla.Valor(), std::optional(valor));
+    }
+    casilla.PonValor(std::nullopt);
+    QTest::keyClick(&casilla, Qt::Key_Up);
+    QCOMPARE(casilla.Valor(), std::optional(0.0));
+    QTest::keyClick(&casilla, Qt::Key_Up);
+    QCOMPARE(casilla.Valor(), std::optional(1.0));
+  }
+
   void ningunaCasillaDelProgramaEsDeFabrica() {
     const MarcoPrueba marco;
     const auto casillas = marco.marco.findChildren<QAbstractSpinBox *>();
