@@ -42,8 +42,8 @@ DialogoImportar &TforPrincipal::AbrirImportar() {
 void TforPrincipal::mnuImportarClick() { AbrirImportar(); }
 
 void TforPrincipal::mnuAuditarClick() {
-  const QStringList rutas = QFileDialog::getOpenFileNames(
-      this, tr("Auditar fichero climático"), {}, tr("Ficheros climáticos (*.epw *.csv *.met);;Todos (*)"));
+  const QStringList rutas =
+      QFileDialog::getOpenFileNames(this, tr("Auditar fichero climático"), {}, FiltroClimatico());
   if (rutas.isEmpty()) return;
   auto *dialogo = new DialogoAuditar(NormalesDelPrograma(), this);
   dialogo->setAttribute(Qt::WA_DeleteOnClose);

@@ -6,6 +6,7 @@
 #include "intercambio/auditoria/Textoauditoria.h"
 #include "vistas/comun/Cursorocupado.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/intercambio/Dialogomapa.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -14,6 +15,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace tesmo {
 
@@ -37,24 +40,55 @@ DialogoAuditar::DialogoAuditar(std::vector<NormalesLocalidad> normales, QWidget 
   botones->button(QDialogButtonBox::Close)->setObjectName(QStringLiteral("btnCerrar"));
   auto *guardar = botones->addButton(tr("&Guardar…"), QDialogButtonBox::ActionRole);
   guardar->setObjectName(QStringLiteral("btnGuardar"));
+  btnMapa_ = botones->addButton(tr("&Mapa de columnas…"), QDialogButtonBox::ActionRole);
+  btnMapa_->setObjectName(QStringLiteral("btnMapa"));
+  btnMapa_->setToolTip(tr("Qué es cada columna de un texto que no es de ningún formato conocido"));
+  btnMapa_->setEnabled(false);
   auto *pila = new QVBoxLayout(this);
   pila->addWidget(mePagina_);
   pila->addWidget(botones);
   resize(COLUMNAS * letra.horizontalAdvance(QLatin1Char('0')), LINEAS * letra.lineSpacing());
   connect(botones, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(guardar, &QPushButton::clicked, this, &DialogoAuditar::PedirGuardar);
+  connect(btnMapa_, &QPushButton::clicked, this, &DialogoAuditar::PedirMapa);
 }
 
 void DialogoAuditar::Auditar(const QStringList &rutas) {
   const CursorOcupado ocupado;
-  QString paginas;
-  for (const QString &ruta : rutas) {
-    const FicheroImportable fichero = PrepararFichero(ruta.toStdString(), normales_);
-    if (!paginas.isEmpty()) paginas += QStringLiteral("\n\n");
-    paginas +=
-        Texto(TextoAuditoria(QFileInfo(ruta).fileName().toStdString(), fichero.materia, fichero.auditoria));
+  auditados_.clear();
+  for (const QString &ruta : rutas) AuditarUno(auditados_.emplace_back(Auditado{ruta, {}}));
+  Ensenar();
+}
+
+void DialogoAuditar::AuditarUno(Auditado &auditado) {
+  const FicheroImportable fichero =
+      PrepararFichero(auditado.ruta.toStdString(), normales_, auditado.conMapa ? mapa_ : nullptr);
+  auditado.conMapa = auditado.conMapa || fichero.materia.anio.formato == FormatoClima::Desconocido;
+  auditado.pagina = Texto(
+      TextoAuditoria(QFileInfo(auditado.ruta).fileName().toStdString(), fichero.materia, fichero.auditoria));
+}
+
+void DialogoAuditar::Ensenar() {
+  QStringList paginas;
+  for (const Auditado &auditado : auditados_) paginas << auditado.pagina;
+  mePagina_->setPlainText(paginas.join(QStringLiteral("\n\n")));
+  btnMapa_->setEnabled(std::ranges::any_of(auditados_, &Auditado::conMapa));
+}
+
+void DialogoAuditar::PonMapa(const MapaColumnas &mapa) {
+  const CursorOcupado ocupado;
+  mapa_ = std::make_shared<MapaColumnas>(mapa);
+  for (Auditado &auditado : auditados_) {
+    if (auditado.conMapa) AuditarUno(auditado);
   }
-  mePagina_->setPlainText(paginas);
+  Ensenar();
+}
+
+void DialogoAuditar::PedirMapa() {
+  const auto primero = std::ranges::find(auditados_, true, &Auditado::conMapa);
+  if (primero == auditados_.end()) return;
+  DialogoMapa dialogo(primero->ruta, mapa_.get(), this);
+  if (dialogo.exec() == QDialog::Accepted) PonMapa(dialogo.Mapa());
 }
 
 bool DialogoAuditar::Guardar(const QString &ruta) const {

@@ -1,10 +1,11 @@
 #include "vistas/intercambio/Dialogoimportar.h"
 
-#include "intercambio/auditoria/Textoauditoria.h"
+#include "intercambio/escritura/Nombrescatalogo.h"
+#include "vistas/comun/Textoqt.h"
 #include "vistas/intercambio/Dialogomapa.h"
 #include "vistas/intercambio/Fichaimportar.h"
-#include "vistas/comun/Textoqt.h"
 
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -19,13 +20,51 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace tesmo {
+
+namespace {
+
+const QStringList EXTENSIONES{QStringLiteral("*.epw"),  QStringLiteral("*.csv"), QStringLiteral("*.met"),
+                              QStringLiteral("*.tmy3"), QStringLiteral("*.txt"), QStringLiteral("*.dat")};
+
+/// Los ficheros climáticos de una carpeta por orden alfabético, sin entrar en las que tenga dentro.
+QStringList FicherosDeCarpeta(const QString &ruta) {
+  QStringList rutas;
+  for (const QFileInfo &fichero : QDir(ruta).entryInfoList(EXTENSIONES, QDir::Files, QDir::Name))
+    rutas << fichero.filePath();
+  return rutas;
+}
+
+/// Lo que una persona dice con palabras de una importación.
+constexpr std::array TEXTOS_PEDIDOS{&PeticionImportacion::nombre, &PeticionImportacion::provincia,
+                                    &PeticionImportacion::zona};
+
+/// De @p antes se conserva lo que la persona cambió de @p propuesta; lo demás, lo que se propone ahora.
+PeticionImportacion ConLoTocado(const PeticionImportacion &antes, const PeticionImportacion &propuesta,
+                                PeticionImportacion ahora) {
+  for (const auto campo : TEXTOS_PEDIDOS) {
+    if (antes.*campo != propuesta.*campo) ahora.*campo = antes.*campo;
+  }
+  if (antes.reemplazar != propuesta.reemplazar) ahora.reemplazar = antes.reemplazar;
+  return ahora;
+}
+
+} // namespace
+
+QString FiltroClimatico() {
+  return DialogoImportar::tr("Ficheros climáticos (%1);;Todos (*)").arg(EXTENSIONES.join(QLatin1Char(' ')));
+}
 
 QStringList FicherosArrastrados(const QDropEvent &suceso) {
   QStringList rutas;
   for (const QUrl &url : suceso.mimeData()->urls()) {
-    if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) rutas << url.toLocalFile();
+    if (!url.isLocalFile()) continue;
+    const QFileInfo uno(url.toLocalFile());
+    if (uno.isFile()) rutas << uno.filePath();
+    if (uno.isDir()) rutas << FicherosDeCarpeta(uno.filePath());
   }
   return rutas;
 }
@@ -40,8 +79,7 @@ void DialogoImportar::dropEvent(QDropEvent *suceso) {
 }
 
 void DialogoImportar::PedirFicheros() {
-  Anadir(QFileDialog::getOpenFileNames(this, tr("Importar fichero climático"), {},
-                                       tr("Ficheros climáticos (*.epw *.csv *.met *.txt *.dat);;Todos (*)")));
+  Anadir(QFileDialog::getOpenFileNames(this, tr("Importar fichero climático"), {}, FiltroClimatico()));
 }
 
 void DialogoImportar::Anadir(const QStringList &rutas) {
@@ -50,7 +88,7 @@ void DialogoImportar::Anadir(const QStringList &rutas) {
     const bool esta = std::ranges::any_of(ficheros_, [&](const auto &f) { return f.ruta == utf8; });
     if (esta) continue;
     ficheros_.emplace_back().ruta = utf8;
-    marchas_.push_back({Estado::SinLeer, tr("por leer"), std::nullopt});
+    marchas_.push_back({Estado::SinLeer, tr("por leer"), std::nullopt, {}});
     tabla_->insertRow(tabla_->rowCount());
     EnsenarFila(ficheros_.size() - 1);
   }
@@ -150,13 +188,16 @@ void DialogoImportar::Acabar() {
 }
 
 void DialogoImportar::PrepararUno(std::size_t i) {
-  ficheros_[i] = PrepararFichero(ficheros_[i].ruta, servicios_.normales, ficheros_[i].mapa);
   FicheroImportable &fichero = ficheros_[i];
-  if (marchas_[i].pedida) {
-    const std::string origen = fichero.peticion.origen;
-    fichero.peticion = *marchas_[i].pedida;
-    fichero.peticion.origen = origen;
+  const FicheroImportable antes =
+      std::exchange(fichero, PrepararFichero(fichero.ruta, servicios_.normales, fichero.mapa));
+  if (const auto &pedida = marchas_[i].pedida) {
+    for (const auto campo : TEXTOS_PEDIDOS) fichero.peticion.*campo = (*pedida).*campo;
+    fichero.peticion.reemplazar = pedida->reemplazar;
   }
+  const PeticionImportacion propuesta = std::exchange(marchas_[i].propuesta, fichero.peticion);
+  fichero.peticion = ConLoTocado(antes.peticion, propuesta, fichero.peticion);
+  fichero.huecosLargos = antes.huecosLargos;
   const bool conMapa = fichero.materia.anio.formato == FormatoClima::Desconocido;
   marchas_[i].estado = fichero.legible ? Estado::Listo : Estado::Ilegible;
   marchas_[i].texto = fichero.legible ? tr("listo")
@@ -164,8 +205,23 @@ void DialogoImportar::PrepararUno(std::size_t i) {
                                       : tr("no se puede leer");
 }
 
+bool DialogoImportar::NombreYaImportado(std::size_t i) const {
+  const std::string nombre = TextoDeCampo(ficheros_[i].peticion.nombre);
+  for (std::size_t j = 0; j < ficheros_.size(); ++j) {
+    if (marchas_[j].estado == Estado::Importado && TextoDeCampo(ficheros_[j].peticion.nombre) == nombre)
+      return true;
+  }
+  return false;
+}
+
 void DialogoImportar::ImportarUno(std::size_t i) {
-  const FicheroImportado importado = ImportarFichero(servicios_.directorio, ficheros_[i]);
+  FicheroImportado importado;
+  if (NombreYaImportado(i)) { // ni aunque se pida reemplazar: se perdería el que se acaba de importar
+    importado.resultado.fallo = FalloImportacion::Peticion;
+    importado.resultado.error = "otro fichero de la lista ya se ha importado con ese nombre; póngale otro";
+  } else {
+    importado = ImportarFichero(servicios_.directorio, ficheros_[i]);
+  }
   const ResultadoImportacion &resultado = importado.resultado;
   const bool hecho = resultado.fallo == FalloImportacion::Ninguno;
   marchas_[i].estado = hecho ? Estado::Importado : Estado::Fallido;
@@ -173,7 +229,9 @@ void DialogoImportar::ImportarUno(std::size_t i) {
                       : resultado.reemplazada ? tr("reemplazada")
                                               : tr("importada");
   resumen_ += ResumenDe(i, importado);
-  if (hecho) servicios_.alta(resultado.registro);
+  if (!hecho) return;
+  servicios_.alta(resultado.registro);
+  ficha_->OfrecerProvincia(Texto(resultado.registro.provincia));
 }
 
 void DialogoImportar::reject() {

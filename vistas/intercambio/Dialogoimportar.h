@@ -67,6 +67,7 @@ private:
     Estado estado = Estado::SinLeer;
     QString texto;
     std::optional<PeticionImportacion> pedida; ///< la que trae puesta, en vez de la que se propondría
+    PeticionImportacion propuesta; ///< la que se le puso al leerlo, para saber qué tocó la persona
   };
 
   QWidget *CrearLista();
@@ -81,6 +82,8 @@ private:
   void Acabar();
   void PrepararUno(std::size_t i);
   void ImportarUno(std::size_t i);
+  /// ¿Hay en la lista otro fichero ya importado con el nombre del @p i?
+  [[nodiscard]] bool NombreYaImportado(std::size_t i) const;
   [[nodiscard]] std::optional<std::size_t> Siguiente() const;
   [[nodiscard]] std::size_t Contar(Estado estado) const;
   [[nodiscard]] std::optional<std::size_t> Elegido() const;
@@ -114,7 +117,10 @@ private:
   QPushButton *btnCerrar_ = nullptr;
 };
 
-/// Las rutas de los ficheros de lo que se arrastra; vacío si no trae ninguno.
+/// El filtro de los diálogos que preguntan por ficheros climáticos.
+[[nodiscard]] QString FiltroClimatico();
+/// Las rutas de los ficheros de lo que se arrastra, y los climáticos de sus carpetas; vacío si no trae
+/// ninguno.
 [[nodiscard]] QStringList FicherosArrastrados(const QDropEvent &suceso);
 
 } // namespace tesmo

@@ -9,8 +9,8 @@
 #include "intercambio/formatos/Filas.h"
 #include "intercambio/formatos/Unidadesclima.h"
 #include "vistas/comun/Casillanumero.h"
-#include "vistas/grafico/Papelcolumna.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/grafico/Papelcolumna.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -134,13 +134,14 @@ MapaColumnas DialogoMapa::Mapa() const {
   const bool dicho = csLatitud_->value() != 0.0 || csLongitud_->value() != 0.0;
   mapa.latitud = dicho ? csLatitud_->value() : AUSENTE;
   mapa.longitud = dicho ? csLongitud_->value() : AUSENTE;
-  mapa.altitud = csAltitud_->value();
+  mapa.altitud = csAltitud_->Valor().value_or(AUSENTE);
   mapa.separador = ValorDe(SEPARADORES, *cbSeparador_);
   mapa.comaDecimal = ValorDe(DECIMALES, *cbDecimal_);
   mapa.lineasCabecera = csCabecera_->value();
   mapa.sinDato = NumeroONada(edSinDato_->text());
   mapa.orden = ValorDe(ORDENES, *cbOrden_);
-  mapa.reloj = {ValorDe(RELOJES, *cbTiempo_), csHuso_->value(), csDesfase_->value()};
+  mapa.reloj = {ValorDe(RELOJES, *cbTiempo_), csHuso_->Valor().value_or(0.0), csDesfase_->value()};
+  mapa.husoDeLongitud = !csHuso_->Valor();
   for (int fila = 0; fila < tabla_->rowCount(); ++fila) {
     const int papel = Papel(fila)->currentIndex();
     const std::string columna = std::to_string(fila + 1);
@@ -157,13 +158,13 @@ void DialogoMapa::Poner(const MapaColumnas &mapa) {
   edNombre_->setText(Texto(mapa.nombre));
   csLatitud_->setValue(oCero(mapa.latitud));
   csLongitud_->setValue(oCero(mapa.longitud));
-  csAltitud_->setValue(oCero(mapa.altitud));
+  csAltitud_->PonValor(std::isnan(mapa.altitud) ? std::nullopt : std::optional(mapa.altitud));
   edSinDato_->setText(std::isnan(mapa.sinDato) ? QString() : Texto(FormatoGeneral15(mapa.sinDato, ',')));
   cbDecimal_->setCurrentIndex(SitioDe(DECIMALES, mapa.comaDecimal));
   cbOrden_->setCurrentIndex(SitioDe(ORDENES, mapa.orden));
   cbTiempo_->setCurrentIndex(SitioDe(RELOJES, mapa.reloj.tiempo));
   csDesfase_->setValue(mapa.reloj.desfaseMin);
-  csHuso_->setValue(mapa.husoDeLongitud ? HusoDeLongitud(mapa.longitud) : mapa.reloj.husoHoras);
+  csHuso_->PonValor(mapa.husoDeLongitud ? std::nullopt : std::optional(mapa.reloj.husoHoras));
   {
     const QSignalBlocker separador(cbSeparador_), cabecera(csCabecera_);
     cbSeparador_->setCurrentIndex(SitioDe(SEPARADORES, mapa.separador));

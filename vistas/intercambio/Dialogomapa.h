@@ -15,6 +15,7 @@ class QTableWidget;
 namespace tesmo {
 
 class CasillaEntera;
+class CasillaOpcional;
 class CasillaReal;
 
 /// Dice qué es cada columna de un texto delimitado, dónde está el sitio y qué reloj tiene. El mapa se guarda
@@ -60,10 +61,10 @@ private:
   QLineEdit *edNombre_ = nullptr;
   CasillaReal *csLatitud_ = nullptr;
   CasillaReal *csLongitud_ = nullptr;
-  CasillaReal *csAltitud_ = nullptr;
+  CasillaOpcional *csAltitud_ = nullptr;
   QComboBox *cbTiempo_ = nullptr;
   CasillaReal *csDesfase_ = nullptr;
-  CasillaReal *csHuso_ = nullptr;
+  CasillaOpcional *csHuso_ = nullptr;
   QTableWidget *tabla_ = nullptr;
   QLabel *lbAviso_ = nullptr;
 };

@@ -2,10 +2,11 @@
 
 #include "core/Codificacion.h"
 #include "core/Ficheros.h"
+#include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/formatos/Clavesmapa.h"
 #include "vistas/comun/Casillanumero.h"
-#include "vistas/intercambio/Dialogomapa.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/intercambio/Dialogomapa.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -26,8 +27,8 @@ namespace {
 
 constexpr QSize TAMANO(940, 620);
 constexpr std::size_t BYTES_DE_MUESTRA = 64 * 1024;
-constexpr int CABECERA_MAXIMA = 200; ///< líneas
-constexpr double DESFASE_MAXIMO = 90.0, HUSO_MENOR = -12.0, HUSO_MAYOR = 14.0;
+constexpr int CABECERA_MAXIMA = 200;                             ///< líneas
+constexpr double ALTITUD_MENOR = -450.0, ALTITUD_MAYOR = 9000.0; ///< las que admite un mapa [m]
 
 template <typename T, std::size_t N>
 QComboBox *CrearLista(const char *nombre, const std::array<Palabra<T>, N> &palabras) {
@@ -74,7 +75,9 @@ DialogoMapa::DialogoMapa(const QString &fichero, const MapaColumnas *mapa, QWidg
   pila->addWidget(tabla_, 1);
   pila->addWidget(lbAviso_);
   pila->addWidget(CrearBotones());
-  Poner(mapa == nullptr ? MapaColumnas{} : *mapa);
+  MapaColumnas nuevo;
+  nuevo.husoDeLongitud = true;
+  Poner(mapa == nullptr ? nuevo : *mapa);
 }
 
 QWidget *DialogoMapa::CrearTexto() {
@@ -108,7 +111,9 @@ QWidget *DialogoMapa::CrearSitio() {
   csLatitud_->setToolTip(tr("Norte, positiva"));
   csLongitud_ = CrearReal("csLongitud", -180.0, 180.0, 4, tr(" °"));
   csLongitud_->setToolTip(tr("Este, positiva"));
-  csAltitud_ = CrearReal("csAltitud", -450.0, 9000.0, 1, tr(" m"));
+  csAltitud_ = new CasillaOpcional(ALTITUD_MENOR, ALTITUD_MAYOR, 1, tr("no se sabe"));
+  csAltitud_->setObjectName(QStringLiteral("csAltitud"));
+  csAltitud_->setSuffix(tr(" m"));
   forma->addRow(tr("&Nombre"), edNombre_);
   forma->addRow(tr("Lat&itud"), csLatitud_);
   forma->addRow(tr("Lon&gitud"), csLongitud_);
@@ -119,9 +124,11 @@ QWidget *DialogoMapa::CrearSitio() {
 
 void DialogoMapa::AnadirReloj(QFormLayout &forma) {
   cbTiempo_ = CrearLista("cbTiempo", RELOJES);
-  csDesfase_ = CrearReal("csDesfaseMapa", -DESFASE_MAXIMO, DESFASE_MAXIMO, 1, tr(" min"));
+  csDesfase_ = CrearReal("csDesfaseMapa", -DESFASE_MAXIMO_MIN, DESFASE_MAXIMO_MIN, 1, tr(" min"));
   csDesfase_->setToolTip(tr("De la etiqueta (de 1 a 24) al centro de su hora: −30 si es su final"));
-  csHuso_ = CrearReal("csHusoMapa", HUSO_MENOR, HUSO_MAYOR, 1, tr(" h"));
+  csHuso_ = new CasillaOpcional(-HUSO_MAXIMO, HUSO_MAXIMO, 2, tr("el de la longitud"));
+  csHuso_->setObjectName(QStringLiteral("csHusoMapa"));
+  csHuso_->setSuffix(tr(" h"));
   auto *fila = new QHBoxLayout;
   fila->addWidget(cbTiempo_, 1);
   fila->addWidget(csDesfase_);

@@ -1,6 +1,7 @@
 #include "vistas/intercambio/Fichaimportar.h"
 
 #include "intercambio/Aniodefichero.h"
+#include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 #include "vistas/comun/Casillanumero.h"
 #include "vistas/comun/Meses.h"
@@ -17,21 +18,25 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tesmo {
 
 namespace {
 
-constexpr double DESFASE_MAXIMO = 90.0; ///< [min]
-constexpr double HUSO_MENOR = -12.0, HUSO_MAYOR = 14.0;
+/// Medio día [min]: con un huso equivocado en su cabecera, un fichero puede ir desfasado horas.
+constexpr double DESFASE_MAXIMO = 720.0;
 constexpr double PASO_DESFASE = 5.0, PASO_HUSO = 0.5;
+constexpr int CIFRAS_DESFASE = 1;
+constexpr int CIFRAS_HUSO = 2; ///< los hay de tres cuartos de hora
 
-CasillaReal *CrearCasilla(const QString &nombre, double minimo, double maximo, double paso,
+CasillaReal *CrearCasilla(const QString &nombre, double maximo, int cifras, double paso,
                           const QString &sufijo) {
   auto *casilla = new CasillaReal;
   casilla->setObjectName(nombre);
-  casilla->setRange(minimo, maximo);
+  casilla->setRange(-maximo, maximo);
   casilla->setSingleStep(paso);
-  casilla->setDecimals(1);
+  casilla->setDecimals(cifras);
   casilla->setSuffix(sufijo);
   return casilla;
 }
@@ -76,6 +81,7 @@ QWidget *FichaImportar::CrearDatos(const std::vector<std::string> &provincias) {
   fila->addWidget(btnTodos_);
   cbZona_ = new QComboBox;
   cbZona_->setObjectName(QStringLiteral("cbZona"));
+  cbZona_->addItem(tr("La que ya tuviera; si no, interior"), QString());
   cbZona_->addItem(tr("Interior"), QString::fromLatin1(ZONA_INTERIOR));
   cbZona_->addItem(tr("Costa"), QString::fromLatin1(ZONA_COSTA));
   cbReemplazar_ = new QCheckBox(tr("Reemplazar la localidad si ya existe"));
@@ -107,11 +113,11 @@ QWidget *FichaImportar::CrearReloj() {
   cbReloj_->addItems({tr("El que dicen los datos"), tr("El que declara el fichero"), tr("Hora solar"),
                       tr("Hora oficial"), tr("UTC")});
   csDesfase_ =
-      CrearCasilla(QStringLiteral("csDesfase"), -DESFASE_MAXIMO, DESFASE_MAXIMO, PASO_DESFASE, tr(" min"));
+      CrearCasilla(QStringLiteral("csDesfase"), DESFASE_MAXIMO, CIFRAS_DESFASE, PASO_DESFASE, tr(" min"));
   csDesfase_->setToolTip(
       tr("De la etiqueta al centro de la hora que cubre: −30 si la etiqueta es su final, 0 si "
          "es su centro."));
-  csHuso_ = CrearCasilla(QStringLiteral("csHuso"), HUSO_MENOR, HUSO_MAYOR, PASO_HUSO, tr(" h"));
+  csHuso_ = CrearCasilla(QStringLiteral("csHuso"), HUSO_MAXIMO, CIFRAS_HUSO, PASO_HUSO, tr(" h"));
   csHuso_->setPrefix(tr("UTC "));
   csHuso_->setToolTip(tr("Adelanto de la hora oficial de invierno sobre UTC; al este, positivo."));
   fila->addWidget(cbReloj_, 1);
@@ -121,8 +127,10 @@ QWidget *FichaImportar::CrearReloj() {
   pila->addLayout(fila);
   pila->addWidget(dibujo_, 1);
   connect(cbReloj_, &QComboBox::currentIndexChanged, this, &FichaImportar::ElegirReloj);
-  connect(csDesfase_, &QDoubleSpinBox::valueChanged, this, &FichaImportar::LeerReloj);
-  connect(csHuso_, &QDoubleSpinBox::valueChanged, this, &FichaImportar::LeerReloj);
+  connect(csDesfase_, &QDoubleSpinBox::valueChanged, this,
+          [this](double minutos) { PonReloj(&RelojFichero::desfaseMin, minutos); });
+  connect(csHuso_, &QDoubleSpinBox::valueChanged, this,
+          [this](double horas) { PonReloj(&RelojFichero::husoHoras, horas); });
   return grupo;
 }
 
@@ -134,12 +142,17 @@ void FichaImportar::Poner(FicheroImportable *fichero) {
   ensenando_ = false;
 }
 
+void FichaImportar::OfrecerProvincia(const QString &provincia) {
+  if (cbProvincia_->findText(provincia, Qt::MatchExactly | Qt::MatchCaseSensitive) < 0)
+    cbProvincia_->addItem(provincia);
+}
+
 void FichaImportar::Ensenar() {
   static const FicheroImportable NINGUNO;
   const FicheroImportable &fichero = fichero_ == nullptr ? NINGUNO : *fichero_;
   edLocalidad_->setText(Texto(fichero.peticion.nombre));
   cbProvincia_->setCurrentText(Texto(fichero.peticion.provincia));
-  cbZona_->setCurrentIndex(fichero.peticion.zona == ZONA_COSTA ? 1 : 0);
+  cbZona_->setCurrentIndex(std::max(0, cbZona_->findData(Texto(fichero.peticion.zona))));
   cbReemplazar_->setChecked(fichero.peticion.reemplazar);
   cbRellenar_->setChecked(fichero.huecosLargos == HuecosLargos::RellenarVecinos);
   const VeredictoReloj &veredicto = fichero.materia.reloj;
@@ -204,11 +217,10 @@ void FichaImportar::ElegirReloj() {
   emit cambiada();
 }
 
-void FichaImportar::LeerReloj() {
+/// Sólo el número que se cambió: la otra casilla puede enseñar el suyo redondeado.
+void FichaImportar::PonReloj(double RelojFichero::*numero, double valor) {
   if (ensenando_ || fichero_ == nullptr) return;
-  // Una casilla apagada enseña redondeado lo que no es suyo.
-  if (csDesfase_->isEnabled()) fichero_->reloj.desfaseMin = csDesfase_->value();
-  if (csHuso_->isEnabled()) fichero_->reloj.husoHoras = csHuso_->value();
+  fichero_->reloj.*numero = valor;
   Dibujar();
   emit cambiada();
 }

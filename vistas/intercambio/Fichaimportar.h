@@ -28,6 +28,9 @@ public:
   /// Enseña @p fichero, que ha de vivir hasta que se ponga otro; nulo: nada, y los controles quedan apagados.
   void Poner(FicheroImportable *fichero);
 
+  /// Añade @p provincia a las que se ofrecen, si no está.
+  void OfrecerProvincia(const QString &provincia);
+
 signals:
   /// La persona cambió algo del fichero.
   void cambiada();
@@ -44,7 +47,7 @@ private:
   void Dibujar();
   void LeerDatos();
   void ElegirReloj();
-  void LeerReloj();
+  void PonReloj(double RelojFichero::*numero, double valor);
 
   FicheroImportable *fichero_ = nullptr;
   bool ensenando_ = false; ///< los controles cambian porque se pone otro fichero

@@ -2,8 +2,8 @@
 
 #include "intercambio/Ficheroimportable.h"
 #include "intercambio/formatos/Clavesmapa.h"
-#include "tests/intercambio/formatos/Generadorclima.h"
 #include "tests/comun/ventanas/Manejo.h"
+#include "tests/intercambio/formatos/Generadorclima.h"
 #include "vistas/comun/Casillanumero.h"
 #include "vistas/intercambio/Dialogomapa.h"
 
@@ -46,9 +46,9 @@ private slots:
     Control<QLineEdit>(dialogo, "edNombre").setText(QStringLiteral("Almena"));
     Control<CasillaReal>(dialogo, "csLatitud").setValue(37.18);
     Control<CasillaReal>(dialogo, "csLongitud").setValue(-3.78);
-    Control<CasillaReal>(dialogo, "csAltitud").setValue(567.0);
+    Control<CasillaOpcional>(dialogo, "csAltitud").PonValor(567.0);
     Elegir(dialogo, "cbTiempo", "oficial");
-    Control<CasillaReal>(dialogo, "csHusoMapa").setValue(1.0);
+    Control<CasillaOpcional>(dialogo, "csHusoMapa").PonValor(1.0);
     Control<CasillaReal>(dialogo, "csDesfaseMapa").setValue(-30.0);
     QCOMPARE(Control<QTableWidget>(dialogo, "tablaColumnas").rowCount(), 8);
     ElegirEnFila(dialogo, 1, PAPEL, "Fecha");
@@ -97,6 +97,40 @@ private slots:
     dialogo.accept();
     QCOMPARE(dialogo.result(), static_cast<int>(QDialog::Rejected));
     QVERIFY(Control<QLabel>(dialogo, "lbAviso").text().contains(QStringLiteral("latitud")));
+  }
+
+  void loQueNoSeSabeNoSeEscribe() {
+    DialogoMapa dialogo(Delimitado(), nullptr);
+    Control<CasillaReal>(dialogo, "csLatitud").setValue(20.0);
+    Control<CasillaReal>(dialogo, "csLongitud").setValue(77.0);
+    const MapaColumnas nuevo = dialogo.Mapa();
+    QVERIFY(std::isnan(nuevo.altitud));
+    QVERIFY(nuevo.husoDeLongitud);
+    const std::string texto = EscribirMapa(nuevo);
+    QVERIFY(texto.find("altitud") == std::string::npos && texto.find("huso") == std::string::npos);
+    Control<CasillaOpcional>(dialogo, "csAltitud").PonValor(0.0);
+    Control<CasillaOpcional>(dialogo, "csHusoMapa").PonValor(0.0);
+    QCOMPARE(dialogo.Mapa().altitud, 0.0);
+    QVERIFY(!dialogo.Mapa().husoDeLongitud);
+  }
+
+  void unMapaSinAltitudNiHusoSeGuardaSinEllos() {
+    std::string mapa;
+    for (const QString &linea : QString::fromStdString(MapaDePrueba()).split('\n')) {
+      if (!linea.startsWith(QLatin1String("altitud")) && !linea.startsWith(QLatin1String("huso")))
+        mapa += linea.toStdString() + "\n";
+    }
+    DialogoMapa dialogo(Delimitado(), nullptr);
+    QVERIFY(dialogo.AbrirMapa(QString::fromStdString(raiz_.Escribir("sin.mapa", mapa))));
+    QVERIFY(std::isnan(dialogo.Mapa().altitud));
+    QVERIFY(dialogo.Mapa().husoDeLongitud);
+  }
+
+  void unHusoDeCuartosDeHoraSeGuardaEntero() {
+    const std::string mapa = MapaDePrueba() + "huso = 5.75\n";
+    DialogoMapa dialogo(Delimitado(), nullptr);
+    QVERIFY(dialogo.AbrirMapa(QString::fromStdString(raiz_.Escribir("cuartos.mapa", mapa))));
+    QCOMPARE(dialogo.Mapa().reloj.husoHoras, 5.75);
   }
 
   void losBotonesPreguntanPorElFichero() {

@@ -1,41 +1,26 @@
-// Importar y auditar ficheros climáticos: el diálogo, el mapa de columnas, el marco y los selectores.
+// Importar ficheros climáticos: el diálogo, el marco y los selectores.
 
 #include "core/Rutas.h"
 #include "localidades/Ciudad.h"
-#include "tests/intercambio/formatos/Generadorclima.h"
-#include "tests/comun/ventanas/Manejo.h"
-#include "vistas/intercambio/Dialogoauditar.h"
-#include "vistas/intercambio/Dialogoimportar.h"
+#include "tests/vistas/intercambio/Manejoimportar.h"
 #include "vistas/intercambio/Dibujoreloj.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
-#include <QTimer>
 #include <QUrl>
 
 #include <cmath>
-#include <functional>
-#include <optional>
 
 using namespace tesmo;
 using namespace tesmo::prueba;
 
-namespace {
-
-constexpr int ESPERA = 30000; ///< [ms]; con la máquina cargada un fichero tarda
-
-} // namespace
-
-class PruebaImportar : public QObject {
+class PruebaImportar : public QObject, private ManejoImportar {
   Q_OBJECT
 
 private slots:
@@ -155,10 +140,10 @@ private slots:
     QTRY_VERIFY_WITH_TIMEOUT(!dialogo.Trabajando(), ESPERA);
     const FicheroImportable &fichero = dialogo.Ficheros()[0];
     auto &zona = Control<QComboBox>(dialogo, "cbZona");
-    zona.setCurrentIndex(1);
-    QCOMPARE(fichero.peticion.zona, std::string(ZONA_COSTA));
-    zona.setCurrentIndex(0);
-    QCOMPARE(fichero.peticion.zona, std::string(ZONA_INTERIOR));
+    for (const char *cual : {ZONA_COSTA, ZONA_INTERIOR, ""}) {
+      zona.setCurrentIndex(zona.findData(QString::fromLatin1(cual)));
+      QCOMPARE(fichero.peticion.zona, std::string(cual));
+    }
     QTest::keyClick(&Control<QWidget>(dialogo, "cbRellenar"), Qt::Key_Space);
     QVERIFY(fichero.huecosLargos == HuecosLargos::RellenarVecinos);
     Control<QComboBox>(dialogo, "cbReloj").setCurrentIndex(3); // hora oficial, a mano
@@ -200,6 +185,16 @@ private slots:
     QCOMPARE(dialogo->Ficheros().size(), 1U);
   }
 
+  void soltarUnaCarpetaAnadeSusFicherosClimaticos() {
+    for (const char *nombre : {"carpeta/b.epw", "carpeta/A.CSV", "carpeta/leame.pdf", "carpeta/otra/c.epw"})
+      marco_->datos.Directorio().Escribir(nombre, "nada");
+    QMimeData datos;
+    datos.setUrls({QUrl::fromLocalFile(Ruta("carpeta")), QUrl::fromLocalFile(Ruta("carpeta/leame.pdf"))});
+    const QDropEvent suceso(QPointF(50.0, 50.0), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QCOMPARE(FicherosArrastrados(suceso),
+             QStringList({Ruta("carpeta/A.CSV"), Ruta("carpeta/b.epw"), Ruta("carpeta/leame.pdf")}));
+  }
+
   void unaLocalidadDeTreceColumnasSeOfreceAImportar() {
     marco_->datos.Directorio().Escribir("Meteo/nijar.met", Unir(LineasMetTrece()));
     marco_->Numero(0).Localidad("Níjar");
@@ -226,44 +221,7 @@ private slots:
     QVERIFY(marco_->marco.findChild<QMessageBox *>(QStringLiteral("cajaTreceColumnas")) == nullptr);
   }
 
-  void auditarPreguntaPorLosFicheros() {
-    QCOMPARE(AlRechazar([this] { marco_->Orden("mnuAuditar").trigger(); }), QStringLiteral("QFileDialog"));
-    QVERIFY(marco_->marco.findChild<DialogoAuditar *>() == nullptr);
-  }
-
-  void laAuditoriaEnsenaUnaPaginaPorFicheroYSeGuarda() {
-    DialogoAuditar dialogo({});
-    dialogo.Auditar({Escribir("uno.epw", LineasEpw()), Escribir("dos.csv", LineasTmy3())});
-    const QString paginas = dialogo.findChild<QPlainTextEdit *>(QStringLiteral("mePagina"))->toPlainText();
-    QCOMPARE(paginas.count(QStringLiteral("Auditoría de fichero climático")), 2);
-    QVERIFY(paginas.contains(QStringLiteral("uno.epw")) && paginas.contains(QStringLiteral("dos.csv")));
-    QVERIFY(dialogo.Guardar(Ruta("auditoria.txt")));
-    QCOMPARE(QString::fromStdString(Contenido(Ruta("auditoria.txt").toStdString())), paginas);
-  }
-
 private:
-  [[nodiscard]] DialogoImportar &Abrir() const {
-    marco_->Orden("mnuImportar").trigger();
-    return *marco_->marco.findChild<DialogoImportar *>();
-  }
-  [[nodiscard]] QString Ruta(const char *nombre) const {
-    return QString::fromStdString(TextoDeRuta(marco_->datos.Directorio() / nombre));
-  }
-  [[nodiscard]] QString Escribir(const char *nombre, const LineasFichero &lineas) const {
-    return QString::fromStdString(marco_->datos.Directorio().Escribir(nombre, Unir(lineas)));
-  }
-  template <typename C>
-  [[nodiscard]] static C &Control(const QWidget &dialogo, const char *nombre) {
-    auto *control = dialogo.findChild<C *>(QString::fromLatin1(nombre));
-    if (control == nullptr) qFatal("falta el control %s", nombre);
-    return *control;
-  }
-  static void Pulsar(const QWidget &dialogo, const char *boton) {
-    QTest::mouseClick(&Control<QPushButton>(dialogo, boton), Qt::LeftButton);
-  }
-  [[nodiscard]] static QString Pagina(const QWidget &dialogo, const char *nombre) {
-    return Control<QPlainTextEdit>(dialogo, nombre).toPlainText();
-  }
   [[nodiscard]] static bool Hay(const std::string &ruta) {
     return std::filesystem::is_regular_file(RutaDesdeTexto(ruta));
   }
@@ -271,8 +229,6 @@ private:
     return marco_->Numero(ventana).Buscar<QComboBox>("cbLocalidades").findText(QString::fromUtf8(localidad)) >
            0;
   }
-
-  std::optional<MarcoPrueba> marco_;
 };
 
 TESMO_PRUEBA_QT(PruebaImportar)
