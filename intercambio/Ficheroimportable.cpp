@@ -17,7 +17,7 @@ PeticionImportacion Proponer(const std::string &ruta, const MateriaAuditoria &ma
   peticion.nombre = NombreDeLocalidad(ruta, sitio);
   if (materia.normales != nullptr) {
     peticion.provincia = materia.normales->provincia;
-    peticion.zona = materia.normales->zona;
+    peticion.zonaPropuesta = materia.normales->zona;
   } else if (DiceAlgo(sitio.region)) {
     peticion.provincia = sitio.region;
   }

@@ -26,7 +26,8 @@ struct FicheroImportable {
 };
 
 /// Lee y audita @p ruta y propone reloj, nombre, provincia y zona. El nombre es el del sitio o, si no lo
-/// dice, el del fichero; provincia y zona, las de las normales del lugar, si se conocen. Sin estado.
+/// dice, el del fichero; la provincia y la zona propuesta, las de las normales del lugar, si se conocen. Sin
+/// estado.
 [[nodiscard]] FicheroImportable PrepararFichero(const std::string &ruta,
                                                 const std::vector<NormalesLocalidad> &normales,
                                                 std::shared_ptr<const MapaColumnas> mapa = {});

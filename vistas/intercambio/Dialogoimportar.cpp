@@ -198,6 +198,7 @@ void DialogoImportar::PrepararUno(std::size_t i) {
   const PeticionImportacion propuesta = std::exchange(marchas_[i].propuesta, fichero.peticion);
   fichero.peticion = ConLoTocado(antes.peticion, propuesta, fichero.peticion);
   fichero.huecosLargos = antes.huecosLargos;
+  fichero.altitud = antes.altitud;
   const bool conMapa = fichero.materia.anio.formato == FormatoClima::Desconocido;
   marchas_[i].estado = fichero.legible ? Estado::Listo : Estado::Ilegible;
   marchas_[i].texto = fichero.legible ? tr("listo")

@@ -1,9 +1,9 @@
 // Los controles del diálogo de importar y lo que enseñan.
 
 #include "intercambio/auditoria/Textoauditoria.h"
+#include "vistas/comun/Textoqt.h"
 #include "vistas/intercambio/Dialogoimportar.h"
 #include "vistas/intercambio/Fichaimportar.h"
-#include "vistas/comun/Textoqt.h"
 
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -201,15 +201,18 @@ void DialogoImportar::EnsenarBotones() {
 QString DialogoImportar::ResumenDe(std::size_t i, const FicheroImportado &importado) const {
   const QString nombre = QFileInfo(Texto(ficheros_[i].ruta)).fileName();
   const ResultadoImportacion &resultado = importado.resultado;
+  QString avisos;
+  for (const auto &lista : {importado.avisos, resultado.avisos}) {
+    for (const std::string &aviso : lista) avisos += tr("    Aviso: %1\n").arg(Texto(aviso));
+  }
   if (resultado.fallo != FalloImportacion::Ninguno)
-    return tr("%1: NO se importó\n    %2\n\n").arg(nombre, Texto(resultado.error));
+    return tr("%1: NO se importó\n    %2\n").arg(nombre, Texto(resultado.error)) + avisos + QLatin1Char('\n');
   QString texto = tr("%1: %2, %3 (%4)\n")
                       .arg(nombre, Texto(resultado.registro.localidad), Texto(resultado.registro.provincia),
                            marchas_[i].texto);
   for (const std::string &frase : TextoInforme(importado.informe))
     texto += QStringLiteral("    %1\n").arg(Texto(frase));
-  for (const std::string &aviso : resultado.avisos) texto += tr("    Aviso: %1\n").arg(Texto(aviso));
-  return texto + QLatin1Char('\n');
+  return texto + avisos + QLatin1Char('\n');
 }
 
 void DialogoImportar::EscribirResumen() {

@@ -26,6 +26,7 @@ namespace {
 
 /// Medio día [min]: con un huso equivocado en su cabecera, un fichero puede ir desfasado horas.
 constexpr double DESFASE_MAXIMO = 720.0;
+constexpr double ALTITUD_MENOR = -500.0, ALTITUD_MAYOR = 9000.0; ///< [m]
 constexpr double PASO_DESFASE = 5.0, PASO_HUSO = 0.5;
 constexpr int CIFRAS_DESFASE = 1;
 constexpr int CIFRAS_HUSO = 2; ///< los hay de tres cuartos de hora
@@ -81,9 +82,13 @@ QWidget *FichaImportar::CrearDatos(const std::vector<std::string> &provincias) {
   fila->addWidget(btnTodos_);
   cbZona_ = new QComboBox;
   cbZona_->setObjectName(QStringLiteral("cbZona"));
-  cbZona_->addItem(tr("La que ya tuviera; si no, interior"), QString());
+  cbZona_->addItem(QString(), QString());
   cbZona_->addItem(tr("Interior"), QString::fromLatin1(ZONA_INTERIOR));
   cbZona_->addItem(tr("Costa"), QString::fromLatin1(ZONA_COSTA));
+  csAltitud_ = new CasillaOpcional(ALTITUD_MENOR, ALTITUD_MAYOR, 1, tr("la del fichero"));
+  csAltitud_->setObjectName(QStringLiteral("csAltitudSitio"));
+  csAltitud_->setSuffix(tr(" m"));
+  csAltitud_->setToolTip(tr("Fija la presión y las humedades. Vacía: la que diga el fichero."));
   cbReemplazar_ = new QCheckBox(tr("Reemplazar la localidad si ya existe"));
   cbReemplazar_->setObjectName(QStringLiteral("cbReemplazar"));
   cbRellenar_ = new QCheckBox(tr("Rellenar los huecos largos con los días vecinos"));
@@ -93,11 +98,13 @@ QWidget *FichaImportar::CrearDatos(const std::vector<std::string> &provincias) {
   rotuloProvincia->setBuddy(cbProvincia_);
   forma->addRow(rotuloProvincia, fila);
   forma->addRow(tr("&Zona"), cbZona_);
+  forma->addRow(tr("Al&titud"), csAltitud_);
   forma->addRow(cbReemplazar_);
   forma->addRow(cbRellenar_);
   connect(edLocalidad_, &QLineEdit::textChanged, this, &FichaImportar::LeerDatos);
   connect(cbProvincia_, &QComboBox::currentTextChanged, this, &FichaImportar::LeerDatos);
   connect(cbZona_, &QComboBox::currentIndexChanged, this, &FichaImportar::LeerDatos);
+  connect(csAltitud_, &QDoubleSpinBox::valueChanged, this, &FichaImportar::LeerDatos);
   connect(cbReemplazar_, &QCheckBox::toggled, this, &FichaImportar::LeerDatos);
   connect(cbRellenar_, &QCheckBox::toggled, this, &FichaImportar::LeerDatos);
   connect(btnTodos_, &QPushButton::clicked, this, &FichaImportar::provinciaParaTodos);
@@ -152,7 +159,11 @@ void FichaImportar::Ensenar() {
   const FicheroImportable &fichero = fichero_ == nullptr ? NINGUNO : *fichero_;
   edLocalidad_->setText(Texto(fichero.peticion.nombre));
   cbProvincia_->setCurrentText(Texto(fichero.peticion.provincia));
+  cbZona_->setItemText(0, fichero.peticion.zonaPropuesta == ZONA_COSTA
+                              ? tr("La que ya tuviera; si no, costa")
+                              : tr("La que ya tuviera; si no, interior"));
   cbZona_->setCurrentIndex(std::max(0, cbZona_->findData(Texto(fichero.peticion.zona))));
+  csAltitud_->PonValor(fichero.altitud);
   cbReemplazar_->setChecked(fichero.peticion.reemplazar);
   cbRellenar_->setChecked(fichero.huecosLargos == HuecosLargos::RellenarVecinos);
   const VeredictoReloj &veredicto = fichero.materia.reloj;
@@ -193,6 +204,7 @@ void FichaImportar::LeerDatos() {
   peticion.provincia = cbProvincia_->currentText().trimmed().toStdString();
   peticion.zona = cbZona_->currentData().toString().toStdString();
   peticion.reemplazar = cbReemplazar_->isChecked();
+  fichero_->altitud = csAltitud_->Valor();
   fichero_->huecosLargos = cbRellenar_->isChecked() ? HuecosLargos::RellenarVecinos : HuecosLargos::Rechazar;
   emit cambiada();
 }

@@ -14,6 +14,7 @@ class QPushButton;
 
 namespace tesmo {
 
+class CasillaOpcional;
 class CasillaReal;
 class DibujoReloj;
 
@@ -55,6 +56,7 @@ private:
   QComboBox *cbProvincia_ = nullptr;
   QPushButton *btnTodos_ = nullptr;
   QComboBox *cbZona_ = nullptr;
+  CasillaOpcional *csAltitud_ = nullptr;
   QCheckBox *cbReemplazar_ = nullptr;
   QCheckBox *cbRellenar_ = nullptr;
   QComboBox *cbReloj_ = nullptr;

@@ -47,6 +47,15 @@ TEST_F(ImportacionDeUnFichero, LaAltitudQueSeDaMandaSobreLaDelFichero) {
   EXPECT_EQ(con.resultado.registro.decimo, 1500.0F);
 }
 
+TEST_F(ImportacionDeUnFichero, LaZonaDeLasNormalesSoloSePropone) {
+  NormalesLocalidad normales;
+  normales.latitud = 37.18, normales.longitud = -3.78, normales.altitud = 567.0; // el sitio del EPW
+  normales.zona = ZONA_COSTA;
+  FicheroImportable fichero = PrepararFichero(Epw(prueba::LineasEpw()), {normales});
+  EXPECT_EQ(fichero.peticion.zona, "");
+  EXPECT_EQ(fichero.peticion.zonaPropuesta, ZONA_COSTA);
+}
+
 TEST_F(ImportacionDeUnFichero, ElHusoEscritoEsElMismoQueEnUnLote) {
   prueba::LineasFichero lineas = prueba::LineasEpw();
   prueba::CambiarCampo(lineas[0], 7, "-75.2"); // y la cabecera sigue diciendo UTC+1

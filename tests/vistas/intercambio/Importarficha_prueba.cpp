@@ -1,7 +1,9 @@
 // Lo que se elige de cada fichero que se importa: que llegue lo elegido, y sólo lo elegido.
 
 #include "core/Rutas.h"
+#include "localidades/Ciudad.h"
 #include "tests/vistas/intercambio/Manejoimportar.h"
+#include "vistas/comun/Casillanumero.h"
 #include "vistas/intercambio/Dialogomapa.h"
 
 #include <QComboBox>
@@ -31,6 +33,30 @@ private slots:
     QVERIFY2(Pagina(dialogo, "meResumen").contains(QStringLiteral("Importadas: 1.")),
              qPrintable(Pagina(dialogo, "meResumen")));
     QVERIFY(Contenido(gdr).find("Almeria COSTA") != std::string::npos);
+  }
+
+  void laAltitudQueElFicheroNoDaSeDiceEnLaFicha() {
+    LineasFichero lineas = LineasEpw();
+    CambiarCampo(lineas[0], 9, "99999");
+    DialogoImportar &dialogo = AbrirCon({Escribir("prueba.epw", lineas)});
+    auto &altitud = Control<CasillaOpcional>(dialogo, "csAltitudSitio");
+    QCOMPARE(altitud.text(), QStringLiteral("la del fichero"));
+    altitud.selectAll();
+    QTest::keyClicks(&altitud, QStringLiteral("1500"));
+    Nombrar(dialogo, "Sitio alto", "Granada");
+    Importar(dialogo);
+    QVERIFY(!Pagina(dialogo, "meResumen").contains(QStringLiteral("no da una altitud creíble")));
+    QCOMPARE(DameBaseDeLocalidades().BuscarLocalidad("Sitio alto")->decimo, 1500.0F);
+  }
+
+  void elResumenDiceLoQueSeDijoAlLeer() {
+    LineasFichero lineas = LineasEpw();
+    CambiarCampo(lineas[CABECERA_EPW + 100], 6, "99.9"); // la temperatura de una hora
+    DialogoImportar &dialogo = AbrirCon({Escribir("prueba.epw", lineas)});
+    Nombrar(dialogo, "Sitio nuevo", "Granada");
+    Importar(dialogo);
+    QVERIFY2(Pagina(dialogo, "meResumen").contains(QStringLiteral("línea 109")),
+             qPrintable(Pagina(dialogo, "meResumen")));
   }
 
   void unHusoDeCuartosDeHoraNoSeRedondea() {
@@ -93,7 +119,9 @@ private slots:
     zona.setCurrentIndex(zona.findData(QString::fromLatin1(ZONA_COSTA)));
     for (const char *casilla : {"cbReemplazar", "cbRellenar"})
       QTest::keyClick(&Control<QWidget>(dialogo, casilla), Qt::Key_Space);
+    Control<CasillaOpcional>(dialogo, "csAltitudSitio").PonValor(600.0);
     PonMapa(dialogo, MapaDePrueba() + "nombre = Otro sitio\n");
+    QCOMPARE(fichero.altitud, std::optional(600.0));
     QCOMPARE(fichero.peticion.provincia, std::string("Jaén"));
     QCOMPARE(fichero.peticion.zona, std::string(ZONA_COSTA));
     QVERIFY(fichero.peticion.reemplazar);
