@@ -46,10 +46,13 @@ void PedirGuardar(QWidget &padre, const QObject &contexto, const PeticionGuardar
   if (!peticion.nombre.isEmpty()) dialogo->selectFile(peticion.nombre);
   QObject::connect(dialogo, &QFileDialog::filterSelected, dialogo,
                    [dialogo](const QString &filtro) { dialogo->setDefaultSuffix(ExtensionDe(filtro)); });
-  QObject::connect(dialogo, &QFileDialog::fileSelected, &contexto,
-                   [recuerdo = peticion.recuerdo, guardar = std::move(guardar)](const QString &ruta) {
-                     if (guardar(ruta)) UltimoDirectorio(recuerdo) = QFileInfo(ruta).absolutePath();
-                   });
+  QObject::connect(
+      dialogo, &QFileDialog::fileSelected, &contexto,
+      [dialogo, recuerdo = peticion.recuerdo, guardar = std::move(guardar)](const QString &ruta) {
+        // Una caja sobre un diálogo que se va deja al gestor sin ventana a la que dar el foco.
+        dialogo->hide();
+        if (guardar(ruta)) UltimoDirectorio(recuerdo) = QFileInfo(ruta).absolutePath();
+      });
   dialogo->open();
 }
 
