@@ -1,8 +1,7 @@
 #include "psicro/Psicrometrico.h"
 
+#include "psicro/Atmosfera.h"
 #include "psicro/Constantes.h"
-
-#include <cmath>
 
 namespace tesmo {
 
@@ -34,11 +33,7 @@ void Psicro::ponVista(std::int32_t desplazamientoX, std::int32_t desplazamientoY
   vista_ = {desplazamientoX, desplazamientoY, vista3, vista4, zoom};
 }
 
-void Psicro::ponAltitud(float z) {
-  constexpr double GRADIENTE = 2.25577e-5; // [1/m]
-  constexpr double EXPONENTE = 5.2559;
-  presion_ = static_cast<float>(aire::PRESION_NORMAL * std::pow(1.0 - GRADIENTE * z, EXPONENTE));
-}
+void Psicro::ponAltitud(float z) { presion_ = static_cast<float>(PresionEnAltitud(static_cast<double>(z))); }
 
 void Psicro::ponPresion(float presion) { presion_ = presion; }
 

@@ -1,8 +1,8 @@
 #include "intercambio/auditoria/Comprobaciones.h"
 #include "intercambio/auditoria/Hallazgos.h"
 #include "intercambio/auditoria/Radiaciondehora.h"
-#include "intercambio/sintesis/Humedadsintetica.h"
 #include "intercambio/sintesis/Perfilmensual.h"
+#include "psicro/Atmosfera.h"
 
 #include <algorithm>
 #include <array>

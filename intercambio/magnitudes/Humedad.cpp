@@ -1,7 +1,7 @@
 #include "intercambio/magnitudes/Humedad.h"
 
-#include "intercambio/sintesis/Humedadsintetica.h"
 #include "intercambio/sintesis/Perfilmensual.h"
+#include "psicro/Atmosfera.h"
 #include "psicro/Saturacion.h"
 
 #include <algorithm>

@@ -4,7 +4,7 @@
 #include "intercambio/magnitudes/Humedad.h"
 #include "intercambio/reloj/Interpolacion.h"
 #include "intercambio/reloj/Repartoradiacion.h"
-#include "intercambio/sintesis/Humedadsintetica.h"
+#include "psicro/Atmosfera.h"
 
 #include <algorithm>
 #include <cmath>

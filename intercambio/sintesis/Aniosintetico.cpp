@@ -6,6 +6,7 @@
 #include "intercambio/sintesis/Radiacionhoraria.h"
 #include "intercambio/sintesis/Temperaturahoraria.h"
 #include "intercambio/sintesis/Vientosintetico.h"
+#include "psicro/Atmosfera.h"
 
 #include <utility>
 

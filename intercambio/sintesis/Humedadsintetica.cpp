@@ -10,7 +10,6 @@ namespace tesmo {
 
 namespace {
 
-constexpr double PRESION_NORMAL = 101325.0;
 constexpr double CIEN = 100.0;
 /// Decimales de la humedad absoluta: la relativa se recupera de ella con más precisión que sus centésimas.
 constexpr double DECIMALES_ABSOLUTA = 1e7;
@@ -69,19 +68,6 @@ double Absoluta(double relativa, double saturacion, double presion) {
 }
 
 } // namespace
-
-namespace {
-constexpr double GRADIENTE = 2.25577e-5; // [1/m]
-constexpr double EXPONENTE = 5.2559;
-} // namespace
-
-double PresionEnAltitud(double altitud) {
-  return PRESION_NORMAL * std::pow(1.0 - GRADIENTE * altitud, EXPONENTE);
-}
-
-double AltitudDePresion(double presion) {
-  return (1.0 - std::pow(presion / PRESION_NORMAL, 1.0 / EXPONENTE)) / GRADIENTE;
-}
 
 HumedadHoraria GenerarHumedad(const SerieHoras &temperaturas, const TemperaturasDiarias &dias,
                               const NormalesLocalidad &localidad, const SolDelAnio &sol, double presion) {

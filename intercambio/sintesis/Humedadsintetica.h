@@ -25,10 +25,4 @@ struct HumedadHoraria {
 /// Tope de la humedad relativa [%]: el aire de una estación rara vez marca más y así ningún redondeo satura.
 inline constexpr double HUMEDAD_MAXIMA = 99.0;
 
-/// Presión media [Pa] a la @p altitud [m]: atmósfera normal, 101325·(1 − 2,25577·10⁻⁵·z)^5,2559 (ASHRAE
-/// Fundamentals, 2017, cap. 1, ec. 3).
-[[nodiscard]] double PresionEnAltitud(double altitud);
-/// La altitud [m] a la que PresionEnAltitud da @p presion [Pa], positiva.
-[[nodiscard]] double AltitudDePresion(double presion);
-
 } // namespace tesmo

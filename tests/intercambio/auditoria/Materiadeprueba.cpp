@@ -1,7 +1,7 @@
 #include "tests/intercambio/auditoria/Materiadeprueba.h"
 
-#include "intercambio/sintesis/Humedadsintetica.h"
 #include "intercambio/sintesis/Perfilmensual.h"
+#include "psicro/Atmosfera.h"
 #include "psicro/Constantes.h"
 #include "psicro/Saturacion.h"
 

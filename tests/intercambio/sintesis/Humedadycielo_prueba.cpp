@@ -2,6 +2,7 @@
 #include "intercambio/sintesis/Humedadsintetica.h"
 #include "intercambio/sintesis/Temperaturahoraria.h"
 
+#include "psicro/Atmosfera.h"
 #include "psicro/Saturacion.h"
 
 #include <gtest/gtest.h>
@@ -11,14 +12,6 @@
 
 namespace tesmo {
 namespace {
-
-TEST(Humedad, LaPresionEsLaDeLaAtmosferaNormalPublicada) {
-  // ASHRAE Fundamentals (2017), cap. 1, tabla 1 [kPa].
-  EXPECT_NEAR(PresionEnAltitud(0.0), 101325.0, 1e-9);
-  EXPECT_NEAR(PresionEnAltitud(500.0), 95461.0, 5.0);
-  EXPECT_NEAR(PresionEnAltitud(1000.0), 89875.0, 5.0);
-  EXPECT_NEAR(PresionEnAltitud(2000.0), 79495.0, 5.0);
-}
 
 struct Caso {
   NormalesLocalidad localidad;
