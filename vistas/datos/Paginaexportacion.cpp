@@ -1,8 +1,8 @@
 #include "vistas/datos/Paginaexportacion.h"
 
 #include "vistas/comun/Botones.h"
-#include "vistas/datos/Gruposmagnitud.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/datos/Gruposmagnitud.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -122,7 +122,10 @@ QGroupBox *PaginaExportacion::CrearSeparadores() {
 }
 
 void PaginaExportacion::Anadir(const QString &rotulo) {
-  if (lbListaVariables_->findItems(rotulo, Qt::MatchExactly).isEmpty()) lbListaVariables_->addItem(rotulo);
+  if (!lbListaVariables_->findItems(rotulo, Qt::MatchExactly).isEmpty()) return;
+  auto *variable = new QListWidgetItem(rotulo, lbListaVariables_);
+  // Soltar una encima de otra no dice en qué lugar va: sólo se sueltan entre dos.
+  variable->setFlags(variable->flags() & ~Qt::ItemIsDropEnabled);
 }
 
 void PaginaExportacion::Quitar(const QString &rotulo) {
