@@ -3,12 +3,15 @@
 #include "imagen/Lienzopintor.h"
 #include "psicro/Marcacarta.h"
 #include "psicro/Psicrometrico.h"
+#include "vistas/carta/Lienzorecortado.h"
+#include "vistas/comun/Guardardibujo.h"
 #include "vistas/comun/Textoqt.h"
 
 #include <QFontMetrics>
 #include <QPainter>
 
 #include <algorithm>
+#include <memory>
 
 namespace tesmo {
 
@@ -22,7 +25,12 @@ constexpr int CASILLA_LEYENDA = 9; ///< lado de la muestra de color [px]
 constexpr int RADIO_PUNTO = 4;     ///< [px]
 constexpr int ADORNO = 6;          ///< separación de rótulos y leyenda [px]
 
-void PintarMarcas(LienzoPintor &lienzo, const ContenidoCarta &contenido) {
+std::unique_ptr<Lienzo> CrearLienzo(QPainter &pintor, const QRect &area) {
+  if (RecortaElDestino(pintor)) return std::make_unique<LienzoPintor>(pintor);
+  return std::make_unique<LienzoRecortado>(pintor, area);
+}
+
+void PintarMarcas(Lienzo &lienzo, const ContenidoCarta &contenido) {
   for (const MarcaNube &marca : contenido.marcas)
     MarcarPunto(lienzo, contenido.carta, marca.t, marca.w, ColorDeMarca(marca, contenido.coloreo));
 }
@@ -100,11 +108,10 @@ void PintarCarta(QPainter &pintor, const QSize &total, ContenidoCarta &contenido
   pintor.fillRect(QRect(QPoint(), total), Qt::white);
   pintor.translate(dentro.topLeft());
   pintor.setClipRect(area);
-  LienzoPintor lienzo(pintor);
-  contenido.carta.dibujar(lienzo, area.width(), area.height());
+  const std::unique_ptr<Lienzo> lienzo = CrearLienzo(pintor, area);
+  contenido.carta.dibujar(*lienzo, area.width(), area.height());
   PintarNombres(pintor, contenido.carta);
-  LienzoPintor sobreLosNombres(pintor);
-  PintarMarcas(sobreLosNombres, contenido);
+  PintarMarcas(*CrearLienzo(pintor, area), contenido); // los nombres han cambiado la pluma del pintor
   PintarLeyenda(pintor, contenido);
   PintarPuntos(pintor, contenido);
   pintor.setClipping(false);

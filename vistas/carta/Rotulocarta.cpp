@@ -1,6 +1,7 @@
 #include "vistas/carta/Rotulocarta.h"
 
 #include "core/Formato.h"
+#include "vistas/comun/Guardardibujo.h"
 #include "vistas/comun/Textoqt.h"
 
 #include <QFontMetricsF>
@@ -50,6 +51,7 @@ void Rotular(QPainter &pintor, const QPointF &centro, const QString &texto, doub
 }
 
 void RotularSobreLineas(QPainter &pintor, const QPointF &centro, const QString &texto, double grados) {
+  if (!RecortaElDestino(pintor) && !pintor.clipBoundingRect().contains(centro)) return;
   Rotular(pintor, centro, texto, grados, true);
 }
 

@@ -22,7 +22,8 @@ namespace tesmo {
 /// Texto centrado en @p centro [px] y girado @p grados en el sentido de las agujas, con la pluma de @p
 /// pintor.
 void Rotular(QPainter &pintor, const QPointF &centro, const QString &texto, double grados = 0.0);
-/// El mismo, con las letras perfiladas de blanco para que se lean sobre las líneas sin taparlas.
+/// El mismo, con las letras perfiladas de blanco para que se lean sobre las líneas sin taparlas. Donde el
+/// destino no recorta, nada si el centro cae fuera de lo que se recorta.
 void RotularSobreLineas(QPainter &pintor, const QPointF &centro, const QString &texto, double grados = 0.0);
 
 inline constexpr int MAXIMO_ROTULOS = 200; ///< de una familia: más no se leerían

@@ -6,6 +6,8 @@
 
 #include <QBuffer>
 #include <QFileInfo>
+#include <QPaintEngine>
+#include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
@@ -70,6 +72,11 @@ QByteArray DibujoVectorial(const QString &extension, const QSize &tamano, const 
     PintarSvg(destino, tamano, titulo, pintar);
   }
   return bytes;
+}
+
+bool RecortaElDestino(const QPainter &pintor) {
+  const QPaintEngine *motor = pintor.paintEngine();
+  return motor == nullptr || motor->type() != QPaintEngine::SVG;
 }
 
 QString ExtensionVectorial(const QString &ruta) {

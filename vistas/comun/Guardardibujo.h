@@ -10,6 +10,7 @@
 
 class QObject;
 class QPaintDevice;
+class QPainter;
 class QWidget;
 
 namespace tesmo {
@@ -27,6 +28,9 @@ inline constexpr double ESCALA_DE_GUARDADO = 2.0;
 /// El dibujo como SVG, o como PDF si @p extension es "pdf".
 [[nodiscard]] QByteArray DibujoVectorial(const QString &extension, const QSize &tamano, const QString &titulo,
                                          const PintarDibujo &pintar);
+/// ¿Recorta el destino de @p pintor a lo que diga setClipRect? Un SVG no: a quien pinta en él le toca
+/// hacerlo.
+[[nodiscard]] bool RecortaElDestino(const QPainter &pintor);
 /// ¿Es @p ruta de un formato vectorial? Devuelve su extensión, o vacío: entonces es un PNG.
 [[nodiscard]] QString ExtensionVectorial(const QString &ruta);
 /// Guarda el dibujo en SVG o PDF si lo dice la extensión de @p ruta y, si no, en PNG. Si no se puede,

@@ -241,6 +241,31 @@ private slots:
     QVERIFY(!Vista().GuardarImagen(QStringLiteral("/nohay/carta.png")));
   }
 
+  void elSvgNoSeSaleDeLaCarta() {
+    for (const auto &[t, w] : {std::pair{-2.0F, 0.005F}, {52.0F, 0.005F}, {20.0F, 0.031F}, {25.0F, 0.01F}})
+      Vista().marcarPunto(t, w, 1, 1);
+    Marco().Redibujar();
+    const QString ruta = QString::fromStdString((marco_->datos.Directorio() / "marco.svg").string());
+    QVERIFY(Vista().GuardarImagen(ruta));
+    // En píxeles de la carta; las rayas de las escalas salen cuatro por abajo y por la derecha.
+    const QRectF marco = QRectF(QPointF(), Marco().TamanoDeCarta()).adjusted(-1, -1, 4, 4);
+    int puntos = 0;
+    const QString svg = QString::fromStdString(Contenido(ruta.toStdString()));
+    auto trazos = QRegularExpression(QStringLiteral("points=\"([^\"]*)\"")).globalMatch(svg);
+    while (trazos.hasNext()) {
+      for (const QString &punto : trazos.next().captured(1).split(' ', Qt::SkipEmptyParts)) {
+        const QStringList par = punto.split(',');
+        QCOMPARE(par.size(), 2);
+        const QPointF sitio(par[0].toDouble(), par[1].toDouble());
+        QVERIFY2(marco.contains(sitio), qPrintable(punto));
+        ++puntos;
+      }
+    }
+    QVERIFY(puntos > 1000);
+    const std::vector<QString> textos = TextosDelDibujo();
+    QVERIFY(!Esta(textos, "0,74") && !Esta(textos, "0.74")); // su línea cae a la izquierda de 0 ºC
+  }
+
   void lasCasillasQuitanYPonenSusFamilias() {
     const QImage entera = Marco().Imagen(1.0);
     const std::vector<std::pair<const char *, Familia>> casillas{{"cbVerT", Familia::T},
