@@ -75,8 +75,9 @@ std::unique_ptr<Vistapsicrometrico> VistaPrograma::CrearVistaPsicrometrico() {
     pagina.setEnabled(false);
     return nullptr;
   }
-  return std::make_unique<Vistapsicrometrico>(pagina, formulario_->DamePanel(), *this, seleccion_,
-                                              [this] { CambiarAltitud(); });
+  return std::make_unique<Vistapsicrometrico>(
+      pagina, formulario_->DamePanel(), *this, seleccion_,
+      Vistapsicrometrico::Ventana{[this] { return LeerDatos(); }, [this] { CambiarAltitud(); }});
 }
 
 VistaPrograma::~VistaPrograma() {

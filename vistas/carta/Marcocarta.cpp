@@ -31,6 +31,7 @@ MarcoCarta::MarcoCarta(QWidget *padre) : QWidget(padre) {
 
 void MarcoCarta::PonContenido(ContenidoCarta *contenido) {
   contenido_ = contenido;
+  PonTamano();
   Redibujar();
 }
 
@@ -92,11 +93,14 @@ void MarcoCarta::PintarReticula() {
 
 void MarcoCarta::resizeEvent(QResizeEvent *) {
   imgPsicro_->setGeometry(RectanguloDeCarta(size()));
-  // Quien lea un estado antes de que se vuelva a pintar ha de usar ya el tamaño nuevo.
-  if (contenido_ != nullptr) {
-    contenido_->carta.ponTamano(static_cast<float>(imgPsicro_->width()),
-                                static_cast<float>(imgPsicro_->height()));
-  }
+  PonTamano();
+}
+
+/// Quien lea un estado antes de que se vuelva a pintar ha de usar ya el tamaño nuevo.
+void MarcoCarta::PonTamano() {
+  if (contenido_ == nullptr) return;
+  contenido_->carta.ponTamano(static_cast<float>(imgPsicro_->width()),
+                              static_cast<float>(imgPsicro_->height()));
 }
 
 bool MarcoCarta::eventFilter(QObject *objeto, QEvent *suceso) {

@@ -52,6 +52,7 @@ protected:
 
 private:
   void DibujarSiHaceFalta();
+  void PonTamano();
   void PintarReticula();
   void Pintar(QPaintDevice &destino) const;
 

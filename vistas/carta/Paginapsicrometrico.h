@@ -60,6 +60,7 @@ private:
   QGroupBox *CrearNube();
   QGroupBox *CrearFamilias();
   void CrearAltitud(QGridLayout &rejilla);
+  void TerminarDeTeclear();
   QSpinBox *CrearHora(const char *nombre, int valor);
 
   MarcoCarta *marco_ = nullptr;

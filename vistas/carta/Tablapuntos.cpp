@@ -1,8 +1,8 @@
 #include "vistas/carta/Tablapuntos.h"
 
+#include "vistas/carta/Valoresaire.h"
 #include "vistas/comun/Botones.h"
 #include "vistas/comun/Tablatexto.h"
-#include "vistas/carta/Valoresaire.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -87,6 +87,11 @@ QList<int> TablaPuntos::Elegidos() const {
   for (const QModelIndex &indice : tabla_->selectionModel()->selectedRows()) filas << indice.row();
   std::sort(filas.begin(), filas.end());
   return filas;
+}
+
+void TablaPuntos::QuitarEleccion() {
+  const QSignalBlocker callada(tabla_);
+  tabla_->clearSelection();
 }
 
 QString TablaPuntos::ComoTexto() const { return TextoDeTabla(*tabla_, Elegidos()); }

@@ -21,6 +21,8 @@ public:
   void Poner(const QList<QStringList> &filas, const QString &proceso);
   /// Filas elegidas, de menor a mayor.
   [[nodiscard]] QList<int> Elegidos() const;
+  /// Deja de haber filas elegidas, sin avisar.
+  void QuitarEleccion();
   /// Las filas elegidas, o todas si no hay ninguna, como texto con cabecera y tabuladores.
   [[nodiscard]] QString ComoTexto() const;
 

@@ -7,17 +7,19 @@
 #include "psicro/Corrienteaire.h"
 #include "psicro/Marcacarta.h"
 #include "psicro/Psicrometrico.h"
-#include "vistas/comun/Cursorocupado.h"
-#include "vistas/comun/Guardardibujo.h"
 #include "vistas/carta/Marcocarta.h"
 #include "vistas/carta/Paginapsicrometrico.h"
-#include "vistas/comun/Panelseleccion.h"
-#include "vistas/colores/Selectorcolor.h"
-#include "vistas/grafico/Superficiepintor.h"
 #include "vistas/carta/Tablapuntos.h"
+#include "vistas/colores/Selectorcolor.h"
+#include "vistas/comun/Cursorocupado.h"
+#include "vistas/comun/Guardardibujo.h"
+#include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/grafico/Superficiepintor.h"
 
 #include <QMenu>
+
+#include <cmath>
 
 namespace tesmo {
 
@@ -35,8 +37,9 @@ struct LecturaCarta {
   CorrienteAire aire;
 };
 
-/// Vacía por encima de la saturación.
+/// Vacía por encima de la saturación, o si la carta aún no tiene tamaño.
 std::optional<LecturaCarta> Leer(float t, float w, float p) {
+  if (!std::isfinite(t) || !std::isfinite(w)) return std::nullopt;
   LecturaCarta lectura{t, w, p, CorrienteAire()};
   lectura.aire.pont_hr(t, SATURADO, p);
   if (!(w <= lectura.aire.humedadAbsoluta())) return std::nullopt;
@@ -51,9 +54,9 @@ std::optional<LecturaCarta> LeerEn(const Psicro &carta, int x, int y) {
 } // namespace
 
 Vistapsicrometrico::Vistapsicrometrico(PaginaPsicrometrico &pagina, PanelSeleccion &panel, Programa &programa,
-                                       Seleccion &seleccion, std::function<void()> altitudCambiada)
+                                       Seleccion &seleccion, Ventana ventana)
     : pagina_(pagina), panel_(panel), programa_(programa), seleccion_(seleccion),
-      altitudCambiada_(std::move(altitudCambiada)), contenido_{*programa.DamePsicro()}, color_(COLOR_MARCA),
+      ventana_(std::move(ventana)), contenido_{*programa.DamePsicro()}, color_(COLOR_MARCA),
       marco_(&pagina.DameMarco()) {
   marco_->PonContenido(&contenido_);
   Conectar();
@@ -163,7 +166,7 @@ void Vistapsicrometrico::representar() {
   const CursorOcupado ocupado;
   seleccion_.PonPeriodo(panel_.LeerPeriodo());
   // Las dos series que se marcan están en el fichero: no hay nada que derivar.
-  if (AsegurarCarga(programa_, seleccion_) != ResultadoCarga::Cargada) return;
+  if (!ventana_.cargar()) return;
   MarcarPeriodo();
   pagina_.DameMarco().Redibujar();
 }
@@ -187,7 +190,7 @@ void Vistapsicrometrico::PonAltitud(std::optional<float> altitud) {
   seleccion_.PonAltitudUsuario(altitud);
   PonPresion();
   ActualizarPuntos();
-  altitudCambiada_();
+  ventana_.altitudCambiada();
 }
 
 /// Rehace la tabla, el proceso entre dos puntos (los dos elegidos o los dos últimos) y el dibujo.
@@ -215,6 +218,7 @@ void Vistapsicrometrico::BorrarPuntos() {
   if (elegidos.isEmpty()) contenido_.puntos.clear();
   for (auto i = elegidos.crbegin(); i != elegidos.crend(); ++i)
     contenido_.puntos.erase(contenido_.puntos.begin() + *i);
+  pagina_.DameTabla().QuitarEleccion(); // las filas elegidas son ya de otros puntos
   ActualizarPuntos();
 }
 

@@ -26,10 +26,15 @@ class Seleccion;
 /// horas del período. La presión sale de la altitud en uso.
 class Vistapsicrometrico {
 public:
-  /// @param altitudCambiada se llama cuando el usuario pone o quita su altitud, que vale para toda la ventana
+  /// Lo que pide a su ventana.
+  struct Ventana {
+    std::function<bool()> cargar;          ///< lee otra vez la localidad; si no se puede, lo dice y es falso
+    std::function<void()> altitudCambiada; ///< el usuario pone o quita su altitud, que vale para todas
+  };
+
   /// Todo lo que recibe le sobrevive.
   Vistapsicrometrico(PaginaPsicrometrico &pagina, PanelSeleccion &panel, Programa &programa,
-                     Seleccion &seleccion, std::function<void()> altitudCambiada);
+                     Seleccion &seleccion, Ventana ventana);
   ~Vistapsicrometrico();
   Vistapsicrometrico(const Vistapsicrometrico &) = delete;
   Vistapsicrometrico &operator=(const Vistapsicrometrico &) = delete;
@@ -43,8 +48,8 @@ public:
   /// Botón del ratón en un píxel de la carta: suelta la banda elástica con el modo de pluma @p modo o, sin
   /// banda, lleva a él sus esquinas y fija ahí un punto, si hay estado.
   void botonPulsado(int x, int y, ModoPluma modo = ModoPluma::Inversion);
-  /// Carga si hace falta y marca las horas del período que caen en el horario. Sin localidad o sin fichero se
-  /// enseña el mensaje y no cambia nada.
+  /// Lee la localidad y marca las horas del período que caen en el horario. Sin localidad se enseña el
+  /// mensaje y no cambia nada; sin fichero, además, la ventana queda sin datos y la carta sin marcas.
   void representar();
   /// Añade la marca del estado @p t [°C], @p w [kg/kg] de una hora; se ve al volver a dibujar.
   void marcarPunto(float t, float w, int mes, int hora);
@@ -73,7 +78,7 @@ private:
   PanelSeleccion &panel_;
   Programa &programa_;
   Seleccion &seleccion_;
-  std::function<void()> altitudCambiada_;
+  Ventana ventana_;
   ContenidoCarta contenido_;
   ColorBgr color_;
   QPointer<MarcoCarta> marco_;

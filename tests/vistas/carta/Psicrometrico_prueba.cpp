@@ -215,6 +215,26 @@ private slots:
     QVERIFY(Vista().Contenido().puntos.empty());
   }
 
+  void trasBorrarNingunPuntoQuedaElegido() {
+    const QSize carta = Marco().TamanoDeCarta();
+    FijarDosPuntos();
+    Pulsar(carta.width() - 60, carta.height() - 50);
+    Control<QTableWidget>("tablaPuntos").selectRow(0);
+    ventana_->Pulsar("btnBorrarPuntos");
+    QCOMPARE(Vista().Contenido().puntos.size(), std::size_t(2));
+    ventana_->Pulsar("btnCopiarPuntos");
+    QCOMPARE(QApplication::clipboard()->text().split('\n').size(), 4); // cabecera, los dos y el final
+    ventana_->Pulsar("btnBorrarPuntos");
+    QVERIFY(Vista().Contenido().puntos.empty());
+  }
+
+  void unaCartaSinTamanoNoEnsenaNada() {
+    Carta().ponTamano(0.0F, 0.0F);
+    Vista().lecturaPuntero(10, 10);
+    QCOMPARE(Valor("edT"), QString());
+    QVERIFY(Vista().Contenido().puntos.empty());
+  }
+
 private:
   static void EnviarRaton(QWidget &control, QEvent::Type tipo, const QPoint &sitio, Qt::MouseButton boton) {
     QMouseEvent suceso(tipo, sitio, control.mapToGlobal(sitio), boton, boton, Qt::NoModifier);

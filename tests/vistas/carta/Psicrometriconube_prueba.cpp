@@ -8,11 +8,13 @@
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QLabel>
+#include <QPushButton>
 #include <QSet>
 #include <QSignalSpy>
 #include <QSpinBox>
 
 #include <algorithm>
+#include <filesystem>
 
 using namespace tesmo;
 using namespace tesmo::prueba;
@@ -47,6 +49,9 @@ private slots:
 
   void limpiarQuitaTodasLasMarcas() {
     ventana_->Localidad("Almería");
+    // Sin los nombres de las familias: el perfil de sus letras no siempre sale igual píxel a píxel.
+    for (const char *familia : {"cbVerT", "cbVerW", "cbVerH", "cbVerHR", "cbVerVE"})
+      ventana_->Marcar(familia, false);
     const QImage cargada = Marco().Imagen(1.0);
     ventana_->Pulsar("btnNubes");
     QVERIFY(Marco().Imagen(1.0) != cargada);
@@ -155,6 +160,41 @@ private slots:
     QCOMPARE(marco_->mensajes.apuntes[0].icono, Icono::Informacion);
     QVERIFY(Vista().Contenido().marcas.empty());
     QVERIFY(QApplication::overrideCursor() == nullptr);
+  }
+
+  void siElFicheroDesapareceTrasElegirlaMensaje59YNingunaMarca() {
+    ventana_->Localidad("Almería");
+    ventana_->Pulsar("btnNubes");
+    std::filesystem::remove(marco_->datos.Directorio() / "Meteo/almeria.met");
+    ventana_->Pulsar("btnNubes");
+    QCOMPARE(marco_->mensajes.apuntes.size(), std::size_t(1));
+    QCOMPARE(marco_->mensajes.apuntes[0].texto, TextoDelMensaje59("Almería"));
+    QVERIFY(Vista().Contenido().marcas.empty());
+    QVERIFY(!ventana_->Controlador().HayDatos());
+    QVERIFY(QApplication::overrideCursor() == nullptr);
+  }
+
+  void siElFicheroSeReescribeSeRepresentaElNuevo() {
+    ventana_->Localidad("Almería");
+    const std::filesystem::path meteo = marco_->datos.Directorio() / "Meteo";
+    std::filesystem::copy_file(meteo / "granada.met", meteo / "almeria.met",
+                               std::filesystem::copy_options::overwrite_existing);
+    ventana_->Pulsar("btnNubes");
+    QCOMPARE(Vista().Contenido().marcas.front().t,
+             DatosPrueba::TemperaturaSeca(0, DatosPrueba::BASE_GRANADA));
+  }
+
+  void loQueSeEstaTecleandoCuentaAunqueElBotonSePulseSinSalirDeLaCasilla() {
+    ventana_->Localidad("Almería");
+    ventana_->Teclear("csPHorIni", "30"); // se ajusta a 24
+    auto &altitud = Control<QDoubleSpinBox>("csAltitud");
+    altitud.setFocus();
+    altitud.selectAll();
+    QTest::keyClicks(&altitud, QStringLiteral("1500"));
+    Control<QPushButton>("btnNubes").click();
+    QCOMPARE(Control<QSpinBox>("csPHorIni").text(), QStringLiteral("24"));
+    QCOMPARE(Vista().Contenido().marcas.size(), std::size_t(1));
+    QCOMPARE(Carta().damePresion(), PresionA(1500.0F));
   }
 
   void representarElAnioDibujaUnaSolaVez() {
