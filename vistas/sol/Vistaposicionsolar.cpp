@@ -9,13 +9,14 @@
 #include "solar/Ficheroanual.h"
 #include "solar/Posicionsolar.h"
 #include "vistas/comun/Cursorocupado.h"
-#include "vistas/sol/Escalasolar.h"
-#include "vistas/sol/Graficosolar.h"
 #include "vistas/comun/Guardardibujo.h"
-#include "vistas/sol/Paginaposicionsolar.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/sol/Escalasolar.h"
+#include "vistas/sol/Graficosolar.h"
+#include "vistas/sol/Paginaposicionsolar.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tesmo {
@@ -31,15 +32,15 @@ struct Clave {
   const char *nombre;
   Casilla casilla;
 };
-constexpr std::array<Clave, 6> CLAVES{{{"Mes", Casilla::Mes},
-                                       {"Día", Casilla::Dia},
-                                       {"Hora", Casilla::Hora},
-                                       {"Orientación", Casilla::Orientacion},
-                                       {"Inclinación", Casilla::Inclinacion},
-                                       {"Albedo", Casilla::Albedo}}};
+constexpr std::array<Clave, 3> DE_LA_FECHA{
+    {{"Mes", Casilla::Mes}, {"Día", Casilla::Dia}, {"Hora", Casilla::Hora}}};
+constexpr std::array<Clave, 3> DE_LA_SUPERFICIE{{{"Orientación", Casilla::Orientacion},
+                                                 {"Inclinación", Casilla::Inclinacion},
+                                                 {"Albedo", Casilla::Albedo}}};
 
 bool EsDeSuperficie(Casilla casilla) {
-  return casilla == Casilla::Orientacion || casilla == Casilla::Inclinacion || casilla == Casilla::Albedo;
+  return std::any_of(DE_LA_SUPERFICIE.begin(), DE_LA_SUPERFICIE.end(),
+                     [casilla](const Clave &clave) { return clave.casilla == casilla; });
 }
 
 /// Cómo nombra una casilla el mensaje: las de superficie, como al cargar; las demás, por su rótulo.
@@ -148,13 +149,18 @@ void Vistaposicionsolar::PonCasillas() {
 
 void Vistaposicionsolar::CopiarCasillas() {
   sol_->PonTexto("Latitud", panel_.Latitud());
-  for (const Clave &clave : CLAVES) CopiarCasilla(pagina_, *sol_, clave);
+  for (const Clave &clave : DE_LA_FECHA) CopiarCasilla(pagina_, *sol_, clave);
+  CopiarSuperficie();
+}
+
+void Vistaposicionsolar::CopiarSuperficie() {
+  for (const Clave &clave : DE_LA_SUPERFICIE) CopiarCasilla(pagina_, *sol_, clave);
   seleccion_.PonSuperficie(SuperficieDe(pagina_));
 }
 
 void Vistaposicionsolar::actualizar() {
   if (sol_ == nullptr) return;
-  CopiarCasillas();
+  CopiarSuperficie();
   horizonte_.CopiarEn(*sol_);
 }
 

@@ -32,8 +32,9 @@ public:
   Vistaposicionsolar(const Vistaposicionsolar &) = delete;
   Vistaposicionsolar &operator=(const Vistaposicionsolar &) = delete;
 
-  /// Entrega lo que está a medio editar: las casillas y, si se ha editado, el horizonte pasan al
-  /// PosicionSolar, y la superficie a la selección. Se llama sola antes de cargar o derivar.
+  /// Entrega lo que está a medio editar y cuenta en la irradiancia: la superficie y, si se ha editado, el
+  /// horizonte. La fecha y la hora son sólo de los botones de la página: la hora del objeto, que puede ser
+  /// negativa, no se cambia por lo que enseña su casilla. Se llama sola antes de cargar o derivar.
   void actualizar();
   /// La latitud ha cambiado: se rehace lo que se esté viendo y se vacía el momento, sin decir nada.
   void localidadCambiada();
@@ -66,6 +67,7 @@ private:
   void ConectarRaton(const GraficoSolar &grafico);
   void PonCasillas();
   void CopiarCasillas();
+  void CopiarSuperficie();
   [[nodiscard]] Fecha LeerFecha() const;
   void DibujarDia(const Fecha &fecha);
   void DecirSalidaYPuesta(const Fecha &fecha) const;

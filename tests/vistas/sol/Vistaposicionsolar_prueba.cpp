@@ -78,6 +78,40 @@ private slots:
     QCOMPARE(v_->Casilla("edHora"), Patron(hora + 24.0F));
   }
 
+  void cargarYActualizarNoCambianLaHoraNegativaDelObjeto() {
+    v_.reset();
+    v_.emplace(InstanteLocal{2025, 1, 15, 0, 30});
+    const auto hora = [this] {
+      float valor = 0.0F;
+      v_->Sol().DameReal("Hora", valor);
+      return valor;
+    };
+    const auto estado = [this] {
+      std::int32_t valor = 0;
+      v_->Sol().DameEstado("Hora", valor);
+      return valor;
+    };
+    const float antes = hora();
+    const std::int32_t estadoAntes = estado();
+    QVERIFY(antes < 0.0F);
+    v_->ventana.Localidad("Almería");
+    v_->ventana.Pulsar("btnActualizar");
+    QCOMPARE(hora(), antes);
+    QCOMPARE(estado(), estadoAntes);
+    v_->ventana.Pulsar("btnMomento"); // éste sí copia lo que enseña la casilla
+    QVERIFY(hora() > 0.0F);
+  }
+
+  void unaFechaEquivocadaNoSeDiceDesdeOtraPestana() {
+    v_->Teclear("edMes", "13");
+    v_->ventana.Localidad("Almería");
+    v_->ventana.Pulsar("btnActualizar");
+    QVERIFY(v_->mensajes.apuntes.empty());
+    QCOMPARE(v_->Casilla("edMes"), QStringLiteral("13"));
+    v_->ventana.Pulsar("btnDia");
+    QCOMPARE(v_->mensajes.apuntes.size(), std::size_t(1));
+  }
+
   void elMomentoDeDiaEnsenaAcimutYAltura() {
     v_->PonLatitud("36.84");
     v_->PonFecha("6", "21", "12");
