@@ -4,6 +4,25 @@
 
 namespace tesmo {
 
+namespace {
+
+/// Lo de @p poligono que queda a un lado de un borde: donde @p distancia, con signo, no es negativa.
+template <typename Distancia>
+QVector<QPointF> AUnLado(const QVector<QPointF> &poligono, Distancia distancia) {
+  QVector<QPointF> dentro;
+  for (qsizetype i = 0; i < poligono.size(); ++i) {
+    const QPointF &a = poligono[i];
+    const QPointF &b = poligono[(i + 1) % poligono.size()];
+    const double da = distancia(a);
+    const double db = distancia(b);
+    if (da >= 0.0) dentro.push_back(a);
+    if ((da >= 0.0) != (db >= 0.0)) dentro.push_back(a + (b - a) * (da / (da - db)));
+  }
+  return dentro;
+}
+
+} // namespace
+
 std::optional<std::pair<QPointF, QPointF>> RecortarSegmento(const QPointF &a, const QPointF &b,
                                                             const QRectF &marco) {
   const QPointF paso = b - a;
@@ -44,6 +63,13 @@ std::vector<QVector<QPointF>> RecortarPolilinea(const QVector<QPointF> &linea, c
     sigue = dentro->second == linea[i + 1];
   }
   return tramos;
+}
+
+QVector<QPointF> RecortarPoligono(const QVector<QPointF> &poligono, const QRectF &marco) {
+  QVector<QPointF> dentro = AUnLado(poligono, [&](const QPointF &p) { return p.x() - marco.left(); });
+  dentro = AUnLado(dentro, [&](const QPointF &p) { return marco.right() - p.x(); });
+  dentro = AUnLado(dentro, [&](const QPointF &p) { return p.y() - marco.top(); });
+  return AUnLado(dentro, [&](const QPointF &p) { return marco.bottom() - p.y(); });
 }
 
 } // namespace tesmo

@@ -20,4 +20,8 @@ namespace tesmo {
 [[nodiscard]] std::vector<QVector<QPointF>> RecortarPolilinea(const QVector<QPointF> &linea,
                                                               const QRectF &marco);
 
+/// La parte del polígono @p poligono, cerrado o no, que cae dentro de @p marco; puede recorrer sus bordes más
+/// de una vez. Sutherland y Hodgman (1974), "Reentrant polygon clipping".
+[[nodiscard]] QVector<QPointF> RecortarPoligono(const QVector<QPointF> &poligono, const QRectF &marco);
+
 } // namespace tesmo

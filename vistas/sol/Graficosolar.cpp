@@ -2,8 +2,8 @@
 
 #include "core/Formato.h"
 #include "vistas/comun/Guardardibujo.h"
-#include "vistas/sol/Pintorsolar.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/sol/Pintorsolar.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -74,14 +74,24 @@ const ContenidoSolar &GraficoSolar::Contenido() const {
   return contenido_ != nullptr ? *contenido_ : VACIO;
 }
 
+double GraficoSolar::AlturaMaxima() const {
+  return alturaAlPulsar_ ? *alturaAlPulsar_ : AlturaDelEje(Contenido().horizonte);
+}
+
+EscalaSolar GraficoSolar::Escala() const { return {MarcoSolar(size()), AlturaMaxima()}; }
+
+void GraficoSolar::SoltarEje() {
+  const double antes = AlturaMaxima();
+  alturaAlPulsar_.reset();
+  if (AlturaMaxima() != antes) Redibujar();
+}
+
 SitioRaton GraficoSolar::SitioEn(const QPointF &pixel) const {
-  const EscalaSolar escala = EscalaDe(size(), Contenido().horizonte);
+  const EscalaSolar escala = Escala();
   return {escala.Acimut(pixel.x()), escala.Altura(pixel.y()), false, escala.Alcance(MEDIA_MARCA)};
 }
 
-QPointF GraficoSolar::PixelDe(float acimut, float altura) const {
-  return EscalaDe(size(), Contenido().horizonte).Sitio(acimut, altura);
-}
+QPointF GraficoSolar::PixelDe(float acimut, float altura) const { return Escala().Sitio(acimut, altura); }
 
 SitioRaton GraficoSolar::Sitio(const QMouseEvent &suceso) const {
   SitioRaton sitio = SitioEn(suceso.position());
@@ -92,7 +102,7 @@ SitioRaton GraficoSolar::Sitio(const QMouseEvent &suceso) const {
 /// En la pantalla el orden de los meses es un control; en una imagen hay que pintarlo.
 void GraficoSolar::Pintar(QPaintDevice &destino, bool conOrden) const {
   QPainter pintor(&destino);
-  PintarSolar(pintor, size(), Contenido(), aviso_);
+  PintarSolar(pintor, size(), Contenido(), AlturaMaxima(), aviso_);
   if (!conOrden || stMeses_->isHidden()) return;
   pintor.setFont(stMeses_->font());
   pintor.setPen(Qt::black);
@@ -116,7 +126,10 @@ void GraficoSolar::resizeEvent(QResizeEvent *) { ColocarTextos(); }
 
 void GraficoSolar::mousePressEvent(QMouseEvent *suceso) {
   dobleClic_ = false;
-  if (suceso->button() == Qt::LeftButton) emit izquierdoPulsado(Sitio(*suceso));
+  if (suceso->button() == Qt::LeftButton) {
+    alturaAlPulsar_ = AlturaMaxima();
+    emit izquierdoPulsado(Sitio(*suceso));
+  }
   if (suceso->button() == Qt::RightButton) emit derechoPulsado(Sitio(*suceso));
 }
 
@@ -130,6 +143,7 @@ void GraficoSolar::mouseReleaseEvent(QMouseEvent *suceso) {
   SitioRaton sitio = Sitio(*suceso);
   sitio.repetido = std::exchange(dobleClic_, false);
   emit izquierdoSoltado(sitio);
+  SoltarEje();
 }
 
 void GraficoSolar::mouseMoveEvent(QMouseEvent *suceso) {

@@ -6,6 +6,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <optional>
+
 class QLabel;
 
 namespace tesmo {
@@ -65,6 +67,9 @@ protected:
 
 private:
   [[nodiscard]] const ContenidoSolar &Contenido() const;
+  [[nodiscard]] EscalaSolar Escala() const;
+  [[nodiscard]] double AlturaMaxima() const;
+  void SoltarEje();
   [[nodiscard]] SitioRaton Sitio(const QMouseEvent &suceso) const;
   void Pintar(QPaintDevice &destino, bool conOrden) const;
   void ColocarTextos();
@@ -75,6 +80,9 @@ private:
   QPixmap dibujo_;
   QLabel *stMeses_ = nullptr;
   QLabel *lbPuntero_ = nullptr;
+  /// Donde acaba el eje de alturas [°] mientras el botón izquierdo está pulsado: si cambiara bajo el ratón,
+  /// el punto que se arrastra saltaría.
+  std::optional<double> alturaAlPulsar_;
   bool dobleClic_ = false; ///< desde la segunda pulsación del izquierdo hasta que se suelta
 };
 

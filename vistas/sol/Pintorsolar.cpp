@@ -2,6 +2,7 @@
 
 #include "vistas/carta/Nubecarta.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/grafico/Recorte.h"
 
 #include <QPainter>
 
@@ -111,7 +112,10 @@ void PintarCaminos(QPainter &pintor, const EscalaSolar &escala, const ContenidoS
   RotularHoras(pintor, escala, contenido);
 }
 
-void PintarHorizonte(QPainter &pintor, const EscalaSolar &escala, const ContenidoSolar &contenido) {
+/// El contorno de @p area acaba con los dos puntos que lo cierran por abajo. Se recorta aquí porque el
+/// formato SVG no recorta, y un perfil leído puede salirse del marco.
+void PintarHorizonte(QPainter &pintor, const QRectF &marco, const EscalaSolar &escala,
+                     const ContenidoSolar &contenido) {
   QPolygonF area;
   for (const PuntoHorizonte &punto : AreaDeHorizonte(contenido.horizonte))
     area << escala.Sitio(punto.acimut, punto.altura);
@@ -119,10 +123,12 @@ void PintarHorizonte(QPainter &pintor, const EscalaSolar &escala, const Contenid
   relleno.setAlpha(110);
   pintor.setPen(Qt::NoPen);
   pintor.setBrush(relleno);
-  pintor.drawPolygon(area);
+  pintor.drawPolygon(RecortarPoligono(area, marco));
   pintor.setBrush(Qt::NoBrush);
   pintor.setPen(QPen(COLOR_HORIZONTE, ANCHO_CURVA));
-  if (!area.isEmpty()) pintor.drawPolyline(area.data(), static_cast<int>(area.size()) - 2);
+  if (area.isEmpty()) return;
+  area.resize(area.size() - 2);
+  for (const QVector<QPointF> &tramo : RecortarPolilinea(area, marco)) pintor.drawPolyline(tramo);
 }
 
 /// Encima de todo, y sin recortar: un punto en el borde del eje también ha de poder verse entero.
@@ -130,7 +136,9 @@ void PintarPuntosDeHorizonte(QPainter &pintor, const EscalaSolar &escala, const 
   for (std::size_t i = 0; i < contenido.horizonte.size(); ++i) {
     const PuntoHorizonte &punto = contenido.horizonte[i];
     if (!std::isfinite(punto.acimut) || !std::isfinite(punto.altura)) continue;
-    if (std::fabs(punto.acimut) > EscalaSolar::ACIMUT_MAXIMO || punto.altura < 0.0F) continue;
+    if (std::fabs(punto.acimut) > EscalaSolar::ACIMUT_MAXIMO || punto.altura < 0.0F ||
+        punto.altura > EdicionHorizonte::ALTURA_MAXIMA)
+      continue;
     const bool elegido = static_cast<int>(i) == contenido.elegido;
     const double medio = elegido ? MEDIA_MARCA : MEDIA_MARCA - 2.0;
     QRectF marca(0, 0, 2 * medio, 2 * medio);
@@ -174,15 +182,10 @@ QRectF MarcoSolar(const QSize &total) {
   return {dentro.topLeft(), dentro.size().expandedTo(QSizeF(1, 1))};
 }
 
-EscalaSolar EscalaDe(const QSize &total, const PuntosHorizonte &horizonte) {
-  return {MarcoSolar(total), AlturaDelEje(horizonte)};
-}
-
-void PintarSolar(QPainter &pintor, const QSize &total, const ContenidoSolar &contenido,
+void PintarSolar(QPainter &pintor, const QSize &total, const ContenidoSolar &contenido, double alturaMaxima,
                  const QString &aviso) {
   const QRectF marco = MarcoSolar(total);
-  const EscalaSolar escala = EscalaDe(total, contenido.horizonte);
-  const double alturaMaxima = AlturaDelEje(contenido.horizonte);
+  const EscalaSolar escala(marco, alturaMaxima);
   QFont letra = pintor.font();
   letra.setPixelSize(LETRA);
   pintor.setFont(letra);
@@ -190,7 +193,7 @@ void PintarSolar(QPainter &pintor, const QSize &total, const ContenidoSolar &con
   PintarRejillaSolar(pintor, marco, escala, alturaMaxima);
   pintor.setRenderHint(QPainter::Antialiasing);
   pintor.setClipRect(marco);
-  PintarHorizonte(pintor, escala, contenido);
+  PintarHorizonte(pintor, marco, escala, contenido);
   PintarCaminos(pintor, escala, contenido);
   PintarMomento(pintor, escala, contenido);
   pintor.setClipping(false);

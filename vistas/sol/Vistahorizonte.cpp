@@ -5,14 +5,17 @@
 #include "core/Mensajes.h"
 #include "solar/Influenciahorizonte.h"
 #include "solar/Posicionsolar.h"
+#include "vistas/comun/Textoqt.h"
 #include "vistas/sol/Dialogohorizonte.h"
 #include "vistas/sol/Dialogosperfil.h"
 #include "vistas/sol/Graficosolar.h"
 #include "vistas/sol/Paginaposicionsolar.h"
-#include "vistas/comun/Textoqt.h"
 #include "vistas/sol/Vistaposicionsolar.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
+#include <cmath>
 
 namespace tesmo {
 
@@ -22,6 +25,15 @@ constexpr std::string_view PATRON_PARTE = "0.0";
 constexpr double CIEN = 100.0;
 
 QString Porcentaje(double parte) { return Texto(FormatearPatron(parte * CIEN, PATRON_PARTE)); }
+
+/// Los puntos de un perfil leído que ni se dibujan ni tapan el sol, dichos; vacío si no los hay.
+QString LosDeFuera(const PerfilHorizonte &perfil) {
+  const auto fuera = std::count_if(perfil.X().begin(), perfil.X().end(), [](float acimut) {
+    return !(std::fabs(acimut) <= EdicionHorizonte::ACIMUT_MAXIMO);
+  });
+  return fuera == 0 ? QString()
+                    : QObject::tr(" %1 no cuentan: su acimut no está entre -180 y 180.").arg(fuera);
+}
 
 } // namespace
 
@@ -50,7 +62,8 @@ void Vistaposicionsolar::AbrirPerfil(const std::string &ruta) {
   CopiarHorizonte(leido->perfil, *sol_);
   horizonte_.Tomar(leido->perfil);
   Editado(true);
-  estado_(QObject::tr("Abierto %1: %2 puntos.").arg(Texto(ruta), QString::number(leido->perfil.Tamano())));
+  estado_(QObject::tr("Abierto %1: %2 puntos.").arg(Texto(ruta), QString::number(leido->perfil.Tamano())) +
+          LosDeFuera(leido->perfil));
 }
 
 void Vistaposicionsolar::Previsualizar(HorizonteLeido leido, const std::string &ruta) {

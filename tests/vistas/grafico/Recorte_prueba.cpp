@@ -73,3 +73,33 @@ TEST(Recorte, SinSegmentosNoHayTramos) {
   EXPECT_TRUE(RecortarPolilinea({}, MARCO).empty());
   EXPECT_TRUE(RecortarPolilinea({{20.0, 40.0}}, MARCO).empty());
 }
+
+double Area(const QVector<QPointF> &poligono) {
+  double area = 0.0;
+  for (qsizetype i = 0; i < poligono.size(); ++i) {
+    const QPointF &a = poligono[i];
+    const QPointF &b = poligono[(i + 1) % poligono.size()];
+    area += a.x() * b.y() - b.x() * a.y();
+  }
+  return std::abs(area) / 2.0;
+}
+
+TEST(Recorte, DeUnPoligonoQuedaLoDeDentro) {
+  const QVector<QPointF> marco{MARCO.topLeft(), MARCO.topRight(), MARCO.bottomRight(), MARCO.bottomLeft()};
+  const QVector<QPointF> dentro{{20.0, 30.0}, {60.0, 30.0}, {40.0, 60.0}};
+  EXPECT_EQ(RecortarPoligono(dentro, MARCO), dentro);
+  const QVector<QPointF> todo{{-1e6, -1e6}, {1e6, -1e6}, {1e6, 1e6}, {-1e6, 1e6}};
+  EXPECT_NEAR(Area(RecortarPoligono(todo, MARCO)), Area(marco), 1e-6);
+  EXPECT_TRUE(RecortarPoligono({{0.0, 0.0}, {5.0, 0.0}, {5.0, 5.0}}, MARCO).isEmpty());
+  EXPECT_TRUE(RecortarPoligono({}, MARCO).isEmpty());
+}
+
+TEST(Recorte, UnPoligonoQueSobresaleSeCortaEnElBorde) {
+  // Un cuadrado de 20 de lado con la esquina superior izquierda del marco en su centro: queda un cuarto.
+  const QPointF esquina = MARCO.topLeft();
+  const QVector<QPointF> cuadrado{esquina + QPointF(-10, -10), esquina + QPointF(10, -10),
+                                  esquina + QPointF(10, 10), esquina + QPointF(-10, 10)};
+  const QVector<QPointF> cuarto = RecortarPoligono(cuadrado, MARCO);
+  EXPECT_NEAR(Area(cuarto), 100.0, 1e-9);
+  for (const QPointF &p : cuarto) EXPECT_TRUE(Dentro(p)) << p.x() << ' ' << p.y();
+}

@@ -92,6 +92,38 @@ private slots:
     QVERIFY(std::abs(v_->Horizonte()[0].altura - 50.0F) < 0.2F);
   }
 
+  void elArrastrePorEncimaDeNoventaSigueAlRaton() {
+    Dibujar({{-40.0F, 80.0F}});
+    const float acimut = v_->Horizonte()[0].acimut;
+    const QPoint desde = v_->Pixel(acimut, v_->Horizonte()[0].altura);
+    const int pixelDeNoventa = v_->Pixel(0.0F, 90.0F).y();
+    QTest::mousePress(&v_->Carta(), Qt::LeftButton, Qt::ShiftModifier, desde);
+    for (int y = pixelDeNoventa + 3; y >= pixelDeNoventa - 12; --y) MoverHasta(desde.x(), y);
+    const float arriba = v_->Horizonte()[0].altura;
+    QVERIFY(arriba > 90.0F && arriba < 100.0F);
+    for (int y = pixelDeNoventa - 12; y <= pixelDeNoventa + 3; ++y) MoverHasta(desde.x(), y);
+    QTest::mouseRelease(&v_->Carta(), Qt::LeftButton, Qt::ShiftModifier, {desde.x(), pixelDeNoventa + 3});
+    QVERIFY(v_->Horizonte()[0].altura < 90.0F && v_->Horizonte()[0].altura > 85.0F);
+  }
+
+  void elEjeCambiaAlSoltarYDesdeCienSeBajaSinSaltos() {
+    Dibujar({{-40.0F, 80.0F}});
+    const QPoint desde = v_->Pixel(v_->Horizonte()[0].acimut, v_->Horizonte()[0].altura);
+    const QPoint arriba(desde.x(), v_->Pixel(0.0F, 90.0F).y() - 12);
+    QTest::mousePress(&v_->Carta(), Qt::LeftButton, Qt::ShiftModifier, desde);
+    MoverHasta(arriba.x(), arriba.y());
+    const double deNoventa = v_->Carta().PixelDe(0.0F, 90.0F).y();
+    QTest::mouseRelease(&v_->Carta(), Qt::LeftButton, Qt::ShiftModifier, arriba);
+    QVERIFY(v_->Carta().PixelDe(0.0F, 90.0F).y() > deNoventa); // el eje llega ya a 100
+    const QPoint otraVez = v_->Pixel(v_->Horizonte()[0].acimut, v_->Horizonte()[0].altura);
+    const int hasta = v_->Pixel(0.0F, 85.0F).y();
+    QTest::mousePress(&v_->Carta(), Qt::LeftButton, Qt::ShiftModifier, otraVez);
+    for (int y = otraVez.y(); y <= hasta; ++y) MoverHasta(otraVez.x(), y);
+    QTest::mouseRelease(&v_->Carta(), Qt::LeftButton, Qt::ShiftModifier, {otraVez.x(), hasta});
+    QVERIFY(std::abs(v_->Horizonte()[0].altura - 85.0F) < 0.3F);
+    QCOMPARE(v_->Carta().PixelDe(0.0F, 90.0F).y(), deNoventa);
+  }
+
   void elArrastreQuedaEntreCeroYCien() {
     Dibujar({{-40.0F, 10.0F}});
     emit v_->Carta().izquierdoPulsado({v_->Horizonte()[0].acimut, 10.0F, true, {2.0F, 2.0F}});
@@ -185,6 +217,11 @@ private slots:
   }
 
 private:
+  /// Mueve el ratón y comprueba que el punto va con él.
+  void MoverHasta(int x, int y) const {
+    QTest::mouseMove(&v_->Carta(), QPoint(x, y));
+    QVERIFY(std::abs(v_->Carta().PixelDe(0.0F, v_->Horizonte()[0].altura).y() - y) <= 1.0);
+  }
   static bool Cerca(const PuntoHorizonte &punto, float acimut, float altura) {
     return std::abs(punto.acimut - acimut) < 0.3F && std::abs(punto.altura - altura) < 0.2F;
   }

@@ -4,10 +4,12 @@
 #include "meteo/Leermet.h"
 #include "tests/comun/ventanas/Ventanasolar.h"
 #include "vistas/sol/Dialogohorizonte.h"
+#include "vistas/sol/Pintorsolar.h"
 
 #include <QCheckBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -196,6 +198,64 @@ private slots:
     QVERIFY(Previa() != nullptr);
     QVERIFY(Previa()->findChild<QLabel *>("lbExplicacion")->text().contains(QStringLiteral("supuesto")));
     Previa()->reject();
+  }
+
+  void laVistaPreviaDiceQueSeHaSupuestoDeCadaListado_data() {
+    QTest::addColumn<QString>("texto");
+    QTest::addColumn<QString>("dice");
+    QTest::newRow("alturas") << "0,10,20,30,40,15,25,5\n"
+                             << "empiezan en el norte";
+    QTest::newRow("seis columnas sin títulos") << "-90 3 0 0 0 0\n0 8 0 0 0 0\n"
+                                               << "como PVGIS";
+    QTest::newRow("tabla sin títulos") << "0,1\n90,2\n180,3\n270,4\n"
+                                       << "por sus valores";
+    QTest::newRow("tabla con títulos") << "acimut desde el sur;altura\n0;1\n90;2\n"
+                                       << "El fichero dice desde dónde";
+  }
+  void laVistaPreviaDiceQueSeHaSupuestoDeCadaListado() {
+    QFETCH(const QString, texto);
+    QFETCH(const QString, dice);
+    v_->Vista().AbrirPerfil(v_->datos.Directorio().Escribir("l.txt", texto.toStdString()));
+    QVERIFY(Previa() != nullptr);
+    const QString explicacion = Previa()->findChild<QLabel *>("lbExplicacion")->text();
+    QVERIFY2(explicacion.contains(dice), qPrintable(explicacion));
+    QCOMPARE(explicacion.contains(QStringLiteral("dice desde dónde cuenta los acimutes.")),
+             dice.startsWith(QStringLiteral("El fichero dice")));
+    Previa()->reject();
+  }
+
+  void losPuntosFueraDeLaVueltaSeDicenAlAbrir() {
+    const QSignalSpy estado(&v_->controlador.DameFormulario(), &TforProgramas::estado);
+    v_->Vista().AbrirPerfil(v_->datos.Directorio().Escribir("v.txt", "3\n10, 5\n200, 5\n350, 5\n"));
+    QVERIFY(estado.last().at(0).toString().contains(QStringLiteral("3 puntos. 2 no cuentan")));
+    AbrirCincoPuntos();
+    QVERIFY(!estado.last().at(0).toString().contains(QStringLiteral("no cuentan")));
+  }
+
+  void elSvgDeUnPerfilQueSeSaleQuedaEnElMarco() {
+    v_->Vista().AbrirPerfil(v_->datos.Directorio().Escribir(
+        "fuera.txt", "6\n-300, 40\n-90, 250\n0, -80\n90, 120\n170, 30\n300, 60\n"));
+    QApplication::processEvents();
+    const std::string ruta = v_->Fichero("fuera.svg");
+    QVERIFY(v_->Vista().GuardarImagen(Texto(ruta)));
+    const QString svg = Texto(LeerFicheroEntero(RutaDesdeTexto(ruta)).value_or(""));
+    const QRectF marco = MarcoSolar(v_->Carta().size()).adjusted(-10, -1, 1, 10); // con las rayas de los ejes
+    // Los trazos y los contornos; el guion de una línea también son pares de números, y no cuentan.
+    const QRegularExpression trazos(QStringLiteral("(?:points| d)=\"([^\"]*)\""));
+    const QRegularExpression pares(QStringLiteral("(-?[0-9.e+]+),(-?[0-9.e+]+)"));
+    int puntos = 0;
+    for (auto trazo = trazos.globalMatch(svg); trazo.hasNext();) {
+      for (auto par = pares.globalMatch(trazo.next().captured(1)); par.hasNext(); ++puntos) {
+        const QRegularExpressionMatch hallado = par.next();
+        const QPointF sitio(hallado.captured(1).toDouble(), hallado.captured(2).toDouble());
+        QVERIFY2(marco.contains(sitio), qPrintable(hallado.captured()));
+      }
+    }
+    QVERIFY(puntos > 100);
+    // De los seis, sólo el de 170º y 30º cae en la carta: una marca.
+    QCOMPARE(
+        static_cast<int>(svg.count(QStringLiteral("fill=\"#604830\" fill-opacity=\"1\" stroke=\"#ffffff\""))),
+        1);
   }
 
   void trasUnMuroDeNoventaGradosNoQuedaDirecta() {
