@@ -57,6 +57,7 @@ void LienzoSvg::LineaA(int x, int y) {
     puesta_ = pluma_;
     seguido_ = false;
   }
+  if (seguido_ && x == x_ && y == y_) return;
   if (!seguido_) trazos_ += "M" + Par(x_, y_);
   trazos_ += "L" + Par(x, y);
   x_ = x;

@@ -22,6 +22,7 @@ private:
 };
 
 /// Dibujo en SVG: un trazado por cada pluma distinta, sobre fondo blanco y recortado a su tamaño [píxeles].
+/// Los puntos seguidos de una línea que caen en el mismo píxel son uno: con pasos finos serían casi todos.
 class LienzoSvg : public Lienzo {
 public:
   LienzoSvg(int ancho, int alto) : ancho_(ancho), alto_(alto) {}

@@ -4,6 +4,7 @@
 #include "cli/Opcionesseleccion.h"
 #include "cli/Tabla.h"
 #include "core/Error.h"
+#include "psicro/Constantes.h"
 #include "psicro/Corrienteaire.h"
 
 #include <array>
@@ -25,7 +26,6 @@ constexpr std::array<OrdenDeAire, 6> ORDENES_DE_AIRE{{{"pont_w", &CorrienteAire:
                                                       {"pont_hr", &CorrienteAire::pont_hr},
                                                       {"pont_h", &CorrienteAire::pont_h},
                                                       {"ponw_h", &CorrienteAire::ponw_h}}};
-constexpr float PRESION_NORMAL = 101325.0F; ///< [Pa], atmósfera normal a nivel del mar
 const std::vector<std::string> CODIGOS{"m", "p", "t", "w", "th", "tr", "hr", "h", "ro", "ve"};
 
 struct Datos {
@@ -43,7 +43,7 @@ void Ejecutar(const Datos &datos, Contexto &contexto) {
   const Fijar fijar = BuscarOrden(*datos.orden);
   const auto a = static_cast<float>(LeerNumero(*datos.a, "A"));
   const auto b = static_cast<float>(LeerNumero(*datos.b, "B"));
-  const float p = datos.p ? static_cast<float>(LeerNumero(*datos.p, "P")) : PRESION_NORMAL;
+  const float p = datos.p ? static_cast<float>(LeerNumero(*datos.p, "P")) : aire::PRESION_NORMAL;
   CorrienteAire aire;
   // Los diagnósticos no llevan fin de línea; aquí cada uno ocupa la suya.
   AbrirRegistroEn([&contexto](std::string_view texto) { contexto.error << texto << '\n'; });

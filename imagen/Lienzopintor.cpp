@@ -32,9 +32,11 @@ void LienzoPintor::PonGrueso(int grueso) {
 void LienzoPintor::MoverA(int x, int y) {
   x_ = x;
   y_ = y;
+  seguido_ = false;
 }
 
 void LienzoPintor::LineaA(int x, int y) {
+  if (seguido_ && plumaPuesta_ && x == x_ && y == y_) return; // con pasos finos serían casi todos
   if (grueso_ > 1 && (x == x_ || y == y_)) {
     PintarRecta(x, y);
   } else {
@@ -42,6 +44,7 @@ void LienzoPintor::LineaA(int x, int y) {
     pintor_.drawLine(x_, y_, x, y);
   }
   MoverA(x, y);
+  seguido_ = true;
 }
 
 /// Un trazo grueso horizontal o vertical es un rectángulo: los dos píxeles de los extremos de largo y el

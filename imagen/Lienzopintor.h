@@ -24,6 +24,7 @@ private:
   ColorBgr color_ = 0;
   int grueso_ = 1;
   bool plumaPuesta_ = false;
+  bool seguido_ = false; ///< una línea acaba donde está la pluma
   int x_ = 0;
   int y_ = 0;
 };

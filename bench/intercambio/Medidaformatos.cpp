@@ -101,8 +101,6 @@ public:
     std::printf("EPW por segundo y núcleo: %.0f\n", MICROSEGUNDOS_POR_SEGUNDO / Mejor("LeerElEpw"));
     std::printf("Leer el EPW / leer sus bytes: %.1f\n", Mejor("LeerElEpw") / Mejor("LeerLosBytes"));
   }
-
-private:
 };
 
 } // namespace

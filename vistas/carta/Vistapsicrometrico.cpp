@@ -15,7 +15,7 @@
 #include "vistas/comun/Guardardibujo.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
-#include "vistas/grafico/Superficiepintor.h"
+#include "vistas/carta/Superficiepintor.h"
 
 #include <QMenu>
 

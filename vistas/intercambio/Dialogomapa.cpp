@@ -10,7 +10,7 @@
 #include "intercambio/formatos/Unidadesclima.h"
 #include "vistas/comun/Casillanumero.h"
 #include "vistas/comun/Textoqt.h"
-#include "vistas/grafico/Papelcolumna.h"
+#include "vistas/intercambio/Papelcolumna.h"
 
 #include <QComboBox>
 #include <QFileDialog>

@@ -147,6 +147,8 @@ void GraficoSolar::mouseReleaseEvent(QMouseEvent *suceso) {
 }
 
 void GraficoSolar::mouseMoveEvent(QMouseEvent *suceso) {
+  // Un diálogo en medio del arrastre se queda con el botón que se suelta.
+  if (!suceso->buttons().testFlag(Qt::LeftButton)) SoltarEje();
   const SitioRaton sitio = Sitio(*suceso);
   LeerPuntero(sitio);
   emit movido(sitio);

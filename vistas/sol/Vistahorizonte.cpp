@@ -26,13 +26,16 @@ constexpr double CIEN = 100.0;
 
 QString Porcentaje(double parte) { return Texto(FormatearPatron(parte * CIEN, PATRON_PARTE)); }
 
-/// Los puntos de un perfil leído que ni se dibujan ni tapan el sol, dichos; vacío si no los hay.
+/// Los puntos de un perfil leído que caen fuera de la vuelta, dichos; vacío si no los hay.
 QString LosDeFuera(const PerfilHorizonte &perfil) {
   const auto fuera = std::count_if(perfil.X().begin(), perfil.X().end(), [](float acimut) {
     return !(std::fabs(acimut) <= EdicionHorizonte::ACIMUT_MAXIMO);
   });
-  return fuera == 0 ? QString()
-                    : QObject::tr(" %1 no cuentan: su acimut no está entre -180 y 180.").arg(fuera);
+  return fuera == 0
+             ? QString()
+             : QObject::tr(
+                   " Fuera de -180 a 180: %1; de ellos sólo cuenta el tramo que los une a los de dentro.")
+                   .arg(fuera);
 }
 
 } // namespace

@@ -227,9 +227,9 @@ private slots:
   void losPuntosFueraDeLaVueltaSeDicenAlAbrir() {
     const QSignalSpy estado(&v_->controlador.DameFormulario(), &TforProgramas::estado);
     v_->Vista().AbrirPerfil(v_->datos.Directorio().Escribir("v.txt", "3\n10, 5\n200, 5\n350, 5\n"));
-    QVERIFY(estado.last().at(0).toString().contains(QStringLiteral("3 puntos. 2 no cuentan")));
+    QVERIFY(estado.last().at(0).toString().contains(QStringLiteral("3 puntos. Fuera de -180 a 180: 2;")));
     AbrirCincoPuntos();
-    QVERIFY(!estado.last().at(0).toString().contains(QStringLiteral("no cuentan")));
+    QVERIFY(!estado.last().at(0).toString().contains(QStringLiteral("Fuera de")));
   }
 
   void elSvgDeUnPerfilQueSeSaleQuedaEnElMarco() {

@@ -1,4 +1,4 @@
-#include "vistas/grafico/Superficiepintor.h"
+#include "vistas/carta/Superficiepintor.h"
 
 #include "vistas/comun/Textoqt.h"
 
