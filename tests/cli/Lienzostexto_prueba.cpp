@@ -51,5 +51,18 @@ TEST(LienzoSvg, LosTrazosSeguidosComparteTrazadoYCadaPlumaAbreElSuyo) {
       << lienzo.Documento();
 }
 
+TEST(LienzoSvg, LosPuntosSeguidosDelMismoPixelSonUno) {
+  LienzoSvg lienzo(9, 6);
+  lienzo.MoverA(1, 2);
+  lienzo.LineaA(1, 2); // el primero de un trazo pinta aunque no se mueva
+  lienzo.LineaA(1, 2);
+  lienzo.LineaA(3, 4);
+  lienzo.LineaA(3, 4);
+  lienzo.PonColor(0x0000FF); // con otra pluma vuelve a pintar
+  lienzo.LineaA(3, 4);
+  EXPECT_NE(lienzo.Documento().find("d=\"M1 2L1 2L3 4\"/>"), std::string::npos) << lienzo.Documento();
+  EXPECT_NE(lienzo.Documento().find("d=\"M3 4L3 4\"/>"), std::string::npos) << lienzo.Documento();
+}
+
 } // namespace
 } // namespace tesmo::cli
