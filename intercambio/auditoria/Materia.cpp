@@ -1,8 +1,8 @@
 #include "intercambio/auditoria/Materia.h"
 
 #include "intercambio/reloj/Eleccionreloj.h"
-#include "intercambio/reloj/Escalatiempo.h"
-#include "intercambio/reloj/Solverdadero.h"
+#include "intercambio/reloj/Muestrasreloj.h"
+#include "intercambio/reloj/Soldereloj.h"
 #include "intercambio/sintesis/Soldelanio.h"
 
 #include <algorithm>
@@ -14,29 +14,6 @@ namespace tesmo {
 namespace {
 
 constexpr double GRADO = std::numbers::pi / 180.0;
-constexpr double MINUTOS_POR_HORA = 60.0;
-constexpr double GRADOS_POR_HORA = 15.0;
-
-/// El sol de un sitio a la hora de un reloj.
-class SolDeReloj {
-public:
-  SolDeReloj(const AnioCanonico &anio, const RelojFichero &reloj)
-      : anio_(anio), escala_(reloj, anio.sitio.longitud), latitud_(anio.sitio.latitud * GRADO) {}
-
-  /// Coseno del cenit @p minutos después del centro de la hora de la posición @p i.
-  [[nodiscard]] double Coseno(std::size_t i, double minutos) const {
-    const double instante = escala_.Centro(i) + minutos / MINUTOS_POR_HORA;
-    const SolDeInstante sol = SolVerdadero(anio_.anios[i], escala_.DiaUtc(instante));
-    const double angulo = (escala_.ASolar(instante) - 12.0) * GRADOS_POR_HORA * GRADO;
-    return std::sin(latitud_) * std::sin(sol.declinacion) +
-           std::cos(latitud_) * std::cos(sol.declinacion) * std::cos(angulo);
-  }
-
-private:
-  const AnioCanonico &anio_;
-  EscalaTiempo escala_;
-  double latitud_; ///< [rad]
-};
 
 double DistanciaKm(double latitud, double longitud, const NormalesLocalidad &localidad) {
   constexpr double KM_POR_GRADO = 111.2; // de meridiano
@@ -49,14 +26,13 @@ double DistanciaKm(double latitud, double longitud, const NormalesLocalidad &loc
 SolDeRegistros CalcularSolDeRegistros(const AnioCanonico &anio, const RelojFichero &reloj) {
   constexpr double MEDIA_HORA = 30.0;
   SolDeRegistros sol;
-  const bool solar = reloj.tiempo == TiempoEtiqueta::SolarVerdadero;
-  if (std::isnan(anio.sitio.latitud) || (!solar && std::isnan(anio.sitio.longitud))) return sol;
+  if (!SitioBasta(anio, reloj.tiempo)) return sol;
   sol.cosenoCentro.resize(HORAS);
   sol.cosenoMayor.resize(HORAS);
   sol.extraterrestre.resize(HORAS);
-  const SolDeReloj instante(anio, reloj);
+  const SolDeReloj instante(anio, EscalaTiempo(reloj, anio.sitio.longitud));
   for (std::size_t i = 0; i < HORAS; ++i) {
-    sol.cosenoCentro[i] = instante.Coseno(i, 0.0);
+    sol.cosenoCentro[i] = instante.Coseno(i);
     sol.cosenoMayor[i] =
         std::max({sol.cosenoCentro[i], instante.Coseno(i, -MEDIA_HORA), instante.Coseno(i, MEDIA_HORA)});
     sol.extraterrestre[i] = IrradianciaExtraterrestre(i / static_cast<std::size_t>(HORAS_DEL_DIA));

@@ -1,19 +1,14 @@
 #include "intercambio/magnitudes/Radiacion.h"
 
-#include "intercambio/reloj/Solverdadero.h"
+#include "intercambio/reloj/Soldereloj.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
-
-constexpr double GRADO = std::numbers::pi / 180.0;
-constexpr double GIRO_POR_HORA = std::numbers::pi / 12.0;
-constexpr double MEDIODIA = 12.0;
 
 /// Las cuatro radiaciones de una hora [W/m²], AUSENTE la que no está.
 struct Hora {
@@ -43,21 +38,14 @@ Procedencia De(const SerieCanonica &serie, std::size_t i, double valor) {
 
 } // namespace
 
-double CosenoVerdadero(const AnioCanonico &anio, const EscalaTiempo &escala, std::size_t i) {
-  const double centro = escala.Centro(i);
-  const double declinacion = SolVerdadero(anio.anios[i], escala.DiaUtc(centro)).declinacion;
-  const double latitud = anio.sitio.latitud * GRADO;
-  const double h = (escala.ASolar(centro) - MEDIODIA) * GIRO_POR_HORA;
-  return std::sin(latitud) * std::sin(declinacion) + std::cos(latitud) * std::cos(declinacion) * std::cos(h);
-}
-
 void CompletarRadiacion(const AnioCanonico &anio, const EscalaTiempo &escala, AnioCompleto &completo) {
+  const SolDeReloj sol(anio, escala);
   completo.normal = anio[Campo::DirectaNormal];
   for (std::size_t i = 0; i < HORAS; ++i) {
     Hora hora{anio[Campo::GlobalHorizontal].valores[i], completo.normal.valores[i],
               anio[Campo::DirectaHorizontal].valores[i], anio[Campo::DifusaHorizontal].valores[i]};
     const bool pideCoseno = std::isnan(hora.directa) && std::isnan(hora.global - hora.difusa);
-    CompletarHora(hora, pideCoseno ? CosenoVerdadero(anio, escala, i) : 0.0);
+    CompletarHora(hora, pideCoseno ? sol.Coseno(i) : 0.0);
     completo.directa.Poner(i, hora.directa, De(anio[Campo::DirectaHorizontal], i, hora.directa));
     completo.difusa.Poner(i, hora.difusa, De(anio[Campo::DifusaHorizontal], i, hora.difusa));
   }

@@ -9,7 +9,4 @@ namespace tesmo {
 /// es 0 y la difusa se queda con la global. Coseno del cenit del sol verdadero en el centro de la hora.
 void CompletarRadiacion(const AnioCanonico &anio, const EscalaTiempo &escala, AnioCompleto &completo);
 
-/// Coseno del cenit verdadero en el centro de la hora del registro @p i; negativo de noche.
-[[nodiscard]] double CosenoVerdadero(const AnioCanonico &anio, const EscalaTiempo &escala, std::size_t i);
-
 } // namespace tesmo

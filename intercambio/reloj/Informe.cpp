@@ -1,6 +1,6 @@
 #include "intercambio/reloj/Informe.h"
 
-#include "intercambio/magnitudes/Radiacion.h"
+#include "intercambio/reloj/Soldereloj.h"
 #include "intercambio/reloj/Soldereparto.h"
 #include "intercambio/reloj/Textoreloj.h"
 
@@ -99,10 +99,11 @@ AntesDespues CierreDelHaz(const ConversionHecha &hecha) {
   const SerieHoras &difusa = hecha.anio[Campo::DifusaHorizontal].valores;
   const SerieHoras &normal = hecha.completo.normal.valores;
   const SerieHoras &directa = hecha.solar[SerieAlmacenada::RadiacionDirecta].valores;
+  const SolDeReloj escrito(hecha.anio, hecha.escala);
   const SolDeReparto sol = SolDeReparto::Verdadero(hecha.anio.sitio.latitud);
   return {Cierre(normal,
                  [&](std::size_t i) {
-                   const double coseno = std::max(0.0, CosenoVerdadero(hecha.anio, hecha.escala, i));
+                   const double coseno = std::max(0.0, escrito.Coseno(i));
                    return global[i] - difusa[i] - normal[i] * coseno;
                  }),
           Cierre(hecha.radiacion.normal, [&](std::size_t h) {

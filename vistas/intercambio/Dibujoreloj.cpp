@@ -1,5 +1,7 @@
 #include "vistas/intercambio/Dibujoreloj.h"
 
+#include "vistas/intercambio/Cajacurso.h"
+
 #include <QFontMetricsF>
 #include <QLocale>
 #include <QPaintEvent>
@@ -103,7 +105,8 @@ void DibujoReloj::PintarLado(QPainter &pintor, const QRectF &caja, const Lado &l
   renglon(caja.top(), lado.titulo + reparto);
   pintor.drawText(QRectF(caja.left(), caja.top() + linea, caja.width(), 2.0 * linea),
                   Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, DesfaseJunto(lado.reloj));
-  const HorasCurso horas = HorasDelCurso(lado.curso);
+  const std::vector<PuntoCurso> &sol = lado.curso.sol;
+  const HorasCurso horas = sol.empty() ? HorasCurso{} : HorasDelCurso(sol.front().hora, sol.back().hora);
   const CajaCurso dibujo{caja.left() + linea,
                          caja.top() + 3.4 * linea,
                          caja.width() - 2.0 * linea,

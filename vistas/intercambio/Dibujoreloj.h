@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vistas/intercambio/Cursoreloj.h"
+#include "intercambio/reloj/Cursodeldia.h"
 
 #include <QString>
 #include <QWidget>

@@ -4,14 +4,11 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace tesmo {
 
-/// La matemática del dibujo del reloj: el haz de un día claro frente al curso del sol.
-
-/// Un punto del dibujo.
+/// Un punto del curso de un día: el haz o el sol.
 struct PuntoCurso {
   double hora = 0;  ///< solar verdadera, de 0 a 24
   double valor = 0; ///< coseno del cenit
@@ -34,21 +31,5 @@ inline constexpr double PASO_CURSO_MIN = 10.0;
 /// sin directa normal, el cenit escrito; sin él, la directa horizontal o la global a la escala del sol. Sin
 /// latitud, o sin longitud si la etiqueta no es solar, no hay curso.
 [[nodiscard]] CursoReloj CursoDelDia(const AnioCanonico &anio, const RelojFichero &reloj, std::size_t dia);
-
-/// La caja de un dibujo [px], con y hacia abajo, y las horas que abarca.
-struct CajaCurso {
-  double x = 0, y = 0, ancho = 0, alto = 0;
-  double primeraHora = 4, ultimaHora = 20;
-  /// Píxel de un punto; el 0 está en la base y el 1 arriba.
-  [[nodiscard]] double X(double hora) const {
-    return x + ancho * (hora - primeraHora) / (ultimaHora - primeraHora);
-  }
-  [[nodiscard]] double Y(double valor) const { return y + alto * (1.0 - valor); }
-};
-/// Las horas en punto, pares, que caben entre las del sol de @p curso con una de margen: [primera, última].
-struct HorasCurso {
-  double primera = 4, ultima = 20;
-};
-[[nodiscard]] HorasCurso HorasDelCurso(const CursoReloj &curso);
 
 } // namespace tesmo

@@ -1,7 +1,7 @@
-#include "vistas/intercambio/Cursoreloj.h"
+#include "intercambio/reloj/Cursodeldia.h"
 
-#include "intercambio/reloj/Escalatiempo.h"
-#include "intercambio/reloj/Solverdadero.h"
+#include "intercambio/reloj/Muestrasreloj.h"
+#include "intercambio/reloj/Soldereloj.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,6 +12,8 @@ namespace tesmo {
 namespace {
 
 constexpr double GRADO = std::numbers::pi / 180.0;
+constexpr double MINUTOS_POR_HORA = 60.0;
+constexpr double CENIT_DEL_HORIZONTE = 90.0; // [°]
 constexpr auto HORAS_DIA = static_cast<std::size_t>(HORAS_DEL_DIA);
 constexpr auto DIAS = static_cast<std::size_t>(DIAS_DEL_ANIO);
 
@@ -34,31 +36,6 @@ double SumaDelDia(const AnioCanonico &anio, std::size_t dia) {
   return suma;
 }
 
-/// El sol de un sitio a la hora de un reloj.
-class SolDeCurso {
-public:
-  SolDeCurso(const AnioCanonico &anio, const RelojFichero &reloj)
-      : anio_(anio), escala_(reloj, anio.sitio.longitud) {}
-  [[nodiscard]] const EscalaTiempo &Escala() const { return escala_; }
-  /// Coseno del cenit a la hora @p solar, en horas desde el 1 de enero.
-  [[nodiscard]] double Coseno(double solar) const {
-    const SolDeInstante sol = SolVerdadero(0, escala_.DiaUtc(escala_.DeSolar(solar)));
-    const double latitud = anio_.sitio.latitud * GRADO;
-    const double angulo = (std::fmod(solar, 24.0) - 12.0) * 15.0 * GRADO;
-    return std::sin(latitud) * std::sin(sol.declinacion) +
-           std::cos(latitud) * std::cos(sol.declinacion) * std::cos(angulo);
-  }
-
-private:
-  const AnioCanonico &anio_;
-  EscalaTiempo escala_;
-};
-
-bool HaySol(const AnioCanonico &anio, const RelojFichero &reloj) {
-  return !std::isnan(anio.sitio.latitud) &&
-         (reloj.tiempo == TiempoEtiqueta::SolarVerdadero || !std::isnan(anio.sitio.longitud));
-}
-
 /// Coseno del cenit que dicen los datos de una hora, si lo dicen por sí solos.
 double CosenoDeDatos(const AnioCanonico &anio, std::size_t hora) {
   constexpr double NORMAL_MINIMA = 100.0; // [W/m²]: con menos, el cociente es ruido
@@ -67,7 +44,7 @@ double CosenoDeDatos(const AnioCanonico &anio, std::size_t hora) {
     return (Valor(anio, Campo::GlobalHorizontal, hora) - Valor(anio, Campo::DifusaHorizontal, hora)) / normal;
   if (!std::isnan(normal)) return AUSENTE;
   const double cenit = Valor(anio, Campo::CenitSolar, hora);
-  return cenit < 90.0 ? std::cos(cenit * GRADO) : AUSENTE;
+  return cenit < CENIT_DEL_HORIZONTE ? std::cos(cenit * GRADO) : AUSENTE;
 }
 
 /// Los datos que sólo dan la forma del día, a la escala del sol.
@@ -81,10 +58,10 @@ void PonerALaEscala(std::vector<PuntoCurso> &puntos, const std::vector<PuntoCurs
   for (PuntoCurso &punto : puntos) punto.valor *= escala;
 }
 
-std::vector<PuntoCurso> CursoDelSol(const SolDeCurso &sol, std::size_t dia) {
+std::vector<PuntoCurso> CursoDelSol(const SolDeReloj &sol, std::size_t dia) {
   std::vector<PuntoCurso> curso;
-  for (double hora = 0.0; hora < 24.0; hora += PASO_CURSO_MIN / 60.0) {
-    const double coseno = sol.Coseno(static_cast<double>(dia * HORAS_DIA) + hora);
+  for (double hora = 0.0; hora < HORAS_DEL_DIA; hora += PASO_CURSO_MIN / MINUTOS_POR_HORA) {
+    const double coseno = sol.CosenoSolar(static_cast<double>(dia * HORAS_DIA) + hora);
     if (coseno > 0.0) curso.push_back({hora, coseno});
   }
   return curso;
@@ -99,16 +76,16 @@ std::vector<PuntoCurso> PuntosDelDia(const EscalaTiempo &escala, std::size_t dia
   for (std::size_t i = dia > 0 ? (dia - 1) * HORAS_DIA : 0; i < std::min(dia + 2, DIAS) * HORAS_DIA; ++i) {
     const double hora = escala.ASolar(escala.Centro(i)) - medianoche;
     const double valor = coseno(i);
-    if (hora >= 0.0 && hora < 24.0 && valor > 0.0) puntos.push_back({hora, valor});
+    if (hora >= 0.0 && hora < HORAS_DEL_DIA && valor > 0.0) puntos.push_back({hora, valor});
   }
   return puntos;
 }
 
-double Desviacion(const std::vector<PuntoCurso> &haz, const SolDeCurso &sol, std::size_t dia) {
+double Desviacion(const std::vector<PuntoCurso> &haz, const SolDeReloj &sol, std::size_t dia) {
   double suma = 0.0;
   for (const PuntoCurso &punto : haz) {
     const double aparta =
-        punto.valor - std::max(0.0, sol.Coseno(static_cast<double>(dia * HORAS_DIA) + punto.hora));
+        punto.valor - std::max(0.0, sol.CosenoSolar(static_cast<double>(dia * HORAS_DIA) + punto.hora));
     suma += aparta * aparta;
   }
   return haz.empty() ? AUSENTE : std::sqrt(suma / static_cast<double>(haz.size()));
@@ -130,8 +107,8 @@ std::optional<std::size_t> DiaMasClaro(const AnioCanonico &anio) {
 
 CursoReloj CursoDelDia(const AnioCanonico &anio, const RelojFichero &reloj, std::size_t dia) {
   CursoReloj curso;
-  if (!HaySol(anio, reloj) || dia >= DIAS) return curso;
-  const SolDeCurso sol(anio, reloj);
+  if (!SitioBasta(anio, reloj.tiempo) || dia >= DIAS) return curso;
+  const SolDeReloj sol(anio, EscalaTiempo(reloj, anio.sitio.longitud));
   curso.sol = CursoDelSol(sol, dia);
   curso.haz = PuntosDelDia(sol.Escala(), dia, [&](std::size_t i) { return CosenoDeDatos(anio, i); });
   if (curso.haz.empty()) {
@@ -140,12 +117,6 @@ CursoReloj CursoDelDia(const AnioCanonico &anio, const RelojFichero &reloj, std:
   }
   curso.desviacion = Desviacion(curso.haz, sol, dia);
   return curso;
-}
-
-HorasCurso HorasDelCurso(const CursoReloj &curso) {
-  if (curso.sol.empty()) return {};
-  return {std::max(0.0, 2.0 * std::floor((curso.sol.front().hora - 1.0) / 2.0)),
-          std::min(24.0, 2.0 * std::ceil((curso.sol.back().hora + 1.0) / 2.0))};
 }
 
 } // namespace tesmo

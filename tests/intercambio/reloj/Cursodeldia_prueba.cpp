@@ -1,4 +1,4 @@
-#include "vistas/intercambio/Cursoreloj.h"
+#include "intercambio/reloj/Cursodeldia.h"
 
 #include <gtest/gtest.h>
 
@@ -64,18 +64,6 @@ TEST(CursoReloj, SinSitioNoHayCurso) {
   EXPECT_TRUE(CursoDelDia(anio, {TiempoEtiqueta::Utc, 0.0, -30.0}, DIA).sol.empty());
   EXPECT_FALSE(CursoDelDia(anio, anio.reloj, DIA).sol.empty()); // con etiqueta solar no hace falta
   EXPECT_TRUE(std::isnan(CursoDelDia(anio, {TiempoEtiqueta::Utc, 0.0, -30.0}, DIA).desviacion));
-}
-
-TEST(CajaCurso, LaBaseEsElCeroYLasHorasSonPares) {
-  const CajaCurso caja{10.0, 20.0, 160.0, 100.0, 4.0, 20.0};
-  EXPECT_DOUBLE_EQ(caja.X(4.0), 10.0);
-  EXPECT_DOUBLE_EQ(caja.X(12.0), 90.0);
-  EXPECT_DOUBLE_EQ(caja.Y(0.0), 120.0);
-  EXPECT_DOUBLE_EQ(caja.Y(1.0), 20.0);
-  const HorasCurso horas = HorasDelCurso({{}, {{6.2, 0.1}, {17.8, 0.1}}, AUSENTE});
-  EXPECT_DOUBLE_EQ(horas.primera, 4.0);
-  EXPECT_DOUBLE_EQ(horas.ultima, 20.0);
-  EXPECT_DOUBLE_EQ(HorasDelCurso({}).primera, 4.0);
 }
 
 } // namespace
