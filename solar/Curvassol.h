@@ -10,8 +10,6 @@
 
 namespace tesmo {
 
-inline constexpr std::size_t MESES_DEL_ANIO = 12;
-
 /// Un punto de la carta solar: hora solar t [h], acimut [°, 0 al sur, oeste positivo] y altura [°].
 struct PuntoSolar {
   float t;

@@ -69,7 +69,7 @@ std::string TextoAnual(float latitud) {
   texto.reserve(texto.size() + HORAS_DEL_ANIO * ANCHO_DE_LINEA);
   for (int mes = 1; mes <= MESES; ++mes) {
     const auto comienzos = Comienzos(mes);
-    for (int dia = 1; dia <= DIAS_DEL_MES[static_cast<std::size_t>(mes - 1)]; ++dia) {
+    for (int dia = 1; dia <= DiasDelMes(mes); ++dia) {
       const SolDelDia sol(latitud, mes, dia);
       for (int h = 1; h <= HORAS_DEL_DIA; ++h) {
         const AngulosSolares angulos = sol.En(static_cast<float>(h) + MEDIA_HORA).angulos;

@@ -45,7 +45,7 @@ HorasDeSolDelAnio HorasDeSolPerdidas(const PerfilHorizonte &perfil, float latitu
   const AlturasDeHorizonte horizonte(perfil.X(), perfil.Y());
   HorasDeSolDelAnio horas{0, 0};
   for (int mes = 1; mes <= static_cast<int>(DIAS_DEL_MES.size()); ++mes) {
-    for (int dia = 1; dia <= DIAS_DEL_MES[static_cast<std::size_t>(mes - 1)]; ++dia) {
+    for (int dia = 1; dia <= DiasDelMes(mes); ++dia) {
       ContarDia(SolDelDia(latitud, mes, dia), horizonte, horas);
     }
   }

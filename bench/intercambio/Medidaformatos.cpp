@@ -31,10 +31,7 @@ std::string TextoEpw() {
     texto += ',';
   };
   for (int i = 0; i < HORAS_DEL_ANIO; ++i) {
-    int mes = 0;
-    int dia = 0;
-    int hora = 0;
-    FechaDePosicion(i, mes, dia, hora);
+    const auto [mes, dia, hora] = FechaDeIndice(i);
     texto += "2005," + std::to_string(mes) + "," + std::to_string(dia) + "," + std::to_string(hora) +
              ",60,B8E7B8B8?9?0?0?0?0?0?0?0B8B8B8B8?0?0F8F8A7E7,";
     const double sol = std::max(0, 6 - std::abs(hora - 13));

@@ -25,7 +25,7 @@ template <typename Escribir>
 void RecorrerAnio(Escribir &&escribir) {
   PosicionSolar sol(LATITUD, 1, 1, 12.0F);
   for (int mes = 1; mes <= MESES; ++mes) {
-    for (int dia = 1; dia <= DIAS_DEL_MES[static_cast<std::size_t>(mes - 1)]; ++dia) {
+    for (int dia = 1; dia <= DiasDelMes(mes); ++dia) {
       for (int hora = 1; hora <= HORAS_DEL_DIA; ++hora) {
         escribir(mes, hora, sol.CalcularPosicion(LATITUD, mes, dia, static_cast<float>(hora) + 0.5F));
       }

@@ -167,7 +167,10 @@ private:
     };
     esquema.fecha = [posicion = 0, esNota](const CamposLinea &campos, FilaClima &fila) mutable {
       if (posicion >= HORAS_DEL_ANIO && esNota(campos)) return false;
-      FechaDePosicion(posicion++ % HORAS_DEL_ANIO, fila.mes, fila.dia, fila.hora);
+      const FechaHora fecha = FechaDeIndice(posicion++ % HORAS_DEL_ANIO);
+      fila.mes = fecha.mes;
+      fila.dia = fecha.dia;
+      fila.hora = fecha.hora;
       return true;
     };
   }

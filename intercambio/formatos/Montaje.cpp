@@ -3,9 +3,7 @@
 #include "core/Calendario.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <string_view>
 #include <tuple>
 
 namespace tesmo {
@@ -205,29 +203,8 @@ private:
 } // namespace
 
 int PosicionEtiqueta(int mes, int dia, int hora) {
-  if (mes < 1 || mes > 12 || hora < 1 || hora > HORAS_DEL_DIA) return -1;
-  if (dia < 1 || dia > DIAS_DEL_MES[static_cast<std::size_t>(mes - 1)]) return -1;
-  return (DiaDelAnio(mes, dia) - 1) * HORAS_DEL_DIA + hora - 1;
-}
-
-void FechaDePosicion(int posicion, int &mes, int &dia, int &hora) {
-  const int diaDelAnio = posicion / HORAS_DEL_DIA; // desde 0
-  const auto *siguiente = std::upper_bound(DIAS_ANTES_DEL_MES.begin(), DIAS_ANTES_DEL_MES.end(), diaDelAnio);
-  mes = static_cast<int>(siguiente - DIAS_ANTES_DEL_MES.begin());
-  dia = diaDelAnio - *(siguiente - 1) + 1;
-  hora = posicion % HORAS_DEL_DIA + 1;
-}
-
-std::string TextoHora(int posicion) {
-  constexpr std::array<std::string_view, 12> MESES{"enero",      "febrero", "marzo",     "abril",
-                                                   "mayo",       "junio",   "julio",     "agosto",
-                                                   "septiembre", "octubre", "noviembre", "diciembre"};
-  int mes = 0;
-  int dia = 0;
-  int hora = 0;
-  FechaDePosicion(posicion, mes, dia, hora);
-  return std::to_string(dia) + " de " + std::string(MESES[static_cast<std::size_t>(mes - 1)]) +
-         " a la hora " + std::to_string(hora);
+  if (mes < 1 || mes > static_cast<int>(MESES_DEL_ANIO) || hora < 1 || hora > HORAS_DEL_DIA) return -1;
+  return dia >= 1 && dia <= DiasDelMes(mes) ? IndiceHora(mes, dia, hora) : -1;
 }
 
 void MontarAnio(const std::vector<FilaClima> &filas, AnioCanonico &anio, Cuaderno &cuaderno) {

@@ -15,9 +15,5 @@ void MontarAnio(const std::vector<FilaClima> &filas, AnioCanonico &anio, Cuadern
 
 /// La posición de la etiqueta en el año, o −1 si la fecha no es del año de 365 días.
 [[nodiscard]] int PosicionEtiqueta(int mes, int dia, int hora);
-/// La etiqueta (mes, día y hora 1 a 24) de una posición del año, 0 a 8759.
-void FechaDePosicion(int posicion, int &mes, int &dia, int &hora);
-/// «3 de mayo a la hora 14» de una posición del año.
-[[nodiscard]] std::string TextoHora(int posicion);
 
 } // namespace tesmo

@@ -9,12 +9,12 @@
 namespace tesmo {
 
 /// Un valor por mes, enero primero.
-using ValoresMensuales = std::array<double, 12>;
+using ValoresMensuales = std::array<double, MESES_DEL_ANIO>;
 /// 365 valores, uno por día, y 8.760, uno por hora.
 using SerieDias = std::vector<double>;
 using SerieHoras = std::vector<double>;
 
-inline constexpr std::size_t MESES = 12;
+inline constexpr std::size_t MESES = MESES_DEL_ANIO;
 inline constexpr std::size_t DIAS = DIAS_DEL_ANIO;
 inline constexpr std::size_t HORAS = HORAS_DEL_ANIO;
 inline constexpr std::size_t HORAS_POR_DIA = HORAS_DEL_DIA;

@@ -46,7 +46,7 @@ PosicionEsperada Almanaque(double latitud, double delta, double hora) {
 template <typename Funcion>
 void ParaCadaDia(int paso, Funcion funcion) {
   for (int mes = 1; mes <= 12; ++mes) {
-    for (int dia = 1; dia <= DIAS_DEL_MES[static_cast<std::size_t>(mes - 1)]; dia += paso) {
+    for (int dia = 1; dia <= DiasDelMes(mes); dia += paso) {
       funcion(mes, dia, DeclinacionSpencer(DiaDelAnio(mes, dia)));
     }
   }

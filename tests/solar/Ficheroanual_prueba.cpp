@@ -25,7 +25,7 @@ std::string ConPrintf(float latitud) {
   std::string texto = linea.data();
   PosicionSolar sol(latitud, 1, 1, 12.0F);
   for (int m = 1; m <= 12; ++m) {
-    for (int d = 1; d <= DIAS_DEL_MES[static_cast<std::size_t>(m - 1)]; ++d) {
+    for (int d = 1; d <= DiasDelMes(m); ++d) {
       for (int h = 1; h <= 24; ++h) {
         const AngulosSolares a = sol.CalcularPosicion(latitud, m, d, static_cast<float>(h) + 0.5F);
         std::snprintf(linea.data(), linea.size(), "%d %d %d %f %f %f\n", m, h, h,
@@ -65,7 +65,7 @@ TEST(Ficheroanual, ElDiaNoSeEscribe) {
   std::string linea;
   std::getline(lineas, linea);
   for (int m = 1; m <= 12; ++m) {
-    for (int d = 1; d <= DIAS_DEL_MES[static_cast<std::size_t>(m - 1)]; ++d) {
+    for (int d = 1; d <= DiasDelMes(m); ++d) {
       for (int h = 1; h <= 24; ++h) {
         ASSERT_TRUE(std::getline(lineas, linea));
         const std::string comienzo =

@@ -23,7 +23,7 @@ protected:
     PosicionSolar sol(LATITUD, 1, 1, 12.0F);
     std::size_t i = 0;
     for (int mes = 1; mes <= 12; ++mes) {
-      for (int dia = 1; dia <= DIAS_DEL_MES[static_cast<std::size_t>(mes - 1)]; ++dia) {
+      for (int dia = 1; dia <= DiasDelMes(mes); ++dia) {
         for (int h = 1; h <= HORAS_DEL_DIA; ++h, ++i) PonHora(sol, mes, dia, h, i);
       }
     }

@@ -41,7 +41,7 @@ TEST(Influenciahorizonte, SinHorizonteNoSePierdeNada) {
   int deSol = 0;
   PosicionSolar sol(36.84F, 1, 1, 12.0F);
   for (int mes = 1; mes <= 12; ++mes) {
-    for (int dia = 1; dia <= DIAS_DEL_MES[static_cast<std::size_t>(mes - 1)]; ++dia) {
+    for (int dia = 1; dia <= DiasDelMes(mes); ++dia) {
       for (int h = 1; h <= 24; ++h) {
         sol.CalcularPosicion(36.84F, mes, dia, static_cast<float>(h) - 0.5F);
         deSol += sol.EsDeDia() ? 1 : 0;
@@ -70,7 +70,7 @@ TEST(Influenciahorizonte, SePierdenLasHorasPorDebajoDelMuro) {
   int esperadas = 0;
   PosicionSolar sol(36.84F, 1, 1, 12.0F);
   for (int mes = 1; mes <= 12; ++mes) {
-    for (int dia = 1; dia <= DIAS_DEL_MES[static_cast<std::size_t>(mes - 1)]; ++dia) {
+    for (int dia = 1; dia <= DiasDelMes(mes); ++dia) {
       for (int h = 1; h <= 24; ++h) {
         const AngulosSolares a = sol.CalcularPosicion(36.84F, mes, dia, static_cast<float>(h) - 0.5F);
         esperadas += sol.EsDeDia() && a.altura < ALTURA ? 1 : 0;

@@ -17,7 +17,6 @@ namespace tesmo {
 
 namespace {
 
-constexpr int MESES_DEL_ANIO = 12;
 constexpr int MAXIMO_DIA = 31;
 /// Columnas de la rejilla del lugar (dos selectores y latitud) y de la del período (rótulo y tres casillas
 /// por extremo, y botón, con huecos entre medias).
@@ -119,7 +118,7 @@ PanelSeleccion::Extremo PanelSeleccion::CrearExtremo(QGridLayout &rejilla, int c
   auto *rotulo = new QLabel(titulo, this);
   rejilla.addWidget(rotulo, 1, columna);
   const Extremo extremo{
-      CrearCasilla(QStringLiteral("csMes") + sufijo, MESES_DEL_ANIO, tr("Mes, de 1 a 12")),
+      CrearCasilla(QStringLiteral("csMes") + sufijo, static_cast<int>(MESES_DEL_ANIO), tr("Mes, de 1 a 12")),
       CrearCasilla(QStringLiteral("csDia") + sufijo, MAXIMO_DIA, tr("Día del mes")),
       CrearCasilla(QStringLiteral("csHor") + sufijo, HORAS_DEL_DIA, tr("Hora del día, de 1 a 24"))};
   rotulo->setBuddy(extremo.mes);

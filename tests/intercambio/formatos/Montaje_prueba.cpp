@@ -30,13 +30,9 @@ TEST(Montaje, LaPosicionDeUnaEtiqueta) {
 
 TEST(Montaje, LaEtiquetaDeUnaPosicion) {
   for (const int posicion : {0, 743, 744, 1415, 1416, 8759}) {
-    int mes = 0;
-    int dia = 0;
-    int hora = 0;
-    FechaDePosicion(posicion, mes, dia, hora);
-    EXPECT_EQ(PosicionEtiqueta(mes, dia, hora), posicion);
+    const FechaHora fecha = FechaDeIndice(posicion);
+    EXPECT_EQ(PosicionEtiqueta(fecha.mes, fecha.dia, fecha.hora), posicion);
   }
-  EXPECT_EQ(TextoHora(1415), "28 de febrero a la hora 24");
 }
 
 TEST(Montaje, El29DeFebreroSeRechazaConSusLineas) {
