@@ -45,10 +45,6 @@ struct CurvasDeLosMeses {
   std::string_view orden; ///< los nombres de los meses, de la curva más alta a la más baja
 };
 
-/// Títulos de las curvas de los meses.
-inline constexpr std::array<std::string_view, MESES_DEL_ANIO> NOMBRES_DE_MESES{
-    "Ene", "Feb", "Mar", "Abr", "May", "Jun", "Jul", "Ago", "Sep", "Oct", "Nov", "Dic"};
-
 /// La curva va desde una centésima de hora después de la salida hasta la puesta, de centésima en centésima,
 /// con t sumada en 32 bits; sin salida no hay puntos. Una hora en punto entra si cae entre las dos, aunque la
 /// tolerancia de la salida la haga de noche.

@@ -4,7 +4,6 @@
 #include "intercambio/sintesis/Perfilmensual.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tesmo {
 
@@ -55,20 +54,6 @@ std::string Cuantas(std::size_t n, std::string_view uno, std::string_view varios
 }
 
 std::string Cifra(double valor, std::string_view patron) { return FormatearPatron(valor, patron); }
-
-std::string_view NombreMes(std::size_t mes) {
-  static constexpr std::array<std::string_view, MESES> NOMBRES{
-      "enero", "febrero", "marzo",      "abril",   "mayo",      "junio",
-      "julio", "agosto",  "septiembre", "octubre", "noviembre", "diciembre"};
-  return NOMBRES[mes];
-}
-
-std::string Fecha(std::size_t hora) {
-  const std::size_t dia = hora / HORAS_POR_DIA;
-  const std::size_t mes = MesDe(dia);
-  return std::to_string(dia - PrimerDiaDe(mes) + 1) + " de " + std::string(NombreMes(mes)) + ", hora " +
-         std::to_string(hora % HORAS_POR_DIA + 1);
-}
 
 bool Trae(const MateriaAuditoria &materia, Campo campo) {
   const std::vector<double> &valores = Valores(materia, campo);

@@ -39,10 +39,6 @@ using HorasMalas = std::vector<std::size_t>;
 [[nodiscard]] inline std::string Cuantas(std::size_t n) { return Cuantas(n, "hora", "horas"); }
 /// @p valor con el separador regional y el patrón de cifras dado.
 [[nodiscard]] std::string Cifra(double valor, std::string_view patron = "0.0");
-/// "3 de enero, hora 14" de una hora del año.
-[[nodiscard]] std::string Fecha(std::size_t hora);
-/// Nombre de un mes, de 0 a 11, en minúsculas.
-[[nodiscard]] std::string_view NombreMes(std::size_t mes);
 
 /// Valores de un campo.
 [[nodiscard]] inline const std::vector<double> &Valores(const MateriaAuditoria &materia, Campo campo) {

@@ -74,7 +74,7 @@ public:
 
 private:
   void Anadir(std::size_t mes, const std::string &texto) {
-    texto_ += (texto_.empty() ? "" : "; ") + std::string(NombreMes(mes)) + ": " + texto;
+    texto_ += (texto_.empty() ? "" : "; ") + std::string(NombreMes(static_cast<int>(mes) + 1)) + ": " + texto;
     ++numero_;
   }
   std::string texto_;

@@ -64,7 +64,7 @@ Hallazgo MirarSensoresParados(const MateriaAuditoria &materia) {
     texto += (texto.empty() ? "" : "; ") + std::string(NombreCampo(plazo.campo)) +
              (siempre ? ": no cambia en todo el año"
                       : ": " + Cuantas(horas.size()) + " en tramos de más de " + std::to_string(plazo.horas) +
-                            " iguales, el primero el " + Fecha(horas.front()));
+                            " iguales, el primero el " + TextoHora(static_cast<int>(horas.front())));
     malas.insert(malas.end(), horas.begin(), horas.end());
   }
   if (malas.empty()) return hallazgo;

@@ -80,7 +80,8 @@ Hallazgo MirarDia(const MateriaAuditoria &materia) {
     const bool grave = static_cast<double>(malas.size()) > PARTE_GRAVE * static_cast<double>(altas.size());
     gravedad = std::max(gravedad, grave ? Gravedad::Grave : Gravedad::Aviso);
     texto += (texto.empty() ? "" : "; ") + std::string(que) + ": " + Cuantas(malas.size()) + " de " +
-             std::to_string(altas.size()) + " con el sol a más de 11°, la primera el " + Fecha(malas.front());
+             std::to_string(altas.size()) + " con el sol a más de 11°, la primera el " +
+             TextoHora(static_cast<int>(malas.front()));
     todas.insert(todas.end(), malas.begin(), malas.end());
   };
   apuntar("sin radiación", SinGlobal(materia, altas));

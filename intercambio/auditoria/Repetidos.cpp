@@ -44,6 +44,8 @@ HorasMalas HorasRepetidas(const Huella &huella, std::size_t mes, std::size_t otr
   return repetidas;
 }
 
+std::string Nombre(std::size_t mes) { return std::string(NombreMes(static_cast<int>(mes) + 1)); }
+
 } // namespace
 
 Hallazgo MirarMesesRepetidos(const MateriaAuditoria &materia) {
@@ -60,8 +62,7 @@ Hallazgo MirarMesesRepetidos(const MateriaAuditoria &materia) {
       const auto todas = static_cast<double>(DiasDe(mes) * HORAS_POR_DIA);
       if (static_cast<double>(horas.size()) < PARTE * todas) continue;
       malas.insert(malas.end(), horas.begin(), horas.end());
-      texto += (texto.empty() ? "" : "; ") + std::string(NombreMes(mes)) + " repite " +
-               std::string(NombreMes(otro));
+      texto += (texto.empty() ? "" : "; ") + Nombre(mes) + " repite " + Nombre(otro);
       break;
     }
   }

@@ -1,17 +1,14 @@
 #include "intercambio/reloj/Textoreloj.h"
 
+#include "core/Calendario.h"
 #include "core/Formato.h"
 
-#include <array>
 #include <cmath>
 
 namespace tesmo {
 
 namespace {
 
-constexpr std::array<const char *, 12> NOMBRES_DE_MES{"enero",      "febrero", "marzo",     "abril",
-                                                      "mayo",       "junio",   "julio",     "agosto",
-                                                      "septiembre", "octubre", "noviembre", "diciembre"};
 constexpr double MINUTOS_POR_HORA = 60.0;
 
 std::string ConSigno(double valor, const char *patron) {
@@ -91,7 +88,7 @@ void AvisarDeMeses(VeredictoReloj &veredicto, const std::vector<int> &meses) {
   for (const int mes : meses) {
     const auto m = static_cast<std::size_t>(mes);
     const double desvio = veredicto.desfasePorMes[m] - veredicto.desfaseHallado;
-    texto += std::string(mes == meses.front() ? " " : ", ") + NOMBRES_DE_MES[m] + " (" +
+    texto += std::string(mes == meses.front() ? " " : ", ") + std::string(NombreMes(mes + 1)) + " (" +
              ConSigno(desvio, "0") + " min)";
   }
   veredicto.avisos.push_back(texto +

@@ -164,7 +164,7 @@ TEST(Curvassol, ElOrdenDelNorteEsElDeLasAlturas) {
   for (std::size_t i = 0; i < 12; ++i) {
     const std::string_view nombre = curvas.orden.substr(4 * i, 3);
     for (std::size_t m = 0; m < 12; ++m) {
-      if (NOMBRES_DE_MESES[m] != nombre) continue;
+      if (ConMayuscula(MesCorto(static_cast<int>(m) + 1)) != nombre) continue;
       const auto &mediodia = curvas.horas[12];
       ASSERT_EQ(mediodia[m].mes, static_cast<int>(m) + 1);
       EXPECT_LT(mediodia[m].punto.altura, anterior) << nombre;

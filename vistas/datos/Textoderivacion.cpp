@@ -1,7 +1,7 @@
 #include "vistas/datos/Textoderivacion.h"
 
+#include "core/Calendario.h"
 #include "core/Formato.h"
-#include "vistas/comun/Meses.h"
 
 namespace tesmo {
 
@@ -32,14 +32,12 @@ std::string Meses(const MesesDeTemporada &temporada) {
   for (std::size_t i = 0; i < temporada.size(); ++i) {
     if (temporada[i] != 1) continue;
     if (!texto.empty()) texto += ' ';
-    texto += MESES_ABREVIADOS[i];
+    texto += ConMayuscula(MesCorto(static_cast<int>(i) + 1));
   }
   return texto;
 }
 
-std::string_view Mes(const AjustesEstacion &ajustes) {
-  return NOMBRES_DE_MES[extremos::PosicionDeMes(ajustes.mes)];
-}
+std::string Mes(const AjustesEstacion &ajustes) { return ConMayuscula(NombreMes(ajustes.mes)); }
 
 /// Las filas cuyos valores son números de la traza.
 std::string Cifras(const TrazaEstacion &cal, const TrazaEstacion &ref) {

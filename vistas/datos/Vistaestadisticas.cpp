@@ -3,13 +3,13 @@
 #include "app/Accion.h"
 #include "app/Carga.h"
 #include "app/Programa.h"
+#include "core/Calendario.h"
 #include "core/Formato.h"
 #include "meteo/Leermet.h"
 #include "vistas/comun/Cursorocupado.h"
-#include "vistas/comun/Meses.h"
-#include "vistas/datos/Paginaestadisticas.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/datos/Paginaestadisticas.h"
 
 #include <QPointer>
 
@@ -48,10 +48,7 @@ Cifras Textos(Magnitud magnitud, const ResultadoEstadisticas &r) {
 
 QString TextoFecha(const std::optional<FechaHora> &fecha) {
   if (!fecha) return {};
-  return QObject::tr("%1 de %2, hora %3")
-      .arg(fecha->dia)
-      .arg(Texto(NOMBRES_DE_MES.at(static_cast<std::size_t>(fecha->mes - 1))).toLower())
-      .arg(fecha->hora);
+  return QObject::tr("%1 de %2, hora %3").arg(fecha->dia).arg(Texto(NombreMes(fecha->mes))).arg(fecha->hora);
 }
 
 QString TextoFechaEnElMes(const std::optional<FechaHora> &fecha) {
@@ -61,7 +58,7 @@ QString TextoFechaEnElMes(const std::optional<FechaHora> &fecha) {
 
 QStringList FilaDelMes(Magnitud magnitud, const EstadisticasDelMes &mes) {
   const ResultadoEstadisticas &r = mes.resultado;
-  QStringList fila{Texto(NOMBRES_DE_MES.at(static_cast<std::size_t>(mes.mes - 1)))};
+  QStringList fila{Texto(ConMayuscula(NombreMes(mes.mes)))};
   const Cifras textos = Textos(magnitud, r);
   const auto texto = [&](std::size_t i) { return r.horas > 0 ? textos[i] : NADA; };
   fila << texto(0) << TextoFechaEnElMes(r.fechaMaximo) << texto(1) << TextoFechaEnElMes(r.fechaMinimo)

@@ -1,6 +1,6 @@
 #include "vistas/extremos/Paginadiasextremos.h"
 
-#include "vistas/comun/Meses.h"
+#include "core/Calendario.h"
 #include "vistas/comun/Textoqt.h"
 
 #include <QCheckBox>
@@ -67,7 +67,8 @@ QLabel *PaginaDiasExtremos::CrearRotulo(Ajuste ajuste, const QString &nombre, co
 QComboBox *PaginaDiasExtremos::CrearMeses(const QString &nombre) {
   auto *lista = new QComboBox;
   lista->setObjectName(nombre);
-  for (const std::string_view mes : NOMBRES_DE_MES) lista->addItem(Texto(mes));
+  for (int mes = 1; mes <= static_cast<int>(MESES_DEL_ANIO); ++mes)
+    lista->addItem(Texto(ConMayuscula(NombreMes(mes))));
   lista->setMaxVisibleItems(lista->count());
   return lista;
 }
@@ -115,14 +116,15 @@ QWidget *PaginaDiasExtremos::CrearTemporada(Estacion estacion, const QString &ti
   auto *rejilla = new QGridLayout(grupo);
   rejilla->setHorizontalSpacing(MARGEN);
   const std::size_t cual = Sitio(estacion);
-  for (std::size_t i = 0; i < MESES_ABREVIADOS.size(); ++i) {
+  for (std::size_t i = 0; i < MESES_DEL_ANIO; ++i) {
     const int columna = static_cast<int>(i);
-    auto *rotulo = new QLabel(Texto(MESES_ABREVIADOS[i]));
+    const QString nombre = Texto(ConMayuscula(NombreMes(columna + 1)));
+    auto *rotulo = new QLabel(Texto(ConMayuscula(MesCorto(columna + 1))));
     rotulo->setObjectName(QStringLiteral("Label%1").arg(PRIMER_ROTULO[cual] + columna));
     auto *casilla = new QCheckBox;
     casilla->setObjectName(QStringLiteral("CheckBox%1").arg(PRIMERA_CASILLA[cual] + columna));
-    casilla->setAccessibleName(titulo + QStringLiteral(": ") + Texto(NOMBRES_DE_MES[i]));
-    casilla->setToolTip(Texto(NOMBRES_DE_MES[i]));
+    casilla->setAccessibleName(titulo + QStringLiteral(": ") + nombre);
+    casilla->setToolTip(nombre);
     rotulo->setBuddy(casilla);
     rejilla->setColumnMinimumWidth(columna, ANCHO_MES);
     rejilla->addWidget(rotulo, 0, columna, Qt::AlignHCenter);

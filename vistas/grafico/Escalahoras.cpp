@@ -3,19 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <string_view>
 
 namespace tesmo {
 
 namespace {
 
 using Unidad = PasoHoras::Unidad;
-
-constexpr std::array<std::string_view, 12> MESES_CORTOS{"ene", "feb", "mar", "abr", "may", "jun",
-                                                        "jul", "ago", "sep", "oct", "nov", "dic"};
-constexpr std::array<std::string_view, 12> MESES{"enero",      "febrero", "marzo",     "abril",
-                                                 "mayo",       "junio",   "julio",     "agosto",
-                                                 "septiembre", "octubre", "noviembre", "diciembre"};
 
 /// De la más fina a la más gruesa.
 constexpr std::array<PasoHoras, 13> PASOS{{{Unidad::Hora, 1},
@@ -65,7 +58,7 @@ bool EsMarca(const FechaHora &fecha, const PasoHoras &paso) {
 std::string FechaCorta(const FechaHora &fecha, bool conHora) {
   std::string texto = std::to_string(fecha.dia);
   texto += ' ';
-  texto += MESES_CORTOS[static_cast<std::size_t>(fecha.mes - 1)];
+  texto += MesCorto(fecha.mes);
   if (conHora) texto += " " + std::to_string(fecha.hora) + " h";
   return texto;
 }
@@ -140,8 +133,8 @@ double EscalaHoras::Ajustar(double x) const {
 std::string EscalaHoras::Nombrar(double x) const {
   const int k = static_cast<int>(Ajustar(x));
   const FechaHora fecha = Fecha(k);
-  return std::to_string(fecha.dia) + " de " + std::string(MESES[static_cast<std::size_t>(fecha.mes - 1)]) +
-         ", hora " + std::to_string(fecha.hora) + " (hora " + std::to_string(k) + " del período)";
+  return std::to_string(fecha.dia) + " de " + std::string(NombreMes(fecha.mes)) + ", hora " +
+         std::to_string(fecha.hora) + " (hora " + std::to_string(k) + " del período)";
 }
 
 std::vector<std::string> EscalaHoras::Encabezamientos() const { return {"n", "mes", "dia", "hora"}; }

@@ -4,7 +4,6 @@
 #include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 #include "vistas/comun/Casillanumero.h"
-#include "vistas/comun/Meses.h"
 #include "vistas/comun/Textoqt.h"
 #include "vistas/intercambio/Dibujoreloj.h"
 
@@ -51,7 +50,7 @@ bool MismoReloj(const RelojFichero &uno, const RelojFichero &otro) {
 QString DiaDelAnioTexto(std::size_t dia) {
   const std::size_t mes = MesDe(dia);
   return QStringLiteral("%1 de %2")
-      .arg(QString::number(dia - PrimerDiaDe(mes) + 1), Texto(NOMBRES_DE_MES[mes]).toLower());
+      .arg(QString::number(dia - PrimerDiaDe(mes) + 1), Texto(NombreMes(static_cast<int>(mes) + 1)));
 }
 
 } // namespace

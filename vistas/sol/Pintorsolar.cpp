@@ -93,7 +93,8 @@ void RotularMeses(QPainter &pintor, const EscalaSolar &escala, const ContenidoSo
     if (punto == nullptr) continue;
     pintor.setPen(Color(colores[m].color).darker(130));
     Rotular(pintor, escala.Sitio(punto->acimut, punto->altura),
-            m < MESES_DEL_ANIO / 2 ? Qt::AlignLeft : Qt::AlignRight, Texto(NOMBRES_DE_MESES[m]));
+            m < MESES_DEL_ANIO / 2 ? Qt::AlignLeft : Qt::AlignRight,
+            Texto(ConMayuscula(MesCorto(static_cast<int>(m) + 1))));
   }
 }
 
