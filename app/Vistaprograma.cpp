@@ -77,7 +77,7 @@ std::unique_ptr<Vistapsicrometrico> VistaPrograma::CrearVistaPsicrometrico() {
   }
   return std::make_unique<Vistapsicrometrico>(
       pagina, formulario_->DamePanel(), *this, seleccion_,
-      Vistapsicrometrico::Ventana{[this] { return LeerDatos(); }, [this] { CambiarAltitud(); }});
+      Vistapsicrometrico::Ventana{[this] { return LeerOtraVez(); }, [this] { CambiarAltitud(); }});
 }
 
 VistaPrograma::~VistaPrograma() {
@@ -181,6 +181,12 @@ bool VistaPrograma::LeerDatos() {
     formulario_->DamePaginaEstadisticas().Vaciar({});
   }
   return resultado == ResultadoCarga::Cargada;
+}
+
+bool VistaPrograma::LeerOtraVez() {
+  if (!LeerDatos()) return false;
+  if (!DameLeerMet()->Resumen().Completa()) DecirCarga();
+  return true;
 }
 
 bool VistaPrograma::Cargar() {

@@ -82,6 +82,8 @@ private:
   void OfrecerImportar() const;
   /// El camino de carga; si el fichero no se puede abrir, las pestañas quedan sin lo que enseñaban.
   bool LeerDatos();
+  /// LeerDatos; de lo leído sólo se dice si no está entero.
+  bool LeerOtraVez();
   /// LeerDatos, la carta limpia y la línea de estado con lo leído.
   bool Cargar();
   void DecirCarga() const;

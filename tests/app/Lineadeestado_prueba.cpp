@@ -9,6 +9,8 @@
 #include <QStatusBar>
 #include <QStatusTipEvent>
 #include <QTabWidget>
+
+#include <filesystem>
 #include <optional>
 
 using namespace tesmo;
@@ -73,6 +75,28 @@ private slots:
     const QString dicho = Estado();
     Pestana("tsPosicionSolar"); // de la primera
     QCOMPARE(Estado(), dicho);
+  }
+
+  void representarDiceQueElFicheroYaNoEstaEntero_data() {
+    QTest::addColumn<QString>("fichero");
+    QTest::addColumn<QString>("leidas");
+    QTest::newRow("corto") << "Meteo/tarifa.met" << QString::number(DatosPrueba::REGISTROS_CORTADO);
+    QTest::newRow("ilegible") << "config.ini" << "0";
+  }
+  void representarDiceQueElFicheroYaNoEstaEntero() {
+    QFETCH(const QString, fichero);
+    QFETCH(const QString, leidas);
+    const Ventana ventana = marco_->Numero(0);
+    ventana.Localidad("Almería");
+    Pestana("tsPsicrometrico");
+    ventana.Pulsar("btnNubes");
+    QCOMPARE(Estado(), QString()); // entero: nada que decir
+    const DirectorioTemporal &directorio = marco_->datos.Directorio();
+    std::filesystem::copy_file(directorio / fichero.toStdString(), directorio / "Meteo/almeria.met",
+                               std::filesystem::copy_options::overwrite_existing);
+    ventana.Pulsar("btnNubes");
+    QVERIFY2(Estado().contains(QStringLiteral("Almería: sólo se pudieron leer %1 de las 8760").arg(leidas)),
+             qPrintable(Estado()));
   }
 
   void laCargaIncompletaSigueALaVistaAlCambiarDePestana() {
