@@ -2,6 +2,7 @@
 
 #include "solar/Soldeldia.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -18,9 +19,15 @@ constexpr double CENTESIMAS = 100.0;
 
 double ACentesimas(double valor) { return std::round(valor * CENTESIMAS) / CENTESIMAS; }
 
+/// Ángulo horario de la puesta [rad]: 0 si el sol no sale y π si no se pone, que en SalidaPuesta son horas de
+/// fuera del día.
+double AnguloDePuesta(const SalidaPuesta &sol) {
+  return sol.puesta > sol.salida ? std::min((12.0 - sol.salida) * pi / 12.0, pi) : 0.0;
+}
+
 /// Irradiación diaria horizontal fuera de la atmósfera [kWh/m²] (Duffie y Beckman, 1991, 1.10).
-double IrradiacionDiaria(std::size_t dia, double latitud, double declinacion, double salida) {
-  const double puesta = (12.0 - salida) * pi / 12.0;
+double IrradiacionDiaria(std::size_t dia, double latitud, double declinacion, const SalidaPuesta &sol) {
+  const double puesta = AnguloDePuesta(sol);
   const double f = latitud * GRADO;
   const double d = declinacion * GRADO;
   const double horas =
@@ -53,7 +60,7 @@ SolDelAnio CalcularSolDelAnio(double latitud) {
     const SolDelDia solDelDia(f, mes, diaDelMes);
     sol.salida[dia] = solDelDia.Horas().salida;
     const auto declinacion = static_cast<double>(DeclinacionSolar(mes, diaDelMes));
-    sol.extraterrestre[dia] = IrradiacionDiaria(dia, latitud, declinacion, sol.salida[dia]);
+    sol.extraterrestre[dia] = IrradiacionDiaria(dia, latitud, declinacion, solDelDia.Horas());
     for (std::size_t h = 0; h < HORAS_POR_DIA; ++h) {
       const PosicionDeVector posicion = solDelDia.En(static_cast<float>(CentroDeHora(h)));
       const std::size_t i = dia * HORAS_POR_DIA + h;

@@ -7,14 +7,14 @@ namespace tesmo {
 /// El sol de un sitio durante el año típico: tiempo solar verdadero, la hora i en su centro (i + 0,5 de cada
 /// día); es la geometría con que después se leen los datos.
 struct SolDelAnio {
-  SerieDias salida;         ///< hora de salida [h solar]; la puesta es 24 − salida
+  SerieDias salida; ///< hora de salida [h solar]; la puesta es 24 − salida; −1 si no sale o no se pone
   SerieDias extraterrestre; ///< irradiación diaria horizontal fuera de la atmósfera [kWh/m²]
   SerieHoras acimut;        ///< [°], 0 al sur, oeste positivo, en centésimas; 0 de noche
   SerieHoras cenit;         ///< [°], en centésimas; 90 de noche
   std::vector<bool> diurna; ///< el sol está sobre el horizonte en el centro de la hora
 };
 
-/// @p latitud en [°], de −60 a 60: más allá hay días sin sol.
+/// @p latitud en [°], de −90 a 90; los días en que el sol no sale no tienen irradiación.
 [[nodiscard]] SolDelAnio CalcularSolDelAnio(double latitud);
 
 /// Irradiancia fuera de la atmósfera sobre un plano normal al sol el @p dia del año (0 a 364) [W/m²]:

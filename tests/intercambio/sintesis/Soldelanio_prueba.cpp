@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <numeric>
 
 namespace tesmo {
 namespace {
@@ -11,6 +14,22 @@ TEST(SolDelAnio, LaIrradiacionExtraterrestreEsLaDelEjemploPublicado) {
   // Duffie y Beckman (1991), ejemplo 1.10.1: 43° N, 15 de abril, 33,8 MJ/m².
   const SolDelAnio sol = CalcularSolDelAnio(43.0);
   EXPECT_NEAR(sol.extraterrestre[104] * 3.6, 33.8, 0.05);
+}
+
+TEST(SolDelAnio, ElDiaYLaNochePolaresNoEnganan) {
+  // Los años de cada latitud [kWh/m²], de la integral hora a hora del coseno del cenit.
+  constexpr std::array<std::array<double, 2>, 5> CASOS{
+      {{69.65, 1710.0}, {71.3, 1673.0}, {78.2, 1561.0}, {80.0, 1544.0}, {-90.0, 1570.0}}};
+  for (const auto &[latitud, anual] : CASOS) {
+    const SerieDias dias = CalcularSolDelAnio(latitud).extraterrestre;
+    EXPECT_NEAR(std::accumulate(dias.begin(), dias.end(), 0.0), anual, 0.02 * anual) << latitud;
+    EXPECT_GE(*std::ranges::min_element(dias), 0.0) << latitud;
+  }
+  const SolDelAnio norte = CalcularSolDelAnio(71.0);
+  EXPECT_EQ(norte.extraterrestre[355], 0.0); // el 22 de diciembre no sale
+  // El 21 de junio no se pone: 24 h de sin φ · sin δ.
+  EXPECT_NEAR(norte.extraterrestre[171], 1367.0 * 0.9678 * 24.0 * 0.94552 * 0.39795 / 1000.0, 0.01);
+  EXPECT_EQ(CalcularSolDelAnio(-71.0).extraterrestre[171], 0.0);
 }
 
 TEST(SolDelAnio, LaTierraEstaMasCercaDelSolEnEnero) {
