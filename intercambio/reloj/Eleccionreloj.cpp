@@ -24,10 +24,11 @@ std::optional<double> DesfaseEnOtroTiempoCivil(const RelojFichero &reloj, Tiempo
 RelojFichero ElegirReloj(const VeredictoReloj &veredicto, const EleccionReloj &eleccion) {
   constexpr double FIN_DE_LA_HORA_MIN = -30.0; // lo corriente: la etiqueta es el final de su hora
   const RelojFichero &declarado = veredicto.declarado.reloj;
-  RelojFichero reloj = veredicto.confianza >= ConfianzaReloj::Media ? veredicto.propuesto.reloj : declarado;
+  const bool fiable = veredicto.confianza >= ConfianzaReloj::Media;
+  RelojFichero reloj = fiable ? veredicto.propuesto.reloj : declarado;
   if (eleccion.tiempo && *eleccion.tiempo != reloj.tiempo) {
     const std::optional<double> hallado =
-        veredicto.concuerda ? std::nullopt : DesfaseEnOtroTiempoCivil(reloj, *eleccion.tiempo);
+        fiable && !veredicto.concuerda ? DesfaseEnOtroTiempoCivil(reloj, *eleccion.tiempo) : std::nullopt;
     reloj = declarado;
     if (*eleccion.tiempo != declarado.tiempo) reloj.desfaseMin = hallado.value_or(FIN_DE_LA_HORA_MIN);
     reloj.tiempo = *eleccion.tiempo;

@@ -17,7 +17,8 @@ struct EleccionReloj {
 
 /// El reloj con que se convierte y se audita: sin elección, el que los datos dicen con confianza media o alta
 /// y, si no, el declarado. Un tiempo elegido lleva el desfase declarado si es el suyo y −30 min si no; pero
-/// de hora oficial a UTC, o al revés, si los datos desmienten lo declarado, el que dice lo mismo que ellos.
+/// de hora oficial a UTC, o al revés, si los datos desmienten lo declarado con confianza media o alta, el que
+/// dice lo mismo que ellos.
 [[nodiscard]] RelojFichero ElegirReloj(const VeredictoReloj &veredicto, const EleccionReloj &eleccion = {});
 
 } // namespace tesmo

@@ -229,6 +229,31 @@ TEST(ElegirReloj, EntreOficialYUtcSeTrasladaLoQueDicenLosDatos) {
   EXPECT_EQ(ElegirReloj(DetectarReloj(Anio(PENINSULA)), {.tiempo = TiempoEtiqueta::Utc}).desfaseMin, -30.0);
 }
 
+TEST(ElegirReloj, SinConfianzaNoHayQueTrasladar) {
+  // Los datos no desmienten nada: elegir UTC no puede ser lo mismo que no elegir.
+  for (const ConfianzaReloj confianza : {ConfianzaReloj::Ninguna, ConfianzaReloj::Baja}) {
+    VeredictoReloj veredicto;
+    veredicto.declarado.reloj = PENINSULA;
+    veredicto.propuesto.reloj = {TiempoEtiqueta::OficialEstandar, 1.0, 12.0};
+    veredicto.confianza = confianza;
+    EXPECT_EQ(ElegirReloj(veredicto, {.tiempo = TiempoEtiqueta::Utc}).desfaseMin, -30.0);
+    EXPECT_EQ(ElegirReloj(veredicto, {.tiempo = TiempoEtiqueta::Utc}).tiempo, TiempoEtiqueta::Utc);
+    veredicto.confianza = ConfianzaReloj::Media;
+    EXPECT_EQ(ElegirReloj(veredicto, {.tiempo = TiempoEtiqueta::Utc}).desfaseMin, -48.0);
+  }
+}
+
+TEST(ElegirReloj, UnAnioQueNoDiceNadaSeConvierteConLoElegido) {
+  AnioCanonico anio;
+  anio.sitio.latitud = 40.0;
+  anio.sitio.longitud = -3.7;
+  anio.reloj = PENINSULA;
+  const VeredictoReloj veredicto = DetectarReloj(anio);
+  ASSERT_EQ(veredicto.metodo, MetodoReloj::Ninguno);
+  const RelojFichero elegido{TiempoEtiqueta::Utc, PENINSULA.husoHoras, -30.0};
+  EXPECT_EQ(ElegirReloj(veredicto, {.tiempo = TiempoEtiqueta::Utc}), elegido);
+}
+
 TEST(DetectorReloj, SinSolConQueMedirSeQuedaConLoDeclarado) {
   AnioCanonico anio;
   anio.sitio.latitud = 40.0;
