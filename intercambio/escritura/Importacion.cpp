@@ -63,10 +63,9 @@ public:
         {ficha_.fichero, TextoDelMet()}, {nombreGdr_, TextoDeGdr()}, {nombreLista_, lista_.Contenido()}};
     if (!ConservarFuente()) return;
     resultado_.error = SustituirJuntos(directorio_, ficheros, tras);
+    AcabarConLaCopia();
     if (!resultado_.error.empty()) {
       resultado_.fallo = FalloImportacion::Salida;
-      std::error_code error;
-      if (!copia_.empty()) fs::remove(copia_, error); // la fuente sigue donde estaba
       return;
     }
     for (const FicheroConjunto &fichero : ficheros)
@@ -220,8 +219,18 @@ private:
     if (!contenido || !EscribirFicheroEntero(copia_, *contenido))
       return Fallar(FalloImportacion::Salida,
                     copia + ": no se puede escribir en " + TextoDeRuta(directorio_));
-    Avisar("el fichero leído es el que se escribe: el original queda en " + copia);
     return true;
+  }
+
+  /// La copia de la fuente sobra si nada se escribió ni queda pendiente de escribirse.
+  void AcabarConLaCopia() {
+    if (copia_.empty()) return;
+    const bool intacta =
+        !QuedanRestos(directorio_, {ficha_.fichero, nombreGdr_, nombreLista_}) &&
+        LeerFicheroEntero(directorio_ / RutaDesdeTexto(ficha_.fichero)) == LeerFicheroEntero(copia_);
+    std::error_code error;
+    if (!resultado_.error.empty() && intacta && fs::remove(copia_, error)) return;
+    Avisar("el fichero leído es el que se escribe: el original queda en " + TextoDeRuta(copia_.filename()));
   }
 
   [[nodiscard]] std::string TextoDelMet() const {

@@ -164,6 +164,62 @@ TEST_F(Importacion, SiNoSePuedeEscribirNoQuedaNiLaCopiaDelOriginal) {
   EXPECT_EQ(Leer("Rota.met"), "trece columnas");
 }
 
+/// Pone en lugar del fichero @p ruta un directorio con algo dentro: ni se puede cambiar ni escribir.
+void HacerDirectorio(const fs::path &ruta) {
+  fs::remove(ruta);
+  fs::create_directories(ruta / "algo");
+}
+
+/// El .met de la base que se importa sobre sí mismo.
+class ImportacionSobreSi : public Importacion {
+protected:
+  void SetUp() override {
+    ASSERT_EQ(Importar("Rota").error, "");
+    peticion_.fuente = raiz_.Escribir("Rota.met", FUENTE);
+  }
+  ResultadoImportacion ConEstropicio(const TrasPaso &tras) {
+    return ImportarLocalidad(raiz_.Ruta().string(), peticion_, anio_, tras);
+  }
+  static constexpr const char *FUENTE = "trece columnas";
+  static constexpr const char *DIARIO = ".tesmo-importacion";
+  PeticionImportacion peticion_{"Rota", "Granada", "", "", true};
+};
+
+TEST_F(ImportacionSobreSi, SiNoSePuedeReponerLaFuenteSuCopiaSeQueda) {
+  const ResultadoImportacion hecho = ConEstropicio([this] {
+    if (Leer("Rota.met") == FUENTE || fs::is_directory(raiz_ / "GDR.TXT")) return;
+    HacerDirectorio(raiz_ / "GDR.TXT");
+    HacerDirectorio(raiz_ / DIARIO);
+  });
+  EXPECT_EQ(hecho.fallo, FalloImportacion::Salida);
+  ASSERT_NE(Leer("Rota.met"), FUENTE);
+  EXPECT_EQ(Leer("Rota.met.original"), FUENTE);
+  ASSERT_EQ(hecho.avisos.size(), 1U);
+  EXPECT_NE(hecho.avisos[0].find("el original queda en Rota.met.original"), std::string::npos);
+}
+
+TEST_F(ImportacionSobreSi, ConUnDiarioPendienteLaCopiaSeQueda) {
+  const ResultadoImportacion hecho = ConEstropicio([this] {
+    if (!fs::is_regular_file(raiz_ / DIARIO)) return;
+    HacerDirectorio(raiz_ / (std::string(DIARIO) + "-0.nuevo"));
+    HacerDirectorio(raiz_ / DIARIO);
+  });
+  EXPECT_EQ(hecho.fallo, FalloImportacion::Salida);
+  ASSERT_EQ(Leer("Rota.met"), FUENTE);
+  EXPECT_EQ(Leer("Rota.met.original"), FUENTE); // lo pendiente puede acabar y cambiar la fuente
+}
+
+TEST_F(ImportacionSobreSi, RepuestaLaFuenteSobranLaCopiaYSuAviso) {
+  const ResultadoImportacion hecho = ConEstropicio([this] {
+    if (Leer("Rota.met") != FUENTE && !fs::is_directory(raiz_ / "GDR.TXT"))
+      HacerDirectorio(raiz_ / "GDR.TXT");
+  });
+  EXPECT_EQ(hecho.fallo, FalloImportacion::Salida);
+  EXPECT_EQ(Leer("Rota.met"), FUENTE);
+  EXPECT_EQ(EnElDirectorio(), (std::vector<std::string>{"GDR.TXT", "LocalidadesCC", "Rota.met"}));
+  EXPECT_TRUE(hecho.avisos.empty());
+}
+
 TEST_F(Importacion, LaReemplazadaNoPisaElFicheroQueComparte) {
   raiz_.Escribir("LocalidadesCC",
                  "2\nRota,rt,Cádiz,c,r,j.met,1,2,3,4,0\nJerez,jz,Cádiz,c,r,J.met,1,2,3,4,0\n");
