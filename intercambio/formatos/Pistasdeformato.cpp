@@ -56,6 +56,17 @@ bool EsRegistroDeEpw(std::string_view linea) {
          !LeerNumero(campos[DE_FECHA]);
 }
 
+/// ¿Es @p linea de la cabecera de un EPW, pero no la primera?
+bool EsCabeceraDeEpw(std::string_view linea) {
+  constexpr std::array<std::string_view, 7> CLAVES{"design conditions",   "typical/extreme periods",
+                                                   "ground temperatures", "holidays/daylight saving",
+                                                   "comments 1",          "comments 2",
+                                                   "data periods"};
+  const std::string_view clave = linea.substr(0, linea.find(','));
+  return clave.size() < linea.size() &&
+         std::ranges::any_of(CLAVES, [clave](std::string_view otra) { return Contiene(clave, otra); });
+}
+
 /// ¿Es @p linea un registro de un .met de trece o de quince columnas?
 bool EsRegistroDeMet(std::string_view linea) {
   constexpr std::size_t TRECE = 13;
@@ -111,7 +122,7 @@ std::string PistaDeFormato(std::string_view texto) {
            "altitud, "
            "con comas; añádala";
   }
-  if (EsRegistroDeEpw(segunda))
+  if (EsRegistroDeEpw(segunda) || EsCabeceraDeEpw(primera))
     return "parece un EPW sin su primera línea, «LOCATION,…», que da el sitio y el huso; añádala";
   if (EsRegistroDeMet(segunda)) {
     return "parece un .met sin sus dos primeras líneas: un título, y latitud, longitud, altitud y meridiano "

@@ -125,6 +125,17 @@ TEST(Reconocimiento, UnMetSinCabeceraNoTomaUnRegistroPorElSitio) {
   }
 }
 
+TEST(Reconocimiento, UnEpwAlQueSoloLeFaltaLocationLoDice) {
+  for (std::size_t quitadas = 1; quitadas < CABECERA_EPW; ++quitadas) {
+    LineasFichero lineas = LineasEpw();
+    lineas.erase(lineas.begin(), lineas.begin() + static_cast<std::ptrdiff_t>(quitadas));
+    const ResultadoLectura resultado = LeerTextoClima(Unir(lineas));
+    ASSERT_EQ(resultado.errores.size(), 1U) << lineas[0];
+    EXPECT_NE(resultado.errores[0].texto.find("«LOCATION,…»"), std::string::npos)
+        << lineas[0] << ": " << resultado.errores[0].texto;
+  }
+}
+
 TEST(Reconocimiento, LoQueSeDescargaSinQuererSeDiceQueEs) {
   const std::vector<std::array<std::string, 2>> casos{
       {std::string("PK\x03\x04", 4) + "resto", "ZIP"},
