@@ -47,7 +47,7 @@ private:
     if (porHora < 2 && registros < 2 * HORAS_DEL_ANIO) return false;
     cuaderno_.Error({.clase = ClaseNota::SobranRegistros,
                      .linea = filas_.front().linea,
-                     .veces = registros - HORAS_DEL_ANIO,
+                     .veces = registros - (porHora < 2 ? HORAS_DEL_ANIO : registros / porHora),
                      .texto = porHora < 2
                                   ? "hay " + std::to_string(registros) + " líneas de datos y un año tiene " +
                                         std::to_string(HORAS_DEL_ANIO) +

@@ -140,6 +140,18 @@ TEST(Montaje, UnaFechaImposibleDejaSuHoraSinRegistro) {
   EXPECT_EQ((*resultado.anio)[Campo::TemperaturaSeca].procedencias[70], Procedencia::Calculada);
 }
 
+TEST(Montaje, DeUnaSemanaDeMediasHorasSobraLaMitad) {
+  const LineasFichero horarias = LineasEpw();
+  LineasFichero lineas(horarias.begin(), horarias.begin() + CABECERA_EPW);
+  constexpr int HORAS_DE_LA_SEMANA = 168;
+  for (int i = 0; i < HORAS_DE_LA_SEMANA; ++i)
+    lineas.insert(lineas.end(), 2, horarias[static_cast<std::size_t>(CABECERA_EPW + i)]);
+  const ResultadoLectura resultado = Leer(lineas);
+  ASSERT_EQ(resultado.errores.size(), 1U) << Textos(resultado.errores);
+  EXPECT_EQ(resultado.errores[0].clase, ClaseNota::SobranRegistros);
+  EXPECT_EQ(resultado.errores[0].veces, HORAS_DE_LA_SEMANA);
+}
+
 TEST(Montaje, VariosRegistrosPorHoraSonUnSoloError) {
   for (const int porHora : {2, 4, 6, 12}) {
     const LineasFichero horarias = LineasEpw();
