@@ -19,9 +19,12 @@ constexpr std::array<Acento, 7> ACENTOS{{{0x80, "AEIOU", "\x80\x88\x8C\x92\x99"}
                                          {0x81, "AEIOUY", "\x81\x89\x8D\x93\x9A\x9D"},
                                          {0x82, "AEIOU", "\x82\x8A\x8E\x94\x9B"},
                                          {0x83, "ANO", "\x83\x91\x95"},
-                                         {0x88, "AEIOU", "\x84\x8B\x8F\x96\x9C"},
+                                         {0x88, "AEIOUY", "\x84\x8B\x8F\x96\x9C\x9F"},
                                          {0x8A, "A", "\x85"},
                                          {0xA7, "C", "\x87"}}};
+
+/// La Y con diéresis no está entre las mayúsculas: en su sitio va la ß, pero la minúscula sale de él.
+constexpr char SITIO_DE_Y_CON_DIERESIS = '\x9F';
 
 /// El segundo byte de @p letra con el acento @p segundo; 0 si no hay tal letra.
 char Compuesta(char letra, unsigned char segundo) {
@@ -31,6 +34,7 @@ char Compuesta(char letra, unsigned char segundo) {
   for (const Acento &acento : ACENTOS) {
     const std::size_t sitio = acento.segundo == segundo ? acento.letras.find(mayuscula) : std::string::npos;
     if (sitio == std::string::npos) continue;
+    if (!minuscula && acento.compuestas[sitio] == SITIO_DE_Y_CON_DIERESIS) return 0;
     return static_cast<char>(acento.compuestas[sitio] + (minuscula ? A_MINUSCULA : 0));
   }
   return 0;

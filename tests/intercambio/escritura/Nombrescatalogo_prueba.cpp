@@ -44,6 +44,8 @@ TEST(NombresDelCatalogo, UnAcentoSueltoSeUneASuLetra) {
   EXPECT_EQ(TextoDeCampo("Almeri\u0301a"), "Almería");
   EXPECT_EQ(TextoDeCampo("A\u0301vila, Logron\u0303o, Gu\u0308ejar, Ve\u0300nec\u0327"),
             "Ávila Logroño Güejar Vèneç");
+  EXPECT_EQ(TextoDeCampo("L'Hay\u0308-les-Roses"), "L'Haÿ-les-Roses");
+  EXPECT_EQ(TextoDeCampo("Y\u0308"), "Y\u0308");                 // la mayúscula no es Latin-1
   EXPECT_EQ(TextoDeCampo("b\u0301 \u0301a"), "b\u0301 \u0301a"); // sin letra que lo lleve
 }
 
