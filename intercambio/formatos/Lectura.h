@@ -66,8 +66,8 @@ inline constexpr int HORAS_INTERPOLABLES = 3;
 
 struct OpcionesLectura {
   HuecosLargos huecosLargos = HuecosLargos::Rechazar;
-  /// Da el año, si alguna hora se pudo leer, aunque haya errores y sin tocar los huecos: lo que el fichero
-  /// dice, tal como lo dice.
+  /// Da el año, si alguna hora se pudo leer, aunque haya errores y sin tapar los huecos. Como siempre, lo
+  /// imposible, los códigos de «sin dato» y una radiación de 0 todo el año quedan ausentes.
   bool paraAuditar = false;
   /// Altitud del sitio [m]: manda sobre la que el fichero diga. Vacía, la suya.
   std::optional<double> altitud = std::nullopt;
