@@ -1,5 +1,6 @@
 #include "intercambio/auditoria/Comprobaciones.h"
 #include "intercambio/auditoria/Hallazgos.h"
+#include "intercambio/magnitudes/Cielo.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 #include "psicro/Atmosfera.h"
 #include "psicro/Constantes.h"
@@ -139,14 +140,14 @@ Hallazgo MirarHumedades(const MateriaAuditoria &materia) {
 
 Hallazgo MirarCielo(const MateriaAuditoria &materia) {
   // Onda larga del cielo entre 0,4·σT⁴ y σT⁴ + 25 W/m² (Long y Shi, 2008).
-  constexpr double SIGMA = 5.670374e-8, FRACCION_MINIMA = 0.4, SOBRE_EL_CUERPO_NEGRO = 25.0;
-  const auto emision = [](double t) { return SIGMA * std::pow(t + aire::T0, 4.0); };
+  constexpr double FRACCION_MINIMA = 0.4, SOBRE_EL_CUERPO_NEGRO = 25.0;
   HorasMalas malas;
   std::size_t horas = 0;
   for (std::size_t i = 0; i < HORAS; ++i) {
     double infrarroja = Valores(materia, Campo::InfrarrojaHorizontal)[i];
-    if (std::isnan(infrarroja)) infrarroja = emision(Valores(materia, Campo::TemperaturaCielo)[i]);
-    const double negro = emision(Valores(materia, Campo::TemperaturaSeca)[i]);
+    if (std::isnan(infrarroja))
+      infrarroja = InfrarrojaDeTemperatura(Valores(materia, Campo::TemperaturaCielo)[i]);
+    const double negro = InfrarrojaDeTemperatura(Valores(materia, Campo::TemperaturaSeca)[i]);
     if (std::isnan(infrarroja) || std::isnan(negro)) continue;
     ++horas;
     if (infrarroja < FRACCION_MINIMA * negro || infrarroja > negro + SOBRE_EL_CUERPO_NEGRO)

@@ -1,5 +1,6 @@
 #include "intercambio/auditoria/Materia.h"
 
+#include "core/Unidades.h"
 #include "intercambio/reloj/Eleccionreloj.h"
 #include "intercambio/reloj/Muestrasreloj.h"
 #include "intercambio/reloj/Soldereloj.h"
@@ -7,13 +8,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
-
-constexpr double GRADO = std::numbers::pi / 180.0;
 
 double DistanciaKm(double latitud, double longitud, const NormalesLocalidad &localidad) {
   constexpr double KM_POR_GRADO = 111.2; // de meridiano

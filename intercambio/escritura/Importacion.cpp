@@ -3,6 +3,7 @@
 #include "core/Cerrojo.h"
 #include "core/Codificacion.h"
 #include "core/Ficheros.h"
+#include "core/Unidades.h"
 #include "intercambio/escritura/Composicion.h"
 #include "intercambio/escritura/Estadisticasgdr.h"
 #include "intercambio/escritura/Listagdr.h"
@@ -24,7 +25,6 @@ constexpr const char *LISTA = "LocalidadesCC";
 constexpr const char *REGISTROS = "GDR.TXT";
 constexpr const char *EXTENSION = ".met";
 constexpr const char *NOMBRE_DE_NADIE = "Localidad";
-constexpr double GRADOS_POR_HORA = 15.0;
 enum Campo : std::size_t {
   CAMPO_NOMBRE = 0,
   CAMPO_CORTO = 1,

@@ -1,6 +1,7 @@
 #include "intercambio/formatos/Cabeceras.h"
 
 #include "core/Caracteres.h"
+#include "core/Unidades.h"
 #include "intercambio/formatos/Numeros.h"
 
 #include <algorithm>
@@ -13,7 +14,6 @@ namespace {
 
 constexpr double LATITUD_MAXIMA = 90.0;
 constexpr double LONGITUD_MAXIMA = 180.0;
-constexpr double GRADOS_POR_HORA = 15.0;
 /// Altitudes [m] que se creen: de la orilla del mar Muerto a la cima más alta.
 constexpr double ALTITUD_MINIMA = -450.0;
 constexpr double ALTITUD_MAXIMA = 9000.0;

@@ -1,4 +1,5 @@
 #include "core/Codificacion.h"
+#include "core/Unidades.h"
 #include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/formatos/Filas.h"
 #include "intercambio/formatos/Lectores.h"
@@ -42,7 +43,6 @@ enum : std::size_t {
 };
 constexpr int LINEAS_DE_CABECERA = 8;
 constexpr std::string_view CLAVE_DESFASE = "irradiance time offset (h)";
-constexpr double MINUTOS_POR_HORA = 60.0;
 
 /// Los minutos se pasan por alto: a un registro por hora no dicen nada, y cada programa escribe los suyos.
 bool LeerFecha(const CamposLinea &campos, FilaClima &fila) {

@@ -1,3 +1,4 @@
+#include "core/Unidades.h"
 #include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/formatos/Filas.h"
 #include "intercambio/formatos/Lectores.h"
@@ -25,7 +26,6 @@ const std::vector<ColumnaClima> COLUMNAS{
 constexpr std::size_t CAMPOS_TRECE = 13;
 constexpr std::size_t CAMPOS_QUINCE = 15;
 constexpr std::size_t CAMPOS_DEL_SITIO = 4;
-constexpr double GRADOS_POR_HORA = 15.0;
 
 bool LeerFecha(const CamposLinea &campos, FilaClima &fila) {
   const std::optional<int> mes = LeerEntero(campos[0]);

@@ -1,3 +1,4 @@
+#include "core/Unidades.h"
 #include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/formatos/Columnasporrotulo.h"
 #include "intercambio/formatos/Lectores.h"
@@ -25,7 +26,6 @@ const std::vector<ColumnaRotulada> ROTULOS{
     {"WD10m", Campo::DireccionViento},
     {"SP", Campo::Presion},
 };
-constexpr double MINUTOS_POR_HORA = 60.0;
 constexpr std::string_view ROTULO_FECHA = "time(UTC)";
 
 /// "AAAAMMDD:HHMM": la hora, de 0 a 23, pasa a etiqueta de 1 a 24.

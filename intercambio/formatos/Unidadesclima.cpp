@@ -1,6 +1,7 @@
 #include "intercambio/formatos/Unidadesclima.h"
 
 #include "core/Codificacion.h"
+#include "core/Unidades.h"
 
 #include <array>
 #include <string>
@@ -11,13 +12,12 @@ namespace {
 
 using Unidades = std::vector<UnidadClima>;
 
-constexpr double CERO_ABSOLUTO = -273.15;
 /// Milímetro de mercurio convencional [Pa] y milla náutica internacional por hora [m/s] (BIPM, El Sistema
 /// Internacional de Unidades, 8.ª edición, 2006, tabla 8).
 constexpr double PASCALES_POR_MMHG = 133.322;
 constexpr double METROS_POR_SEGUNDO_DE_UN_NUDO = 1852.0 / 3600.0;
 
-const Unidades TEMPERATURA{{"°C"}, {"K", 1.0, CERO_ABSOLUTO}, {"°F", 5.0 / 9.0, -160.0 / 9.0}};
+const Unidades TEMPERATURA{{"°C"}, {"K", 1.0, -CERO_CELSIUS}, {"°F", 5.0 / 9.0, -160.0 / 9.0}};
 const Unidades PORCENTAJE{{"%"}, {"tanto por uno", 100.0, 0.0}};
 const Unidades HUMEDAD_ABSOLUTA{{"kg/kg"}, {"g/kg", 1e-3, 0.0}};
 const Unidades PRESION{{"Pa"},

@@ -1,5 +1,6 @@
 #include "intercambio/magnitudes/Cielo.h"
 
+#include "core/Unidades.h"
 #include "intercambio/magnitudes/Humedad.h"
 #include "intercambio/sintesis/Cielosintetico.h"
 #include "intercambio/sintesis/Perfilmensual.h"
@@ -11,9 +12,6 @@ namespace tesmo {
 
 namespace {
 
-/// Constante de Stefan y Boltzmann [W/(m²·K⁴)] (CODATA, 2018).
-constexpr double STEFAN_BOLTZMANN = 5.670374419e-8;
-constexpr double CERO_CELSIUS = 273.15;
 constexpr double VATIOS_POR_KILOVATIO = 1000.0;
 /// Sin sol ni nubes escritas, medio cubierto [décimas].
 constexpr double NUBOSIDAD_SUPUESTA = 5.0;

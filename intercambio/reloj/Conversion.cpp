@@ -1,5 +1,6 @@
 #include "intercambio/Aniosolar.h"
 
+#include "core/Unidades.h"
 #include "intercambio/magnitudes/Aniocompleto.h"
 #include "intercambio/magnitudes/Humedad.h"
 #include "intercambio/reloj/Informe.h"
@@ -9,13 +10,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
 
-constexpr double GRADO = std::numbers::pi / 180.0;
 /// El desfase de un fichero que ya está en la hora de los motores [min].
 constexpr double DESFASE_DE_LOS_MOTORES = -30.0;
 

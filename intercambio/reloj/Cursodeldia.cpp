@@ -1,18 +1,16 @@
 #include "intercambio/reloj/Cursodeldia.h"
 
+#include "core/Unidades.h"
 #include "intercambio/reloj/Muestrasreloj.h"
 #include "intercambio/reloj/Soldereloj.h"
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
 
-constexpr double GRADO = std::numbers::pi / 180.0;
-constexpr double MINUTOS_POR_HORA = 60.0;
 constexpr double CENIT_DEL_HORIZONTE = 90.0; // [°]
 constexpr auto HORAS_DIA = static_cast<std::size_t>(HORAS_DEL_DIA);
 constexpr auto DIAS = static_cast<std::size_t>(DIAS_DEL_ANIO);

@@ -1,5 +1,6 @@
 #include "intercambio/reloj/Detectorreloj.h"
 
+#include "core/Unidades.h"
 #include "intercambio/reloj/Evidenciareloj.h"
 #include "intercambio/reloj/Textoreloj.h"
 
@@ -11,7 +12,6 @@ namespace tesmo {
 
 namespace {
 
-constexpr double GRADOS_POR_HORA = 15.0;
 /// Otro tiempo de etiqueta se propone sólo si casa mejor que el declarado en esta proporción.
 constexpr double MEJORA_PRECISA = 0.75;
 /// Un mes que se aparta más de los otros no lleva su reloj [min].

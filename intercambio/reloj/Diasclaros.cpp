@@ -1,5 +1,6 @@
 #include "intercambio/reloj/Diasclaros.h"
 
+#include "core/Unidades.h"
 #include "intercambio/reloj/Escalatiempo.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 
@@ -10,8 +11,6 @@ namespace tesmo {
 
 namespace {
 
-constexpr double MEDIODIA = 12.0;
-constexpr double MINUTOS_POR_HORA = 60.0;
 /// Un día claro llega a esta parte de la mayor energía de los diez de antes y los diez de después.
 constexpr double PARTE_DE_LA_MAYOR = 0.95;
 constexpr std::size_t DIAS_VECINOS = 10;

@@ -1,5 +1,6 @@
 #include "intercambio/reloj/Eleccionreloj.h"
 
+#include "core/Unidades.h"
 #include "intercambio/formatos/Cabeceras.h"
 
 #include <cmath>
@@ -11,7 +12,6 @@ namespace {
 /// El desfase [min] con que @p reloj, de hora oficial o UTC, dice lo mismo en el otro de los dos; vacío si
 /// alguno no es de ellos o si no cabe en los que se admiten.
 std::optional<double> DesfaseEnOtroTiempoCivil(const RelojFichero &reloj, TiempoEtiqueta otro) {
-  constexpr double MINUTOS_POR_HORA = 60.0;
   if (reloj.tiempo == TiempoEtiqueta::SolarVerdadero || otro == TiempoEtiqueta::SolarVerdadero)
     return std::nullopt;
   const double sentido = otro == TiempoEtiqueta::Utc ? -1.0 : 1.0;

@@ -1,5 +1,6 @@
 #include "intercambio/reloj/Escalatiempo.h"
 
+#include "core/Unidades.h"
 #include "intercambio/sintesis/Soldelanio.h"
 
 #include <cmath>
@@ -8,8 +9,6 @@ namespace tesmo {
 
 namespace {
 
-constexpr double GRADOS_POR_HORA = 15.0;
-constexpr double MINUTOS_POR_HORA = 60.0;
 constexpr double HORAS_AL_DIA = HORAS_DEL_DIA;
 
 } // namespace

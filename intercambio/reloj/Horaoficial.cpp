@@ -1,5 +1,6 @@
 #include "intercambio/Aniosolar.h"
 
+#include "core/Unidades.h"
 #include "intercambio/magnitudes/Cielo.h"
 #include "intercambio/magnitudes/Humedad.h"
 #include "intercambio/reloj/Interpolacion.h"
@@ -8,15 +9,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
 
-constexpr double GRADO = std::numbers::pi / 180.0;
-constexpr double GIRO_POR_HORA = std::numbers::pi / 12.0;
-constexpr double MEDIODIA = 12.0;
 constexpr double MEDIA_HORA = 0.5;
 /// Con menos sol que éste en la hora, la directa normal no se puede deducir [h].
 constexpr double SOL_MINIMO = 0.02;

@@ -1,13 +1,13 @@
 #include "intercambio/reloj/Interpolacion.h"
 
+#include "core/Unidades.h"
+
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
 
-constexpr double GRADO = std::numbers::pi / 180.0;
 constexpr double VUELTA = 360.0;
 constexpr double MITAD = 0.5;
 /// Por debajo, el viento medio no tiene dirección [m/s].

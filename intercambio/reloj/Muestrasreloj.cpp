@@ -1,21 +1,17 @@
 #include "intercambio/reloj/Muestrasreloj.h"
 
+#include "core/Unidades.h"
 #include "intercambio/reloj/Solverdadero.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
 
-constexpr double GRADO = std::numbers::pi / 180.0;
-constexpr double GRADOS_POR_HORA = 15.0;
 constexpr double GRADOS_POR_MINUTO = 0.25;
-constexpr double MINUTOS_POR_HORA = 60.0;
-constexpr double MEDIODIA = 12.0;
 /// Horas que dicen dónde está el sol: haz fuerte y no rasante [W/m²].
 constexpr double DIRECTA_NORMAL_MINIMA = 150.0;
 constexpr double HAZ_HORIZONTAL_MINIMO = 30.0;

@@ -1,16 +1,15 @@
 #include "intercambio/reloj/Radiacionsolar.h"
 
+#include "core/Unidades.h"
 #include "intercambio/reloj/Repartoradiacion.h"
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
 
-constexpr double GRADO = std::numbers::pi / 180.0;
 /// Con el sol más bajo en el centro de la hora no se da directa [°]: dividida por un coseno casi nulo, que
 /// además se escribe con dos decimales, no significaría nada.
 constexpr double CENIT_SIN_DIRECTA = 89.0;

@@ -1,20 +1,11 @@
 #include "intercambio/reloj/Soldereloj.h"
 
+#include "core/Unidades.h"
 #include "intercambio/reloj/Solverdadero.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
-
-namespace {
-
-constexpr double GRADO = std::numbers::pi / 180.0;
-constexpr double GIRO_POR_HORA = std::numbers::pi / 12.0;
-constexpr double MEDIODIA = 12.0;
-constexpr double MINUTOS_POR_HORA = 60.0;
-
-} // namespace
 
 SolDeReloj::SolDeReloj(const AnioCanonico &anio, const EscalaTiempo &escala)
     : anio_(anio), escala_(escala), latitud_(anio.sitio.latitud * GRADO) {}

@@ -1,5 +1,6 @@
 #include "intercambio/reloj/Soldereparto.h"
 
+#include "core/Unidades.h"
 #include "intercambio/reloj/Solverdadero.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 #include "intercambio/sintesis/Soldelanio.h"
@@ -7,19 +8,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
 
-using std::numbers::pi;
-
-constexpr double GRADO = pi / 180.0;
-constexpr double MEDIODIA = 12.0;
 constexpr double HORAS_AL_DIA = HORAS_DEL_DIA;
-/// De horas desde el mediodía a ángulo horario [rad/h].
-constexpr double GIRO_POR_HORA = pi / 12.0;
 
 double MediaNoche(double instante) { return std::floor(instante / HORAS_AL_DIA) * HORAS_AL_DIA; }
 

@@ -1,16 +1,15 @@
 #include "intercambio/reloj/Solverdadero.h"
 
 #include "core/Calendario.h"
+#include "core/Unidades.h"
 
 #include <chrono>
 #include <cmath>
-#include <numbers>
 
 namespace tesmo {
 
 namespace {
 
-constexpr double GRADO = std::numbers::pi / 180.0;
 constexpr int PRIMER_ANIO = 1950;
 constexpr int ULTIMO_ANIO = 2050;
 /// A mitad de camino entre dos bisiestos.

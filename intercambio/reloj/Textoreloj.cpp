@@ -2,14 +2,13 @@
 
 #include "core/Calendario.h"
 #include "core/Formato.h"
+#include "core/Unidades.h"
 
 #include <cmath>
 
 namespace tesmo {
 
 namespace {
-
-constexpr double MINUTOS_POR_HORA = 60.0;
 
 std::string ConSigno(double valor, const char *patron) {
   const std::string cifra = Cifra(std::fabs(valor), patron);

@@ -1,5 +1,7 @@
 #include "intercambio/sintesis/Cielosintetico.h"
 
+#include "core/Unidades.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,7 +9,6 @@ namespace tesmo {
 
 namespace {
 
-constexpr double CERO_CELSIUS = 273.15;
 constexpr double CENTESIMAS = 100.0;
 constexpr double CUBIERTO = 10.0;
 

@@ -1,5 +1,7 @@
 #include "intercambio/sintesis/Radiacionhoraria.h"
 
+#include "core/Unidades.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -11,7 +13,6 @@ namespace {
 
 using std::numbers::pi;
 
-constexpr double GRADO = pi / 180.0;
 /// Cenit desde el que no se da directa [°]: dividida por un coseno casi nulo no significaría nada.
 constexpr double CENIT_SIN_DIRECTA = 89.0;
 /// Ángulo de puesta que separa invierno y verano en Erbs [rad]: 81,4°.

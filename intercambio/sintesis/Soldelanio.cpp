@@ -1,5 +1,6 @@
 #include "intercambio/sintesis/Soldelanio.h"
 
+#include "core/Unidades.h"
 #include "solar/Soldeldia.h"
 
 #include <algorithm>
@@ -14,7 +15,6 @@ using std::numbers::pi;
 
 constexpr double CONSTANTE_SOLAR = 1367.0;
 constexpr double EXCENTRICIDAD = 0.033;
-constexpr double GRADO = pi / 180.0;
 constexpr double CENTESIMAS = 100.0;
 
 double ACentesimas(double valor) { return std::round(valor * CENTESIMAS) / CENTESIMAS; }

@@ -1,5 +1,7 @@
 #include "intercambio/sintesis/Temperaturahoraria.h"
 
+#include "core/Unidades.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -10,7 +12,6 @@ namespace {
 
 /// La máxima va a esta distancia de la mínima y de medianoche [h], aunque las normales digan otra cosa.
 constexpr double SEPARACION_MINIMA = 3.0;
-constexpr double GRADOS_POR_HORA = 15.0;
 /// Puntos de paso de un día: mínima, máxima y la medianoche que lo cierra.
 constexpr std::size_t PUNTOS_POR_DIA = 3;
 
