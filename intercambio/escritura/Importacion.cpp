@@ -25,7 +25,7 @@ constexpr const char *LISTA = "LocalidadesCC";
 constexpr const char *REGISTROS = "GDR.TXT";
 constexpr const char *EXTENSION = ".met";
 constexpr const char *NOMBRE_DE_NADIE = "Localidad";
-enum Campo : std::size_t {
+enum PosicionDeCampo : std::size_t {
   CAMPO_NOMBRE = 0,
   CAMPO_CORTO = 1,
   CAMPO_PROVINCIA = 2,
