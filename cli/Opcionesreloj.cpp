@@ -2,7 +2,7 @@
 
 #include "cli/Argumentos.h"
 #include "core/Ficheros.h"
-#include "intercambio/formatos/Cabeceras.h"
+#include "intercambio/Aniocanonico.h"
 
 #include <array>
 #include <utility>

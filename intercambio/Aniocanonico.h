@@ -60,12 +60,17 @@ struct SerieCanonica {
 /// En qué tiempo están escritas las etiquetas de un fichero.
 enum class TiempoEtiqueta : std::uint8_t { SolarVerdadero, OficialEstandar, Utc };
 
+/// Mayor adelanto o atraso [h] de una hora oficial sobre UTC.
+inline constexpr double HUSO_MAXIMO = 14.0;
+/// Mayor desfase [min], en los dos sentidos, que se admite.
+inline constexpr double DESFASE_MAXIMO_MIN = 90.0;
+
 /// Qué instante cubre la etiqueta h (1 a 24) de un fichero: el centro de su hora es h + desfaseMin, en su
 /// tiempo. Con −30 la etiqueta es el final de la hora que cubre; con 0, su centro.
 struct RelojFichero {
   TiempoEtiqueta tiempo = TiempoEtiqueta::OficialEstandar;
   double husoHoras = 0;    ///< adelanto de la hora oficial de invierno sobre UTC [h], este positivo
-  double desfaseMin = -30; ///< [min], de −90 a 90
+  double desfaseMin = -30; ///< [min], de −DESFASE_MAXIMO_MIN a DESFASE_MAXIMO_MIN
   bool operator==(const RelojFichero &) const = default;
 };
 
@@ -80,6 +85,9 @@ enum class FormatoClima : std::uint8_t {
   MetQuince,
   Delimitado
 };
+
+/// Altitudes [m] que se creen en un fichero: de la orilla del mar Muerto a la cima más alta.
+inline constexpr double ALTITUD_CREIBLE_MENOR = -450.0, ALTITUD_CREIBLE_MAYOR = 9000.0;
 
 /// Dónde se midió un año.
 struct SitioClima {

@@ -26,8 +26,6 @@ bool RechazarSeparador(std::string_view linea, int numeroDeLinea, Cuaderno &cuad
 /// El @p huso [h] que da la @p linea si es creíble; si falta o pasa de HUSO_MAXIMO, el de la longitud, con
 /// aviso.
 [[nodiscard]] double HusoCreible(std::optional<double> huso, double longitud, int linea, Cuaderno &cuaderno);
-/// Mayor adelanto o atraso [h] de una hora oficial sobre UTC.
-inline constexpr double HUSO_MAXIMO = 14.0;
 
 /// El número que sigue a @p clave en @p texto, sin distinguir mayúsculas ni contar los ':' y blancos de en
 /// medio; vacío si la clave no está o no la sigue un número, o si lleva coma decimal.
@@ -39,7 +37,5 @@ inline constexpr double HUSO_MAXIMO = 14.0;
 /// Minutos entre la etiqueta de PVGIS, contada de 1 a 24, y el instante de su radiación cuando el fichero no
 /// lo dice: los satélites que cubren Europa pasan hacia el minuto 10 de la hora que se escribe.
 inline constexpr double DESFASE_PVGIS_MIN = -50.0;
-/// Desfases [min] que se admiten.
-inline constexpr double DESFASE_MAXIMO_MIN = 90.0;
 
 } // namespace tesmo

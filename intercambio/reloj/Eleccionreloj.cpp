@@ -1,7 +1,6 @@
 #include "intercambio/reloj/Eleccionreloj.h"
 
 #include "core/Unidades.h"
-#include "intercambio/formatos/Cabeceras.h"
 
 #include <cmath>
 

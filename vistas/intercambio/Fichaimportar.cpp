@@ -1,7 +1,7 @@
 #include "vistas/intercambio/Fichaimportar.h"
 
+#include "intercambio/Aniocanonico.h"
 #include "intercambio/Aniodefichero.h"
-#include "intercambio/formatos/Cabeceras.h"
 #include "intercambio/sintesis/Perfilmensual.h"
 #include "vistas/comun/Casillanumero.h"
 #include "vistas/comun/Textoqt.h"
