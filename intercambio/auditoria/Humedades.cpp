@@ -15,6 +15,9 @@ namespace {
 /// Presiones entre las que se busca la que mejor encaja [Pa]: de 5.500 m de altitud a 600 m bajo el mar.
 constexpr double PRESION_MENOR = 50000.0, PRESION_MAYOR = 109000.0;
 
+constexpr double CIEN = 100.0; // [%], el aire saturado
+constexpr double PASCALES_POR_KILOPASCAL = 1000.0;
+
 double Saturacion(double t) { return static_cast<double>(presionSaturacion(static_cast<float>(t))); }
 
 /// Presión de la hora: la del fichero, la de la altitud de la cabecera o la normal.
@@ -27,7 +30,7 @@ double PresionDe(const MateriaAuditoria &materia, std::size_t i) {
 
 /// Humedad relativa [%] de una absoluta; AUSENTE si falta algo.
 double RelativaDeAbsoluta(double t, double w, double presion) {
-  return 100.0 * presion * w / ((aire::EPSILON + w) * Saturacion(t));
+  return CIEN * presion * w / ((aire::EPSILON + w) * Saturacion(t));
 }
 
 /// Humedad relativa [%] que da lo demás que el fichero dice del vapor: la absoluta o el rocío.
@@ -35,7 +38,7 @@ double RelativaDeLoDemas(const MateriaAuditoria &materia, std::size_t i, double 
   const double t = Valores(materia, Campo::TemperaturaSeca)[i];
   const double w = Valores(materia, Campo::HumedadAbsoluta)[i];
   if (!std::isnan(w)) return RelativaDeAbsoluta(t, w, presion);
-  return 100.0 * Saturacion(Valores(materia, Campo::TemperaturaRocio)[i]) / Saturacion(t);
+  return CIEN * Saturacion(Valores(materia, Campo::TemperaturaRocio)[i]) / Saturacion(t);
 }
 
 /// La presión que hace casar absoluta y relativa en la hora @p i: p = HR·ps(T)·(ε + w)/(100·w).
@@ -45,7 +48,7 @@ double PresionQueEncaja(const MateriaAuditoria &materia, std::size_t i) {
   const double t = Valores(materia, Campo::TemperaturaSeca)[i];
   constexpr double W_MINIMA = 0.002, HR_MAXIMA = 99.0; // con menos vapor manda el redondeo; saturado, el tope
   if (!(w > W_MINIMA) || !(hr < HR_MAXIMA)) return AUSENTE;
-  return hr * Saturacion(t) * (aire::EPSILON + w) / (100.0 * w);
+  return hr * Saturacion(t) * (aire::EPSILON + w) / (CIEN * w);
 }
 
 double PresionQueMejorEncaja(const MateriaAuditoria &materia) {
@@ -93,9 +96,11 @@ PresionHallada HallarPresion(const MateriaAuditoria &materia) {
   if (std::isnan(media)) media = PresionDe(materia, 0);
   PresionHallada presion;
   presion.contradice = std::abs(hallada - media) > TOLERANCIA * media;
-  presion.texto = "; la presión que mejor las casa es " + Cifra(hallada / 1000.0, "0.0") + " kPa (" +
-                  Cifra(AltitudDePresion(hallada), "0") + " m)" +
-                  (presion.contradice ? ", y la del sitio " + Cifra(media / 1000.0, "0.0") + " kPa" : "");
+  presion.texto =
+      "; la presión que mejor las casa es " + Cifra(hallada / PASCALES_POR_KILOPASCAL, "0.0") + " kPa (" +
+      Cifra(AltitudDePresion(hallada), "0") + " m)" +
+      (presion.contradice ? ", y la del sitio " + Cifra(media / PASCALES_POR_KILOPASCAL, "0.0") + " kPa"
+                          : "");
   return presion;
 }
 
@@ -112,10 +117,10 @@ Hallazgo MirarSaturacion(const MateriaAuditoria &materia) {
     const double relativa = Valores(materia, Campo::HumedadRelativa)[i];
     const double otra = RelativaDeLoDemas(materia, i, PresionDe(materia, i));
     const double hr = std::isnan(otra) || relativa > otra ? relativa : otra;
-    if (!(hr > 100.0 + HOLGURA)) continue;
+    if (!(hr > CIEN + HOLGURA)) continue;
     malas.push_back(i);
     mayor = std::max(mayor, hr);
-    graves += hr > 100.0 + EXCESO_GRAVE ? 1U : 0U;
+    graves += hr > CIEN + EXCESO_GRAVE ? 1U : 0U;
   }
   if (malas.empty()) return Conforme("ninguna hora sobre el aire saturado");
   return ConLineas(SegunCuantas(graves, HORAS_GRAVES),

@@ -1,3 +1,4 @@
+#include "core/Unidades.h"
 #include "intercambio/auditoria/Comprobaciones.h"
 #include "intercambio/auditoria/Hallazgos.h"
 #include "intercambio/auditoria/Radiaciondehora.h"
@@ -14,9 +15,9 @@ namespace tesmo {
 
 namespace {
 
-/// Bajo esta altura del sol toda la hora, lo que quede de luz (crepúsculo civil, 6°) no llega a medirse como
-/// radiación: coseno del cenit de −6°.
-const double COSENO_NOCHE = std::cos(96.0 * 3.14159265358979 / 180.0);
+/// Con el sol más bajo toda la hora, lo que quede de luz (crepúsculo civil, 6°) no llega a medirse como
+/// radiación.
+constexpr double CENIT_DE_NOCHE = 96.0; // [°]
 /// Horas con más desajuste de las que un año tiene por nubes que cruzan y horas rasantes.
 constexpr double PARTE_DE_AVISO = 0.05;
 constexpr double PARTE_GRAVE = 0.25;
@@ -111,9 +112,10 @@ Hallazgo MirarCierre(const MateriaAuditoria &materia) {
 Hallazgo MirarNoche(const MateriaAuditoria &materia) {
   constexpr std::size_t HORAS_GRAVES = 24; // como un día entero de sol a deshora
   if (!materia.sol.Hay()) return NoComprobada("no se sabe dónde está el sitio");
+  const double cosenoDeNoche = std::cos(CENIT_DE_NOCHE * GRADO);
   const HorasMalas malas = Reunir([&](std::size_t i) {
     const auto luce = [&](Campo campo) { return Valores(materia, campo)[i] > RADIACION_NOCTURNA; };
-    return materia.sol.cosenoMayor[i] < COSENO_NOCHE &&
+    return materia.sol.cosenoMayor[i] < cosenoDeNoche &&
            (luce(Campo::GlobalHorizontal) || luce(Campo::DirectaNormal) || luce(Campo::DirectaHorizontal) ||
             luce(Campo::DifusaHorizontal));
   });

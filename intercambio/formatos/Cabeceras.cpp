@@ -14,9 +14,6 @@ namespace {
 
 constexpr double LATITUD_MAXIMA = 90.0;
 constexpr double LONGITUD_MAXIMA = 180.0;
-/// Altitudes [m] que se creen: de la orilla del mar Muerto a la cima más alta.
-constexpr double ALTITUD_MINIMA = -450.0;
-constexpr double ALTITUD_MAXIMA = 9000.0;
 
 std::size_t Buscar(std::string_view texto, std::string_view clave) {
   const auto igual = [](char a, char b) { return Minuscula(a) == Minuscula(b); };
@@ -45,7 +42,7 @@ void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, s
   sitio.latitud = Angulo(latitud, LATITUD_MAXIMA, "latitud", linea, cuaderno);
   sitio.longitud = Angulo(longitud, LONGITUD_MAXIMA, "longitud", linea, cuaderno);
   if (!std::isnan(sitio.altitud)) return;
-  if (altitud && *altitud >= ALTITUD_MINIMA && *altitud <= ALTITUD_MAXIMA) {
+  if (altitud && *altitud >= ALTITUD_CREIBLE_MENOR && *altitud <= ALTITUD_CREIBLE_MAYOR) {
     sitio.altitud = *altitud;
     return;
   }

@@ -34,10 +34,11 @@ struct ClaveNumero {
   double minimo;
   double maximo;
 };
-inline constexpr std::array<ClaveNumero, 4> NUMEROS{{{"latitud", &MapaColumnas::latitud, -90.0, 90.0},
-                                                     {"longitud", &MapaColumnas::longitud, -180.0, 180.0},
-                                                     {"altitud", &MapaColumnas::altitud, -450.0, 9000.0},
-                                                     {"sin dato", &MapaColumnas::sinDato, -1e9, 1e9}}};
+inline constexpr std::array<ClaveNumero, 4> NUMEROS{
+    {{"latitud", &MapaColumnas::latitud, -90.0, 90.0},
+     {"longitud", &MapaColumnas::longitud, -180.0, 180.0},
+     {"altitud", &MapaColumnas::altitud, ALTITUD_CREIBLE_MENOR, ALTITUD_CREIBLE_MAYOR},
+     {"sin dato", &MapaColumnas::sinDato, -1e9, 1e9}}};
 
 /// Un texto del mapa: el nombre y las columnas de la fecha.
 struct ClaveTexto {

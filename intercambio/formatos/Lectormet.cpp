@@ -132,8 +132,8 @@ private:
     if (!campo) return;
     cuaderno_.Aviso({.clase = ClaseNota::SobranRegistros,
                      .linea = lineas_.Numero(),
-                     .texto = "línea " + std::to_string(lineas_.Numero()) +
-                              ": sobra texto tras las 8760 horas; no se lee"});
+                     .texto = "línea " + std::to_string(lineas_.Numero()) + ": sobra texto tras las " +
+                              std::to_string(HORAS_DEL_ANIO) + " horas; no se lee"});
   }
 
   Lineas lineas_;

@@ -30,9 +30,9 @@ std::string LineaDeMagnitud(const char *nombre, const CambioMagnitud &cambio, co
 }
 
 std::string LineaDeCuenta(const char *nombre, const CuentaProcedencias &cuenta) {
-  return std::string("De 8760 horas de ") + nombre + ": " + std::to_string(cuenta.copiadas) + " copiadas, " +
-         std::to_string(cuenta.calculadas) + " calculadas, " + std::to_string(cuenta.inventadas) +
-         " inventadas.";
+  return "De " + std::to_string(HORAS_DEL_ANIO) + " horas de " + nombre + ": " +
+         std::to_string(cuenta.copiadas) + " copiadas, " + std::to_string(cuenta.calculadas) +
+         " calculadas, " + std::to_string(cuenta.inventadas) + " inventadas.";
 }
 
 } // namespace

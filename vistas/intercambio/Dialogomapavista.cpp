@@ -2,7 +2,7 @@
 
 #include "core/Codificacion.h"
 #include "core/Ficheros.h"
-#include "intercambio/formatos/Cabeceras.h"
+#include "intercambio/Aniocanonico.h"
 #include "intercambio/formatos/Clavesmapa.h"
 #include "vistas/comun/Casillanumero.h"
 #include "vistas/comun/Textoqt.h"
@@ -27,8 +27,7 @@ namespace {
 
 constexpr QSize TAMANO(940, 620);
 constexpr std::size_t BYTES_DE_MUESTRA = 64 * 1024;
-constexpr int CABECERA_MAXIMA = 200;                             ///< líneas
-constexpr double ALTITUD_MENOR = -450.0, ALTITUD_MAYOR = 9000.0; ///< las que admite un mapa [m]
+constexpr int CABECERA_MAXIMA = 200; ///< líneas
 
 template <typename T, std::size_t N>
 QComboBox *CrearLista(const char *nombre, const std::array<Palabra<T>, N> &palabras) {
@@ -111,7 +110,7 @@ QWidget *DialogoMapa::CrearSitio() {
   csLatitud_->setToolTip(tr("Norte, positiva"));
   csLongitud_ = CrearReal("csLongitud", -180.0, 180.0, 4, tr(" °"));
   csLongitud_->setToolTip(tr("Este, positiva"));
-  csAltitud_ = new CasillaOpcional(ALTITUD_MENOR, ALTITUD_MAYOR, 1, tr("no se sabe"));
+  csAltitud_ = new CasillaOpcional(ALTITUD_CREIBLE_MENOR, ALTITUD_CREIBLE_MAYOR, 1, tr("no se sabe"));
   csAltitud_->setObjectName(QStringLiteral("csAltitud"));
   csAltitud_->setSuffix(tr(" m"));
   forma->addRow(tr("&Nombre"), edNombre_);
