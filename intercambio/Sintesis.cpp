@@ -34,7 +34,7 @@ bool ComprobarRadiacion(const std::vector<NormalesLocalidad> &localidades, const
                         ResultadoSintesis &resultado) {
   bool bien = true;
   for (const NormalesLocalidad &localidad : localidades) {
-    const ValoresMensuales claridades = ClaridadesPedidas(localidad);
+    const ValoresPorMes claridades = ClaridadesPedidas(localidad);
     for (std::size_t mes = 0; mes < MESES; ++mes) {
       if (claridades[mes] >= CLARIDAD_MINIMA && claridades[mes] <= CLARIDAD_MAXIMA) continue;
       bien = Fallar(resultado, FalloSintesis::Contenido,
@@ -97,7 +97,7 @@ bool EscribirAnio(const std::filesystem::path &meteo, const NormalesLocalidad &l
     resultado.avisos.push_back(TextoDeRuta(ruta) + ": no lo hizo esta síntesis; se deja como está");
     return true;
   }
-  return Escribir(ruta, TextoMet(localidad, GenerarAnio(localidad)), resultado);
+  return Escribir(ruta, TextoMetSintetico(localidad, GenerarAnio(localidad)), resultado);
 }
 
 bool EscribirTodo(const std::filesystem::path &meteo, const std::vector<NormalesLocalidad> &localidades,

@@ -34,8 +34,8 @@ double Media(Dia dia) { return Suma(dia) / static_cast<double>(dia.size()); }
 
 /// Una cifra de cada mes, redondeada a 1/@p partes.
 template <typename Cifra>
-ValoresMensuales PorMeses(const SerieDias &dias, double partes, Cifra cifra) {
-  ValoresMensuales meses{};
+ValoresPorMes PorMeses(const SerieDias &dias, double partes, Cifra cifra) {
+  ValoresPorMes meses{};
   for (std::size_t mes = 0; mes < MESES; ++mes) meses[mes] = std::round(cifra(dias, mes) * partes) / partes;
   return meses;
 }

@@ -11,7 +11,7 @@ namespace {
 constexpr int FACTOR_DE_COLA = 10;
 
 /// Una línea de doce cifras, enero primero.
-void EscribirFila(std::string &texto, const ValoresMensuales &fila, std::string_view fin) {
+void EscribirFila(std::string &texto, const ValoresPorMes &fila, std::string_view fin) {
   for (std::size_t mes = 0; mes < MESES; ++mes) {
     if (mes > 0) texto += ' ';
     texto += NumeroDeFichero(fila[mes]);
@@ -35,8 +35,8 @@ std::string TextoRegistroGdr(const FichaGdr &ficha, std::string_view fin) {
   if (ficha.humedadCal) texto += " WCAL=" + NumeroDeFichero(*ficha.humedadCal);
   if (ficha.humedadRef) texto += " WREF=" + NumeroDeFichero(*ficha.humedadRef);
   texto += fin;
-  for (const ValoresMensuales *fila : {&ficha.maxima, &ficha.minima, &ficha.desviacionMaxima,
-                                       &ficha.desviacionMinima, &ficha.radiacion, &ficha.sexta})
+  for (const ValoresPorMes *fila : {&ficha.maxima, &ficha.minima, &ficha.desviacionMaxima,
+                                    &ficha.desviacionMinima, &ficha.radiacion, &ficha.sexta})
     EscribirFila(texto, *fila, fin);
   return texto;
 }

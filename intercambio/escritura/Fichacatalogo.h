@@ -36,12 +36,12 @@ struct FichaGdr {
   double altitud = 0;
   std::optional<double> humedadCal; ///< "WCAL=" [g/kg]
   std::optional<double> humedadRef; ///< "WREF=" [g/kg]
-  ValoresMensuales maxima{};        ///< media de las máximas diarias [°C]
-  ValoresMensuales minima{};
-  ValoresMensuales desviacionMaxima{}; ///< desviación típica de las máximas diarias [K]
-  ValoresMensuales desviacionMinima{};
-  ValoresMensuales radiacion{}; ///< global horizontal diaria [kJ/m²]
-  ValoresMensuales sexta{};     ///< humedad relativa media [%]; el cálculo no la usa
+  ValoresPorMes maxima{};           ///< media de las máximas diarias [°C]
+  ValoresPorMes minima{};
+  ValoresPorMes desviacionMaxima{}; ///< desviación típica de las máximas diarias [K]
+  ValoresPorMes desviacionMinima{};
+  ValoresPorMes radiacion{}; ///< global horizontal diaria [kJ/m²]
+  ValoresPorMes sexta{};     ///< humedad relativa media [%]; el cálculo no la usa
 };
 
 /// Las siete líneas de @p ficha, con fines de línea @p fin. El factor de cola es 10.

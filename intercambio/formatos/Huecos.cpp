@@ -89,7 +89,7 @@ private:
     for (std::size_t c = 0; c < NUMERO_CAMPOS; ++c) tramos[c] = Interpolables(static_cast<Campo>(c));
     for (std::size_t c = 0; c < NUMERO_CAMPOS; ++c) {
       if (tramos[c].empty()) continue;
-      for (const TramoSinDato &tramo : tramos[c]) Interpolar(anio_, static_cast<Campo>(c), tramo);
+      for (const TramoSinDato &tramo : tramos[c]) InterpolarHueco(anio_, static_cast<Campo>(c), tramo);
       AvisarDeInterpolados(static_cast<Campo>(c), tramos[c]);
     }
   }

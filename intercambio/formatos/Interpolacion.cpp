@@ -13,7 +13,7 @@ constexpr std::size_t DIA = static_cast<std::size_t>(HORAS_DEL_DIA);
 constexpr double VUELTA = 360.0;
 
 /// @p a + parte · (b − a); los ángulos, por el arco menor y en [0, 360).
-double Entre(Campo campo, double a, double b, double parte) {
+double EntreDos(Campo campo, double a, double b, double parte) {
   if (campo != Campo::DireccionViento) return a + parte * (b - a);
   const double angulo = std::fmod(a + parte * std::remainder(b - a, VUELTA), VUELTA);
   return angulo < 0 ? angulo + VUELTA : angulo;
@@ -38,7 +38,7 @@ int DiasHastaDato(const SerieCanonica &serie, std::size_t hora, std::size_t paso
 
 } // namespace
 
-void Interpolar(AnioCanonico &anio, Campo campo, const TramoSinDato &tramo) {
+void InterpolarHueco(AnioCanonico &anio, Campo campo, const TramoSinDato &tramo) {
   SerieCanonica &serie = anio[campo];
   const double antes = serie.valores[(tramo.primera + HORAS - 1) % HORAS];
   const double despues = serie.valores[tramo.Hora(tramo.horas)];
@@ -46,7 +46,7 @@ void Interpolar(AnioCanonico &anio, Campo campo, const TramoSinDato &tramo) {
     const std::size_t hora = tramo.Hora(k);
     const double parte = static_cast<double>(k + 1) / static_cast<double>(tramo.horas + 1);
     const bool nula = EsRadiacionSolar(campo) && EsDeNoche(serie, hora);
-    serie.Poner(hora, nula ? 0.0 : Entre(campo, antes, despues, parte), Procedencia::Calculada);
+    serie.Poner(hora, nula ? 0.0 : EntreDos(campo, antes, despues, parte), Procedencia::Calculada);
   }
 }
 
@@ -59,7 +59,7 @@ std::optional<double> DeDiasVecinos(const SerieCanonica &serie, Campo campo, std
   if (adelante == 0) return deAtras();
   if (atras == 0) return valor(static_cast<std::size_t>(adelante));
   const double parte = static_cast<double>(atras) / static_cast<double>(atras + adelante);
-  return Entre(campo, deAtras(), valor(static_cast<std::size_t>(adelante)), parte);
+  return EntreDos(campo, deAtras(), valor(static_cast<std::size_t>(adelante)), parte);
 }
 
 } // namespace tesmo

@@ -18,7 +18,7 @@ struct TramoSinDato {
 };
 
 /// Pone en el tramo los valores intermedios entre la hora de antes y la de después, como Calculada.
-void Interpolar(AnioCanonico &anio, Campo campo, const TramoSinDato &tramo);
+void InterpolarHueco(AnioCanonico &anio, Campo campo, const TramoSinDato &tramo);
 
 /// La misma hora de los días vecinos, ponderada por su cercanía; sólo valen los que no se inventaron. Vacío
 /// si no hay ninguno a menos de DIAS_VECINOS.

@@ -21,7 +21,7 @@ EscalaTiempo::EscalaTiempo(const RelojFichero &reloj, double longitud)
 double EscalaTiempo::DiaUtc(double instante) const { return (instante - huso_) / HORAS_AL_DIA; }
 
 double EscalaTiempo::ASolar(double instante) const {
-  return esSolar_ ? instante : instante + desdeCivil_ + EcuacionDelTiempo(DiaUtc(instante));
+  return esSolar_ ? instante : instante + desdeCivil_ + EcuacionDelTiempoEnHoras(DiaUtc(instante));
 }
 
 double EscalaTiempo::DeSolar(double solar) const {
@@ -29,7 +29,7 @@ double EscalaTiempo::DeSolar(double solar) const {
   // La ecuación del tiempo cambia medio minuto al día: dos vueltas la dejan exacta.
   double instante = solar - desdeCivil_;
   for (int vuelta = 0; vuelta < 2; ++vuelta) {
-    instante = solar - desdeCivil_ - EcuacionDelTiempo(DiaUtc(instante));
+    instante = solar - desdeCivil_ - EcuacionDelTiempoEnHoras(DiaUtc(instante));
   }
   return instante;
 }

@@ -21,7 +21,7 @@ AnioSintetico GenerarAnio(const NormalesLocalidad &localidad) {
   SolDelAnio sol = CalcularSolDelAnio(localidad.latitud);
   const TemperaturasDiarias dias = GenerarTemperaturasDiarias(localidad, azarTemperatura);
   const SerieDias claridad = GenerarClaridad(localidad, sol, dias, azarClaridad);
-  RadiacionHoraria radiacion = GenerarRadiacion(claridad, sol);
+  RadiacionSintetica radiacion = GenerarRadiacion(claridad, sol);
   AnioSintetico anio;
   anio.ts = GenerarTemperaturasHorarias(dias, localidad, sol);
   HumedadHoraria humedad = GenerarHumedad(anio.ts, dias, localidad, sol, PresionEnAltitud(localidad.altitud));
@@ -38,9 +38,9 @@ AnioSintetico GenerarAnio(const NormalesLocalidad &localidad) {
   return anio;
 }
 
-ValoresMensuales ClaridadesPedidas(const NormalesLocalidad &localidad) {
+ValoresPorMes ClaridadesPedidas(const NormalesLocalidad &localidad) {
   const SolDelAnio sol = CalcularSolDelAnio(localidad.latitud);
-  ValoresMensuales claridades{};
+  ValoresPorMes claridades{};
   for (std::size_t mes = 0; mes < MESES; ++mes) {
     claridades[mes] = localidad.meses[mes].ghi / MediaDelMes(sol.extraterrestre, mes);
   }

@@ -24,6 +24,6 @@ struct AnioSintetico {
 [[nodiscard]] AnioSintetico GenerarAnio(const NormalesLocalidad &localidad);
 
 /// Claridad media de cada mes que piden las normales [-]; la síntesis la sigue de 0,1 a 0,78.
-[[nodiscard]] ValoresMensuales ClaridadesPedidas(const NormalesLocalidad &localidad);
+[[nodiscard]] ValoresPorMes ClaridadesPedidas(const NormalesLocalidad &localidad);
 
 } // namespace tesmo

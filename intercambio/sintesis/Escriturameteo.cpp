@@ -58,8 +58,8 @@ FichaLocalidad Ficha(const NormalesLocalidad &localidad) {
 
 /// Doce cifras, una de cada mes.
 template <typename Cifra>
-ValoresMensuales Fila(const NormalesLocalidad &localidad, Cifra cifra) {
-  ValoresMensuales fila{};
+ValoresPorMes Fila(const NormalesLocalidad &localidad, Cifra cifra) {
+  ValoresPorMes fila{};
   for (std::size_t mes = 0; mes < MESES; ++mes) fila[mes] = cifra(localidad.meses[mes]);
   return fila;
 }
@@ -86,7 +86,7 @@ FichaGdr FichaDeDiasExtremos(const NormalesLocalidad &localidad) {
 
 std::string FicheroMet(const NormalesLocalidad &localidad) { return NombreCorto(localidad.nombre) + ".met"; }
 
-std::string TextoMet(const NormalesLocalidad &localidad, const AnioSintetico &anio) {
+std::string TextoMetSintetico(const NormalesLocalidad &localidad, const AnioSintetico &anio) {
   CabeceraMet cabecera;
   cabecera.primera = std::string(MARCA_SINTESIS) + " (no es un año medido): " + localidad.nombre + ", " +
                      localidad.provincia + "; hecho de medias mensuales publicadas" + Estimadas(localidad);

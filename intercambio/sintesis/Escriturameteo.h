@@ -14,7 +14,7 @@ inline constexpr std::string_view MARCA_SINTESIS = "Año sintético de Tesmo";
 /// Texto del .met de quince columnas (mes, día, hora, diez magnitudes y dos ceros). La primera línea dice que
 /// el año es sintético y qué cifras son estimadas; la segunda, latitud, longitud, altitud y meridiano de la
 /// hora oficial.
-[[nodiscard]] std::string TextoMet(const NormalesLocalidad &localidad, const AnioSintetico &anio);
+[[nodiscard]] std::string TextoMetSintetico(const NormalesLocalidad &localidad, const AnioSintetico &anio);
 
 /// Texto de LocalidadesCC: un bloque por provincia, en el orden en que aparecen.
 [[nodiscard]] std::string TextoLocalidades(const std::vector<NormalesLocalidad> &localidades);

@@ -73,7 +73,7 @@ HumedadHoraria GenerarHumedad(const SerieHoras &temperaturas, const Temperaturas
                               const NormalesLocalidad &localidad, const SolDelAnio &sol, double presion) {
   SerieHoras saturacion(HORAS);
   std::transform(temperaturas.begin(), temperaturas.end(), saturacion.begin(), PresionDeVapor);
-  PerfilMensual distancia(ValoresMensuales{});
+  PerfilMensual distancia(ValoresPorMes{});
   HumedadHoraria humedad;
   for (int pasada = 0; pasada < PASADAS; ++pasada) {
     humedad.rocio = RocioHorario(RocioDiario(dias, distancia), sol);

@@ -9,7 +9,7 @@
 namespace tesmo {
 
 /// Un valor por mes, enero primero.
-using ValoresMensuales = std::array<double, MESES_DEL_ANIO>;
+using ValoresPorMes = std::array<double, MESES_DEL_ANIO>;
 /// 365 valores, uno por día, y 8.760, uno por hora.
 using SerieDias = std::vector<double>;
 using SerieHoras = std::vector<double>;
@@ -35,11 +35,11 @@ inline constexpr std::size_t HORAS_POR_DIA = HORAS_DEL_DIA;
 /// a enero: lo que un mes tiene de propio pasa al siguiente sin escalón.
 class PerfilMensual {
 public:
-  explicit PerfilMensual(const ValoresMensuales &nodos) : nodos(nodos) {}
+  explicit PerfilMensual(const ValoresPorMes &nodos) : nodos(nodos) {}
   /// Valor a mediodía del @p dia del año (0 a 364).
   [[nodiscard]] double En(std::size_t dia) const;
 
-  ValoresMensuales nodos;
+  ValoresPorMes nodos;
 };
 
 /// Media de los días de @p mes (0 a 11) y desviación típica entre ellos (con n − 1).

@@ -60,7 +60,7 @@ double ParteGlobal(double hora, double puesta) {
   return (a + b * std::cos(hora)) * ParteComun(hora, puesta);
 }
 
-double ParteDifusa(double hora, double puesta) { return ParteComun(hora, puesta); }
+double ParteDifusaHoraria(double hora, double puesta) { return ParteComun(hora, puesta); }
 
 double CotaDelHaz(double extraterrestre, double cenit) {
   constexpr double TRANSMITANCIA = 0.7;
@@ -69,14 +69,14 @@ double CotaDelHaz(double extraterrestre, double cenit) {
   return extraterrestre * std::pow(TRANSMITANCIA, std::pow(masa, EXPONENTE_MASA));
 }
 
-RadiacionHoraria GenerarRadiacion(const SerieDias &claridad, const SolDelAnio &sol) {
-  RadiacionHoraria radiacion{SerieHoras(HORAS), SerieHoras(HORAS)};
+RadiacionSintetica GenerarRadiacion(const SerieDias &claridad, const SolDelAnio &sol) {
+  RadiacionSintetica radiacion{SerieHoras(HORAS), SerieHoras(HORAS)};
   for (std::size_t dia = 0; dia < DIAS; ++dia) {
     const double puesta = (12.0 - sol.salida[dia]) * pi / 12.0;
     const double total = claridad[dia] * sol.extraterrestre[dia] * VATIOS_POR_KILOVATIO;
     const double totalDifusa = total * FraccionDifusaDiaria(claridad[dia], puesta);
     const Partes global = RepartoDelDia(sol, dia, puesta, ParteGlobal);
-    const Partes difusa = RepartoDelDia(sol, dia, puesta, ParteDifusa);
+    const Partes difusa = RepartoDelDia(sol, dia, puesta, ParteDifusaHoraria);
     for (std::size_t h = 0; h < HORAS_POR_DIA; ++h) {
       const std::size_t i = dia * HORAS_POR_DIA + h;
       if (!sol.diurna[i]) continue;

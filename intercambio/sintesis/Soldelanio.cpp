@@ -42,7 +42,7 @@ double IrradianciaExtraterrestre(std::size_t dia) {
   return CONSTANTE_SOLAR * (1.0 + EXCENTRICIDAD * std::cos(2.0 * pi * n / static_cast<double>(DIAS)));
 }
 
-double EcuacionDelTiempo(double dia) {
+double EcuacionDelTiempoEnHoras(double dia) {
   constexpr double MINUTOS = 229.18; // de radianes de giro de la Tierra a minutos
   const double b = 2.0 * pi * dia / static_cast<double>(DIAS);
   return MINUTOS / 60.0 *

@@ -23,6 +23,6 @@ struct SolDelAnio {
 
 /// Tiempo solar menos tiempo civil medio [h] a los @p dia días del 1 de enero, con su fracción; continua y de
 /// período un año de 365 días (Spencer, 1971).
-[[nodiscard]] double EcuacionDelTiempo(double dia);
+[[nodiscard]] double EcuacionDelTiempoEnHoras(double dia);
 
 } // namespace tesmo

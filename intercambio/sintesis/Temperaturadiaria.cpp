@@ -100,8 +100,8 @@ void Rematar(SerieDias &serie, std::size_t mes, double media, double desviacion)
 
 Ajuste AjusteInicial(const NormalesLocalidad &localidad, double NormalesMes::*media,
                      double NormalesMes::*desviacion) {
-  ValoresMensuales medias{};
-  ValoresMensuales desviaciones{};
+  ValoresPorMes medias{};
+  ValoresPorMes desviaciones{};
   for (std::size_t mes = 0; mes < MESES; ++mes) {
     medias[mes] = localidad.meses[mes].*media;
     desviaciones[mes] = localidad.meses[mes].*desviacion;

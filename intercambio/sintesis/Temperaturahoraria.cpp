@@ -27,7 +27,7 @@ double CentroMasCercano(double hora) { return std::floor(hora) + 0.5; }
 double HoraDeMinima(const SolDelAnio &sol, std::size_t dia) { return CentroMasCercano(sol.salida[dia]); }
 
 PerfilMensual HoraDeMaxima(const NormalesLocalidad &localidad) {
-  ValoresMensuales horas{};
+  ValoresPorMes horas{};
   for (std::size_t mes = 0; mes < MESES; ++mes) {
     const std::size_t mitad = PrimerDiaDe(mes) + DiasDe(mes) / 2;
     horas[mes] = HoraSolarDeUtc(localidad.meses[mes].horaTmax, localidad.longitud, mitad);
@@ -94,7 +94,7 @@ double Hermite(const Punto &a, const Punto &b, double instante) {
 } // namespace
 
 double HoraSolarDeUtc(double horaUtc, double longitud, std::size_t dia) {
-  return horaUtc + longitud / GRADOS_POR_HORA + EcuacionDelTiempo(static_cast<double>(dia));
+  return horaUtc + longitud / GRADOS_POR_HORA + EcuacionDelTiempoEnHoras(static_cast<double>(dia));
 }
 
 SerieHoras GenerarTemperaturasHorarias(const TemperaturasDiarias &dias, const NormalesLocalidad &localidad,

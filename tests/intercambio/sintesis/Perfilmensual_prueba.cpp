@@ -7,7 +7,7 @@
 namespace tesmo {
 namespace {
 
-constexpr ValoresMensuales ESCALERA{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
+constexpr ValoresPorMes ESCALERA{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
 
 TEST(PerfilMensual, CadaDiaTieneSuMes) {
   EXPECT_EQ(MesDe(0), 0U);

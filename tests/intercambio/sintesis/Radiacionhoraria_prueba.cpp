@@ -44,7 +44,7 @@ TEST(RadiacionHoraria, LasPartesDeUnDiaSumanUno) {
     double global = 0.0;
     for (int i = 0; i < n; ++i) {
       const double hora = puesta * (2.0 * (i + 0.5) / n - 1.0);
-      difusa += ParteDifusa(hora, puesta);
+      difusa += ParteDifusaHoraria(hora, puesta);
       global += ParteGlobal(hora, puesta);
     }
     const double horas = 2.0 * puesta * 12.0 / pi / n;
@@ -69,7 +69,7 @@ class RadiacionDeUnAnio : public ::testing::TestWithParam<double> {
 protected:
   SolDelAnio sol_ = CalcularSolDelAnio(37.0);
   SerieDias claridad_ = SerieDias(DIAS, GetParam());
-  RadiacionHoraria radiacion_ = GenerarRadiacion(claridad_, sol_);
+  RadiacionSintetica radiacion_ = GenerarRadiacion(claridad_, sol_);
 };
 
 TEST_P(RadiacionDeUnAnio, LasHorasSumanElDia) {
@@ -115,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(Claridades, RadiacionDeUnAnio, ::testing::Values(0.06, 
 TEST(RadiacionHoraria, UnDiaCubiertoCasiNoTieneDirectaYUnoDespejadoCasiTodaLoEs) {
   const SolDelAnio sol = CalcularSolDelAnio(37.0);
   const auto parte = [&](double k) {
-    const RadiacionHoraria radiacion = GenerarRadiacion(SerieDias(DIAS, k), sol);
+    const RadiacionSintetica radiacion = GenerarRadiacion(SerieDias(DIAS, k), sol);
     const std::size_t mediodia = 171 * 24 + 12;
     return radiacion.directa[mediodia] / (radiacion.directa[mediodia] + radiacion.difusa[mediodia]);
   };

@@ -40,11 +40,11 @@ TEST(SolDelAnio, LaTierraEstaMasCercaDelSolEnEnero) {
 TEST(SolDelAnio, LaEcuacionDelTiempoEsLaDelAlmanaque) {
   // Extremos y un paso por cero, redondeados, de cualquier almanaque: 11 de febrero −14,2 min; 14 de mayo
   // +3,7; 26 de julio −6,5; 3 de noviembre +16,4; 15 de abril 0.
-  EXPECT_NEAR(EcuacionDelTiempo(41) * 60.0, -14.2, 0.5);
-  EXPECT_NEAR(EcuacionDelTiempo(133) * 60.0, 3.7, 0.5);
-  EXPECT_NEAR(EcuacionDelTiempo(206) * 60.0, -6.5, 0.5);
-  EXPECT_NEAR(EcuacionDelTiempo(306) * 60.0, 16.4, 0.5);
-  EXPECT_NEAR(EcuacionDelTiempo(104) * 60.0, 0.0, 0.5);
+  EXPECT_NEAR(EcuacionDelTiempoEnHoras(41) * 60.0, -14.2, 0.5);
+  EXPECT_NEAR(EcuacionDelTiempoEnHoras(133) * 60.0, 3.7, 0.5);
+  EXPECT_NEAR(EcuacionDelTiempoEnHoras(206) * 60.0, -6.5, 0.5);
+  EXPECT_NEAR(EcuacionDelTiempoEnHoras(306) * 60.0, 16.4, 0.5);
+  EXPECT_NEAR(EcuacionDelTiempoEnHoras(104) * 60.0, 0.0, 0.5);
 }
 
 TEST(SolDelAnio, DeNocheElCenitEs90YElAcimutCero) {
