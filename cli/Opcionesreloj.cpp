@@ -2,7 +2,7 @@
 
 #include "cli/Argumentos.h"
 #include "core/Ficheros.h"
-#include "intercambio/Aniocanonico.h"
+#include "intercambio/comun/Aniocanonico.h"
 
 #include <array>
 #include <utility>

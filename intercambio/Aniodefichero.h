@@ -1,6 +1,6 @@
 #pragma once
 
-#include "intercambio/Aniosolar.h"
+#include "intercambio/conversion/Aniosolar.h"
 #include "intercambio/formatos/Lectura.h"
 #include "intercambio/reloj/Eleccionreloj.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "intercambio/Aniosolar.h"
 #include "intercambio/auditoria/Auditoria.h"
 #include "intercambio/auditoria/Materia.h"
+#include "intercambio/conversion/Aniosolar.h"
 #include "intercambio/escritura/Importacion.h"
 
 #include <memory>

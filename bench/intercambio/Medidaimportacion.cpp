@@ -1,8 +1,8 @@
 #include "core/Ficheros.h"
 #include "intercambio/Importacionlote.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/escritura/Textoepw.h"
-#include "intercambio/sintesis/Perfilmensual.h"
-#include "intercambio/sintesis/Soldelanio.h"
+#include "intercambio/fisica/Soldelanio.h"
 
 #include <benchmark/benchmark.h>
 

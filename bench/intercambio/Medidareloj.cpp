@@ -1,6 +1,6 @@
-#include "intercambio/Aniosolar.h"
+#include "intercambio/conversion/Aniosolar.h"
+#include "intercambio/fisica/Soldelanio.h"
 #include "intercambio/reloj/Detectorreloj.h"
-#include "intercambio/sintesis/Soldelanio.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 #include "intercambio/auditoria/Hallazgos.h"
 
 #include "core/Formato.h"
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "intercambio/auditoria/Comprobaciones.h"
 #include "intercambio/auditoria/Hallazgos.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/magnitudes/Cielo.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 #include "psicro/Atmosfera.h"
 #include "psicro/Constantes.h"
 #include "psicro/Saturacion.h"

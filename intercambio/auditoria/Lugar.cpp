@@ -1,7 +1,7 @@
 #include "intercambio/auditoria/Comprobaciones.h"
 #include "intercambio/auditoria/Hallazgos.h"
 #include "intercambio/auditoria/Radiaciondehora.h"
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "psicro/Atmosfera.h"
 
 #include <algorithm>

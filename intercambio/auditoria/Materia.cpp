@@ -1,10 +1,10 @@
 #include "intercambio/auditoria/Materia.h"
 
 #include "core/Unidades.h"
+#include "intercambio/fisica/Soldelanio.h"
 #include "intercambio/reloj/Eleccionreloj.h"
 #include "intercambio/reloj/Muestrasreloj.h"
 #include "intercambio/reloj/Soldereloj.h"
-#include "intercambio/sintesis/Soldelanio.h"
 
 #include <algorithm>
 #include <cmath>

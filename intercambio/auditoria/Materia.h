@@ -1,6 +1,6 @@
 #pragma once
 
-#include "intercambio/Aniocanonico.h"
+#include "intercambio/comun/Aniocanonico.h"
 #include "intercambio/formatos/Lectura.h"
 #include "intercambio/reloj/Detectorreloj.h"
 #include "intercambio/sintesis/Normales.h"

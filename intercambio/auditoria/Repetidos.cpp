@@ -1,7 +1,7 @@
 #include "core/Calendario.h"
 #include "intercambio/auditoria/Comprobaciones.h"
 #include "intercambio/auditoria/Hallazgos.h"
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 
 #include <algorithm>
 #include <cmath>

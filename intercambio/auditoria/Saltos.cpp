@@ -1,6 +1,6 @@
 #include "intercambio/auditoria/Comprobaciones.h"
 #include "intercambio/auditoria/Hallazgos.h"
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "localidades/Objetociudad.h"
 
 #include <optional>

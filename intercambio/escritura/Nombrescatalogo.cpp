@@ -1,8 +1,8 @@
 #include "intercambio/escritura/Nombrescatalogo.h"
 
 #include "core/Codificacion.h"
+#include "intercambio/comun/Nombrecorto.h"
 #include "intercambio/escritura/Composicion.h"
-#include "intercambio/sintesis/Nombrecorto.h"
 #include "localidades/Lineaslocalidades.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "intercambio/Aniosolar.h"
+#include "intercambio/conversion/Aniosolar.h"
 
 #include <string>
 

@@ -1,9 +1,9 @@
 #include "intercambio/escritura/Textoepw.h"
 
 #include "core/Formato.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/escritura/Nombrescatalogo.h"
 #include "intercambio/escritura/Textomet.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 #include "meteo/Fecha.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "core/Codificacion.h"
 #include "core/Formato.h"
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 
 #include <algorithm>
 

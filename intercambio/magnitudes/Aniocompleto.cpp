@@ -1,9 +1,9 @@
 #include "intercambio/magnitudes/Aniocompleto.h"
 
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/magnitudes/Cielo.h"
 #include "intercambio/magnitudes/Humedad.h"
 #include "intercambio/magnitudes/Radiacion.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 
 #include <algorithm>
 #include <cmath>

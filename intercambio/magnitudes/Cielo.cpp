@@ -1,10 +1,10 @@
 #include "intercambio/magnitudes/Cielo.h"
 
 #include "core/Unidades.h"
+#include "intercambio/comun/Perfilmensual.h"
+#include "intercambio/fisica/Emisividadcielo.h"
+#include "intercambio/fisica/Soldelanio.h"
 #include "intercambio/magnitudes/Humedad.h"
-#include "intercambio/sintesis/Cielosintetico.h"
-#include "intercambio/sintesis/Perfilmensual.h"
-#include "intercambio/sintesis/Soldelanio.h"
 
 #include <cmath>
 

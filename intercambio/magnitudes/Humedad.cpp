@@ -1,6 +1,6 @@
 #include "intercambio/magnitudes/Humedad.h"
 
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "psicro/Atmosfera.h"
 #include "psicro/Saturacion.h"
 

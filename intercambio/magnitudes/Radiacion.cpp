@@ -1,7 +1,7 @@
 #include "intercambio/magnitudes/Radiacion.h"
 
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/reloj/Soldereloj.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "intercambio/reloj/Cortes.h"
 
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "intercambio/reloj/Diasclaros.h"
 
 #include "core/Unidades.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/reloj/Escalatiempo.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "intercambio/Aniocanonico.h"
+#include "intercambio/comun/Aniocanonico.h"
 
 #include <cstddef>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "intercambio/reloj/Escalatiempo.h"
 
 #include "core/Unidades.h"
-#include "intercambio/sintesis/Soldelanio.h"
+#include "intercambio/fisica/Soldelanio.h"
 
 #include <cmath>
 

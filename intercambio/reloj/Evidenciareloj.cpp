@@ -1,8 +1,8 @@
 #include "intercambio/reloj/Evidenciareloj.h"
 
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/reloj/Diasclaros.h"
 #include "intercambio/reloj/Muestrasreloj.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 
 #include <algorithm>
 #include <cmath>

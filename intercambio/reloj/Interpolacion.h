@@ -2,7 +2,7 @@
 
 #include "intercambio/reloj/Cortes.h"
 
-#include "intercambio/Aniocanonico.h"
+#include "intercambio/comun/Aniocanonico.h"
 
 #include <vector>
 

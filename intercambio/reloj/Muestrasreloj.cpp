@@ -1,8 +1,8 @@
 #include "intercambio/reloj/Muestrasreloj.h"
 
 #include "core/Unidades.h"
-#include "intercambio/reloj/Solverdadero.h"
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
+#include "intercambio/fisica/Solverdadero.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "intercambio/reloj/Repartoradiacion.h"
 
-#include "intercambio/Aniocanonico.h"
+#include "intercambio/comun/Aniocanonico.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/reloj/Cortes.h"
 #include "intercambio/reloj/Soldereparto.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "intercambio/reloj/Soldereloj.h"
 
 #include "core/Unidades.h"
-#include "intercambio/reloj/Solverdadero.h"
+#include "intercambio/fisica/Solverdadero.h"
 
 #include <cmath>
 

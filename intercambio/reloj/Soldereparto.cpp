@@ -1,9 +1,9 @@
 #include "intercambio/reloj/Soldereparto.h"
 
 #include "core/Unidades.h"
-#include "intercambio/reloj/Solverdadero.h"
-#include "intercambio/sintesis/Perfilmensual.h"
-#include "intercambio/sintesis/Soldelanio.h"
+#include "intercambio/comun/Perfilmensual.h"
+#include "intercambio/fisica/Soldelanio.h"
+#include "intercambio/fisica/Solverdadero.h"
 #include "solar/Geometria.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/sintesis/Normales.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 
 namespace tesmo {
 

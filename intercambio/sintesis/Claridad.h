@@ -1,8 +1,8 @@
 #pragma once
 
+#include "intercambio/fisica/Soldelanio.h"
 #include "intercambio/sintesis/Azar.h"
 #include "intercambio/sintesis/Normales.h"
-#include "intercambio/sintesis/Soldelanio.h"
 #include "intercambio/sintesis/Temperaturadiaria.h"
 
 namespace tesmo {

@@ -1,8 +1,8 @@
 #include "intercambio/sintesis/Escriturameteo.h"
 
+#include "intercambio/comun/Nombrecorto.h"
 #include "intercambio/escritura/Fichacatalogo.h"
 #include "intercambio/escritura/Textomet.h"
-#include "intercambio/sintesis/Nombrecorto.h"
 
 #include <algorithm>
 #include <array>

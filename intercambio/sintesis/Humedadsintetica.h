@@ -1,7 +1,7 @@
 #pragma once
 
+#include "intercambio/fisica/Soldelanio.h"
 #include "intercambio/sintesis/Normales.h"
-#include "intercambio/sintesis/Soldelanio.h"
 #include "intercambio/sintesis/Temperaturadiaria.h"
 
 namespace tesmo {

@@ -1,9 +1,9 @@
 #include "intercambio/sintesis/Normales.h"
 
 #include "core/Codificacion.h"
+#include "intercambio/comun/Nombrecorto.h"
 #include "intercambio/sintesis/Columnasnormales.h"
 #include "intercambio/sintesis/Filanormales.h"
-#include "intercambio/sintesis/Nombrecorto.h"
 
 #include <algorithm>
 #include <bitset>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "intercambio/sintesis/Soldelanio.h"
+#include "intercambio/fisica/Soldelanio.h"
 
 namespace tesmo {
 

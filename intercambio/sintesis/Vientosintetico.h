@@ -1,8 +1,8 @@
 #pragma once
 
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/sintesis/Azar.h"
 #include "intercambio/sintesis/Normales.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 
 namespace tesmo {
 

@@ -2,7 +2,7 @@
 
 #include "core/Codificacion.h"
 #include "core/Ficheros.h"
-#include "intercambio/Aniocanonico.h"
+#include "intercambio/comun/Aniocanonico.h"
 #include "intercambio/formatos/Clavesmapa.h"
 #include "vistas/comun/Casillanumero.h"
 #include "vistas/comun/Textoqt.h"

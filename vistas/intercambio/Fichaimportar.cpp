@@ -1,8 +1,8 @@
 #include "vistas/intercambio/Fichaimportar.h"
 
-#include "intercambio/Aniocanonico.h"
 #include "intercambio/Aniodefichero.h"
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Aniocanonico.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "vistas/comun/Casillanumero.h"
 #include "vistas/comun/Textoqt.h"
 #include "vistas/intercambio/Dibujoreloj.h"

@@ -1,6 +1,6 @@
 #include "tests/intercambio/auditoria/Materiadeprueba.h"
 
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "psicro/Atmosfera.h"
 #include "psicro/Constantes.h"
 #include "psicro/Saturacion.h"

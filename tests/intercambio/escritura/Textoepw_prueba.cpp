@@ -1,7 +1,7 @@
 #include "core/Ficheros.h"
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/escritura/Textoepw.h"
 #include "intercambio/formatos/Lectura.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 #include "tests/comun/Datosreales.h"
 #include "tests/intercambio/escritura/Apoyosescritura.h"
 #include "tests/intercambio/reloj/Aniofisico.h"

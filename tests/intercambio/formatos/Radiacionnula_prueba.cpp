@@ -1,4 +1,4 @@
-#include "intercambio/Aniosolar.h"
+#include "intercambio/conversion/Aniosolar.h"
 #include "tests/intercambio/formatos/Generadorclima.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
+#include "intercambio/comun/Perfilmensual.h"
 #include "intercambio/magnitudes/Aniocompleto.h"
 #include "intercambio/magnitudes/Cielo.h"
 #include "intercambio/magnitudes/Humedad.h"
 #include "intercambio/magnitudes/Radiacion.h"
-#include "intercambio/sintesis/Perfilmensual.h"
 #include "tests/comun/Apoyos.h"
 #include "tests/intercambio/reloj/Aniofisico.h"
 

@@ -1,3 +1,4 @@
+#include "intercambio/fisica/Emisividadcielo.h"
 #include "intercambio/sintesis/Cielosintetico.h"
 #include "intercambio/sintesis/Humedadsintetica.h"
 #include "intercambio/sintesis/Temperaturahoraria.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "intercambio/Aniosolar.h"
+#include "intercambio/conversion/Aniosolar.h"
+#include "intercambio/conversion/Radiacionsolar.h"
+#include "intercambio/fisica/Soldelanio.h"
 #include "intercambio/magnitudes/Aniocompleto.h"
-#include "intercambio/reloj/Radiacionsolar.h"
-#include "intercambio/sintesis/Soldelanio.h"
 
 namespace tesmo {
 

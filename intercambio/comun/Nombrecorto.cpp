@@ -1,4 +1,4 @@
-#include "intercambio/sintesis/Nombrecorto.h"
+#include "intercambio/comun/Nombrecorto.h"
 
 namespace tesmo {
 

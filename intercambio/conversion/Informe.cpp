@@ -1,4 +1,4 @@
-#include "intercambio/reloj/Informe.h"
+#include "intercambio/conversion/Informe.h"
 
 #include "intercambio/reloj/Soldereloj.h"
 #include "intercambio/reloj/Soldereparto.h"

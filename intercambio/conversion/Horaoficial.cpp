@@ -1,4 +1,4 @@
-#include "intercambio/Aniosolar.h"
+#include "intercambio/conversion/Aniosolar.h"
 
 #include "core/Unidades.h"
 #include "intercambio/magnitudes/Cielo.h"

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "intercambio/fisica/Soldelanio.h"
 #include "intercambio/magnitudes/Aniocompleto.h"
 #include "intercambio/reloj/Cortes.h"
-#include "intercambio/sintesis/Soldelanio.h"
 
 #include <vector>
 

@@ -1,11 +1,11 @@
-#include "intercambio/Aniosolar.h"
+#include "intercambio/conversion/Aniosolar.h"
 
 #include "core/Unidades.h"
+#include "intercambio/conversion/Informe.h"
+#include "intercambio/conversion/Radiacionsolar.h"
 #include "intercambio/magnitudes/Aniocompleto.h"
 #include "intercambio/magnitudes/Humedad.h"
-#include "intercambio/reloj/Informe.h"
 #include "intercambio/reloj/Interpolacion.h"
-#include "intercambio/reloj/Radiacionsolar.h"
 #include "solar/Geometria.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "intercambio/reloj/Solverdadero.h"
+#include "intercambio/fisica/Solverdadero.h"
 
 #include "core/Calendario.h"
 #include "core/Unidades.h"

@@ -1,6 +1,6 @@
-#include "intercambio/Aniosolar.h"
-#include "intercambio/sintesis/Perfilmensual.h"
-#include "intercambio/sintesis/Soldelanio.h"
+#include "intercambio/comun/Perfilmensual.h"
+#include "intercambio/conversion/Aniosolar.h"
+#include "intercambio/fisica/Soldelanio.h"
 #include "solar/Posicionsolar.h"
 #include "tests/intercambio/reloj/Aniofisico.h"
 

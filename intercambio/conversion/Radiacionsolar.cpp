@@ -1,4 +1,4 @@
-#include "intercambio/reloj/Radiacionsolar.h"
+#include "intercambio/conversion/Radiacionsolar.h"
 
 #include "core/Unidades.h"
 #include "intercambio/reloj/Repartoradiacion.h"

@@ -1,4 +1,4 @@
-#include "intercambio/sintesis/Soldelanio.h"
+#include "intercambio/fisica/Soldelanio.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "intercambio/sintesis/Perfilmensual.h"
+#include "intercambio/comun/Perfilmensual.h"
 
 #include <cmath>
 #include <numeric>

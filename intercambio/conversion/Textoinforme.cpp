@@ -1,4 +1,4 @@
-#include "intercambio/Aniosolar.h"
+#include "intercambio/conversion/Aniosolar.h"
 #include "intercambio/reloj/Detectorreloj.h"
 #include "intercambio/reloj/Textoreloj.h"
 
