@@ -122,6 +122,21 @@ QString CasillaReal::textFromValue(double valor) const {
   return Texto(FormatearPatron(valor, decimales.empty() ? "0" : "0." + decimales));
 }
 
+namespace {
+
+/// Donde el puntero deje el cursor entre las palabras de @p especial se puede teclear: de @p numero, con el
+/// cursor en @p cursor, queda lo tecleado. Vacío si lo que hay tras el cursor no es el final de @p especial.
+std::optional<QString> TecleadoEntre(const QString &especial, const QString &numero, qsizetype cursor) {
+  const QString detras = numero.mid(cursor);
+  if (!especial.endsWith(detras)) return std::nullopt;
+  const auto distinto = std::mismatch(numero.begin(), numero.begin() + cursor, especial.begin(),
+                                      especial.end() - detras.size());
+  const qsizetype delante = distinto.first - numero.begin();
+  return numero.mid(delante, cursor - delante);
+}
+
+} // namespace
+
 /// «Sin valor» es el mínimo de la casilla, una última cifra por debajo del menor número.
 CasillaOpcional::CasillaOpcional(double menor, double mayor, int decimales, const QString &sinValor,
                                  QWidget *padre)
@@ -144,7 +159,17 @@ void CasillaOpcional::stepBy(int pasos) {
 }
 
 QValidator::State CasillaOpcional::validate(QString &texto, int &cursor) const {
-  return texto == specialValueText() ? QValidator::Acceptable : CasillaReal::validate(texto, cursor);
+  if (texto == specialValueText()) return QValidator::Acceptable;
+  const QValidator::State estado = CasillaReal::validate(texto, cursor);
+  if (estado != QValidator::Invalid) return estado;
+  Partes partes(*this, texto);
+  const qsizetype sitio = std::clamp<qsizetype>(cursor - partes.prefijo.size(), 0, partes.numero.size());
+  const auto tecleado = TecleadoEntre(specialValueText(), partes.numero, sitio);
+  if (!tecleado || !SePuedeTeclear(*tecleado)) return QValidator::Invalid;
+  partes.numero = *tecleado;
+  texto = partes.Juntas();
+  cursor = static_cast<int>(partes.prefijo.size() + tecleado->size());
+  return CasillaReal::validate(texto, cursor);
 }
 
 void CasillaOpcional::fixup(QString &texto) const {

@@ -225,6 +225,44 @@ private slots:
     QCOMPARE(casilla.Valor(), std::nullopt);
   }
 
+  void loTecleadoEntreLasPalabrasDeLaOpcionalLasReemplaza_data() {
+    QTest::addColumn<int>("sitio");
+    QTest::addColumn<int>("elegidas");
+    QTest::newRow("al principio") << 0 << 0;
+    QTest::newRow("en medio") << 6 << 0;
+    QTest::newRow("al final") << 10 << 0;
+    QTest::newRow("con una palabra elegida") << 3 << 2;
+  }
+  void loTecleadoEntreLasPalabrasDeLaOpcionalLasReemplaza() {
+    QFETCH(const int, sitio);
+    QFETCH(const int, elegidas);
+    CasillaOpcional casilla(-450.0, 9000.0, 1, QStringLiteral("no se sabe"));
+    casilla.setPrefix(QStringLiteral("a "));
+    casilla.setSuffix(QStringLiteral(" m"));
+    auto &texto = *casilla.findChild<QLineEdit *>();
+    texto.setCursorPosition(sitio);
+    if (elegidas > 0) texto.setSelection(sitio, elegidas);
+    QTest::keyClicks(&texto, QStringLiteral("-35,5"));
+    QCOMPARE(casilla.text(), QStringLiteral("a ") + Regional("-35,5") + QStringLiteral(" m"));
+    QTest::keyClick(&casilla, Qt::Key_Return);
+    QCOMPARE(casilla.Valor(), std::optional(-35.5));
+  }
+
+  void unaLetraEntreLasPalabrasDeLaOpcionalNoEntraYBorrarUnaLasQuita() {
+    CasillaOpcional casilla(-450.0, 9000.0, 1, QStringLiteral("no se sabe"));
+    auto &texto = *casilla.findChild<QLineEdit *>();
+    for (const char letra : {'x', 's'}) {
+      texto.setCursorPosition(6);
+      QTest::keyClick(&texto, letra);
+      QCOMPARE(casilla.text(), QStringLiteral("no se sabe"));
+    }
+    QTest::keyClick(&texto, Qt::Key_Backspace);
+    QCOMPARE(casilla.text(), QString());
+    QTest::keyClick(&casilla, Qt::Key_Return);
+    QCOMPARE(casilla.text(), QStringLiteral("no se sabe"));
+    QCOMPARE(casilla.Valor(), std::nullopt);
+  }
+
   void laOpcionalTieneElCeroYSuMenorNumero() {
     CasillaOpcional casilla(-14.0, 14.0, 2, QStringLiteral("el de la longitud"));
     for (const double valor : {0.0, -14.0, 5.75}) {
