@@ -212,6 +212,7 @@ void VistaPrograma::Actualizar() {
 }
 
 void VistaPrograma::Visualizar() {
+  const Accion accion(*this);
   if (!vistaEntorno_->visualizar()) return;
   if (!DameLeerMet()->Resumen().Completa() || !AltitudCreible(DameLeerMet()->TercerDato())) {
     DecirCarga(); // lo que le falta al fichero importa más que cómo se maneja el gráfico
@@ -224,12 +225,17 @@ void VistaPrograma::Visualizar() {
 void VistaPrograma::ActualizarVisibles() { vistaEntorno_->actualizarVisibles(); }
 void VistaPrograma::AplicarColores() { vistaEntorno_->aplicarColores(); }
 void VistaPrograma::EjesPorUnidad() { vistaEntorno_->EjesPorUnidad(); }
-void VistaPrograma::CalcularDiasExtremos() { vistaDiasExtremos_->btnCalDiaExtClick(); }
+void VistaPrograma::CalcularDiasExtremos() {
+  const Accion accion(*this);
+  vistaDiasExtremos_->btnCalDiaExtClick();
+}
+
 void VistaPrograma::ElegirMagnitudesExtremas() { vistaDiasExtremos_->CheckListBox1ClickCheck(); }
 void VistaPrograma::VisualizarFicherosExtremos() { vistaDiasExtremos_->Button1Click(); }
 
 /// La presión cambia con la altitud y con ella las magnitudes derivadas que se estén viendo.
 void VistaPrograma::CambiarAltitud() {
+  const Accion accion(*this);
   if (vistaEntorno_->HaySeries()) Visualizar();
 }
 

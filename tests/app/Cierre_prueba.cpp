@@ -69,9 +69,20 @@ private slots:
     QVERIFY(mensajes_->apuntes.empty());
   }
 
+  void laVentanaSigueEnPieMientrasHayUnMensajeDelante_data() {
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<bool>("conGrafico");
+    for (const char *boton : {"btnActualizar", "btnSimulacion", "btnNubes", "btnCalDiaExt"})
+      QTest::addRow("%s sin localidad", boton) << boton << false;
+    for (const char *control : {"btnActualizar", "btnSimulacion", "btnNubes", "csAltitud"})
+      QTest::addRow("%s con una casilla vacía", control) << control << true;
+  }
   void laVentanaSigueEnPieMientrasHayUnMensajeDelante() {
+    QFETCH(const QString, control);
+    QFETCH(const bool, conGrafico);
+    if (conGrafico) DejarUnaCasillaVacia();
     mensajes_->conElDelante = [this] { marco_->Orden("mnuCerrar").trigger(); };
-    marco_->Numero(0).Pulsar("btnActualizar"); // sin localidad: lo dice
+    Usar(control.toLatin1().constData());
     QCOMPARE(mensajes_->apuntes.size(), 1U);
     QCOMPARE(Ventanas(), 1);
     QVERIFY(marco_->Numero(0).Controlador().DameFormulario().isVisible());
@@ -88,13 +99,24 @@ private:
     QCOMPARE(mensajes_->apuntes.size(), 1U);
     TeclearSinTerminar("tsValores", casilla);
   }
-  /// Con el gráfico a la vista y una casilla de la superficie vacía: rehacerlo lo diría.
   void DejarLaAltitudAMedias() {
+    DejarUnaCasillaVacia();
+    TeclearSinTerminar("tsPsicrometrico", QStringLiteral("csAltitud"));
+  }
+  /// Con el gráfico a la vista y una casilla de la superficie vacía: rehacerlo lo diría.
+  void DejarUnaCasillaVacia() {
     const Ventana ventana = marco_->Numero(0);
     ventana.Localidad("Almería");
     ventana.Pulsar("btnSimulacion");
     ventana.Buscar<QLineEdit>("edInclinacion").clear();
-    TeclearSinTerminar("tsPsicrometrico", QStringLiteral("csAltitud"));
+  }
+  /// Pulsa el botón, o teclea en la casilla y termina.
+  void Usar(const char *control) {
+    const Ventana ventana = marco_->Numero(0);
+    if (auto *boton = ventana.Controlador().DameFormulario().findChild<QPushButton *>(QLatin1String(control)))
+      return boton->click();
+    TeclearSinTerminar("tsPsicrometrico", QLatin1String(control));
+    QTest::keyClick(&ventana.Buscar<QAbstractSpinBox>(control), Qt::Key_Return);
   }
   void TeclearSinTerminar(const char *pagina, const QString &casilla) {
     const Ventana ventana = marco_->Numero(0);

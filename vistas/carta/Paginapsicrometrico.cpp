@@ -151,10 +151,7 @@ QGroupBox *PaginaPsicrometrico::CrearNube() {
   auto *botones = new QHBoxLayout;
   QPushButton *nubes = CrearBoton("btnNubes", tr("&Representar"), tr("Marca las horas del período"));
   QPushButton *limpiar = CrearBoton("btnLimpiar", tr("Limp&iar"), tr("Quita las marcas"));
-  connect(nubes, &QPushButton::clicked, this, [this] {
-    TerminarDeTeclear();
-    emit representarPedido();
-  });
+  connect(nubes, &QPushButton::clicked, this, &PaginaPsicrometrico::representarPedido);
   connect(limpiar, &QPushButton::clicked, this, &PaginaPsicrometrico::limpiarPedido);
   botones->addWidget(nubes);
   botones->addWidget(limpiar);
@@ -215,7 +212,6 @@ void PaginaPsicrometrico::PonAltitud(double altitud, bool delUsuario) {
   btnAltitudFichero_->setEnabled(delUsuario);
 }
 
-/// La tecla de un botón lo pulsa sin salir de la casilla en que se está.
 void PaginaPsicrometrico::TerminarDeTeclear() {
   for (QSpinBox *hora : {csPHorIni_, csPHorFin_}) hora->interpretText();
   csAltitud_->interpretText();

@@ -37,6 +37,9 @@ public:
   void PonColorPunto(const QColor &color);
   /// Altitud en uso [m], sin emitir señales.
   void PonAltitud(double altitud, bool delUsuario);
+  /// Da por terminado lo que se teclea, que puede emitir altitudCambiada: la tecla de un botón lo pulsa sin
+  /// salir de la casilla en que se está.
+  void TerminarDeTeclear();
   [[nodiscard]] int HoraInicial() const;
   [[nodiscard]] int HoraFinal() const;
 
@@ -60,7 +63,6 @@ private:
   QGroupBox *CrearNube();
   QGroupBox *CrearFamilias();
   void CrearAltitud(QGridLayout &rejilla);
-  void TerminarDeTeclear();
   QSpinBox *CrearHora(const char *nombre, int valor);
 
   MarcoCarta *marco_ = nullptr;

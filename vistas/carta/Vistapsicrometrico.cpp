@@ -1,5 +1,6 @@
 #include "vistas/carta/Vistapsicrometrico.h"
 
+#include "app/Accion.h"
 #include "app/Carga.h"
 #include "app/Programa.h"
 #include "app/Seleccion.h"
@@ -9,13 +10,13 @@
 #include "psicro/Psicrometrico.h"
 #include "vistas/carta/Marcocarta.h"
 #include "vistas/carta/Paginapsicrometrico.h"
+#include "vistas/carta/Superficiepintor.h"
 #include "vistas/carta/Tablapuntos.h"
 #include "vistas/colores/Selectorcolor.h"
 #include "vistas/comun/Cursorocupado.h"
 #include "vistas/comun/Guardardibujo.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
-#include "vistas/carta/Superficiepintor.h"
 
 #include <QMenu>
 
@@ -164,6 +165,8 @@ void Vistapsicrometrico::FijarPunto(int x, int y) {
 
 void Vistapsicrometrico::representar() {
   const CursorOcupado ocupado;
+  const Accion accion(programa_);
+  pagina_.TerminarDeTeclear(); // dentro de la acción: la altitud también carga
   seleccion_.PonPeriodo(panel_.LeerPeriodo());
   // Las dos series que se marcan están en el fichero: no hay nada que derivar.
   if (!ventana_.cargar()) return;

@@ -197,6 +197,20 @@ private slots:
     QCOMPARE(Carta().damePresion(), PresionA(1500.0F));
   }
 
+  void loQueFaltaSeDiceUnaVezAunqueSeEsteTecleandoLaAltitud() {
+    ventana_->Localidad("Almería");
+    ventana_->Pulsar("btnSimulacion"); // con series, la altitud las rehace
+    Control<QLineEdit>("edInclinacion").clear();
+    auto &altitud = Control<QDoubleSpinBox>("csAltitud");
+    altitud.setFocus();
+    altitud.selectAll();
+    QTest::keyClicks(&altitud, QStringLiteral("1500"));
+    Control<QPushButton>("btnNubes").click();
+    QCOMPARE(marco_->mensajes.apuntes.size(), std::size_t(1));
+    QVERIFY(marco_->mensajes.apuntes[0].texto.find("Inclinación") != std::string::npos);
+    QCOMPARE(Carta().damePresion(), PresionA(1500.0F));
+  }
+
   void representarElAnioDibujaUnaSolaVez() {
     ventana_->Localidad("Almería");
     ventana_->PonAnioEntero();
