@@ -207,19 +207,15 @@ void DialogoImportar::PrepararUno(std::size_t i) {
 }
 
 bool DialogoImportar::NombreYaImportado(std::size_t i) const {
-  const std::string nombre = TextoDeCampo(ficheros_[i].peticion.nombre);
-  for (std::size_t j = 0; j < ficheros_.size(); ++j) {
-    if (marchas_[j].estado == Estado::Importado && TextoDeCampo(ficheros_[j].peticion.nombre) == nombre)
-      return true;
-  }
-  return false;
+  const auto importado = importados_.find(TextoDeCampo(ficheros_[i].peticion.nombre));
+  return importado != importados_.end() && importado->second != ficheros_[i].ruta;
 }
 
 void DialogoImportar::ImportarUno(std::size_t i) {
   FicheroImportado importado;
   if (NombreYaImportado(i)) { // ni aunque se pida reemplazar: se perdería el que se acaba de importar
     importado.resultado.fallo = FalloImportacion::Peticion;
-    importado.resultado.error = "otro fichero de la lista ya se ha importado con ese nombre; póngale otro";
+    importado.resultado.error = "otro fichero ya se ha importado con ese nombre; póngale otro";
   } else {
     importado = ImportarFichero(servicios_.directorio, ficheros_[i]);
   }
@@ -231,6 +227,7 @@ void DialogoImportar::ImportarUno(std::size_t i) {
                                               : tr("importada");
   resumen_ += ResumenDe(i, importado);
   if (!hecho) return;
+  importados_[resultado.registro.localidad] = ficheros_[i].ruta;
   servicios_.alta(resultado.registro);
   ficha_->OfrecerProvincia(Texto(resultado.registro.provincia));
 }

@@ -8,6 +8,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -82,7 +83,7 @@ private:
   void Acabar();
   void PrepararUno(std::size_t i);
   void ImportarUno(std::size_t i);
-  /// ¿Hay en la lista otro fichero ya importado con el nombre del @p i?
+  /// ¿Se ha importado ya otro fichero con el nombre del @p i?
   [[nodiscard]] bool NombreYaImportado(std::size_t i) const;
   [[nodiscard]] std::optional<std::size_t> Siguiente() const;
   [[nodiscard]] std::size_t Contar(Estado estado) const;
@@ -96,6 +97,8 @@ private:
   ServiciosImportar servicios_;
   std::deque<FicheroImportable> ficheros_; ///< no se mueven: la ficha apunta al elegido
   std::vector<Marcha> marchas_;
+  /// Fichero de cada localidad importada: su fila puede cambiar de nombre o quitarse.
+  std::map<std::string, std::string> importados_;
   Trabajo trabajo_ = Trabajo::Ninguno;
   bool cancelado_ = false;
   std::size_t hechos_ = 0;

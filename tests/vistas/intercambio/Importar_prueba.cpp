@@ -134,6 +134,36 @@ private slots:
              qPrintable(Pagina(dialogo, "meResumen")));
   }
 
+  void elNombreYaImportadoSeRecuerdaAunqueSuFilaCambieOSeQuite_data() {
+    QTest::addColumn<bool>("quitada");
+    QTest::newRow("con otro nombre") << false;
+    QTest::newRow("quitada") << true;
+  }
+  void elNombreYaImportadoSeRecuerdaAunqueSuFilaCambieOSeQuite() {
+    QFETCH(const bool, quitada);
+    DialogoImportar &dialogo = Abrir();
+    const QString uno = Escribir("uno.epw", LineasEpw());
+    AnadirComo(dialogo, uno, "Sitio");
+    ImportarTodos(dialogo);
+    QVERIFY(Pagina(dialogo, "meResumen").contains(QStringLiteral("Importadas: 1.")));
+    if (quitada)
+      Pulsar(dialogo, "btnQuitar");
+    else
+      Control<QLineEdit>(dialogo, "edLocalidad").setText(QStringLiteral("Otro sitio"));
+    AnadirComo(dialogo, Escribir("dos.csv", LineasTmy3()), "Sitio");
+    QTest::keyClick(&Control<QWidget>(dialogo, "cbReemplazar"), Qt::Key_Space);
+    ImportarTodos(dialogo);
+    QVERIFY2(Pagina(dialogo, "meResumen").contains(QStringLiteral("ya se ha importado con ese nombre")),
+             qPrintable(Pagina(dialogo, "meResumen")));
+    if (!quitada) return;
+    Pulsar(dialogo, "btnQuitar");
+    AnadirComo(dialogo, uno, "Sitio"); // el mismo fichero sí se puede corregir
+    QTest::keyClick(&Control<QWidget>(dialogo, "cbReemplazar"), Qt::Key_Space);
+    ImportarTodos(dialogo);
+    QVERIFY2(Pagina(dialogo, "meResumen").contains(QStringLiteral("Importadas: 1.")),
+             qPrintable(Pagina(dialogo, "meResumen")));
+  }
+
   void zonaHuecosYHusoLleganAlFichero() {
     DialogoImportar &dialogo = Abrir();
     dialogo.Anadir({Escribir("prueba.epw", LineasEpw())});
@@ -222,6 +252,19 @@ private slots:
   }
 
 private:
+  /// Añade @p ruta, la elige y la deja en Granada con el nombre @p localidad.
+  static void AnadirComo(DialogoImportar &dialogo, const QString &ruta, const char *localidad) {
+    dialogo.Anadir({ruta});
+    QTRY_VERIFY_WITH_TIMEOUT(!dialogo.Trabajando(), ESPERA);
+    auto &tabla = Control<QTableWidget>(dialogo, "tablaFicheros");
+    tabla.selectRow(tabla.rowCount() - 1);
+    Control<QLineEdit>(dialogo, "edLocalidad").setText(QString::fromUtf8(localidad));
+    Control<QComboBox>(dialogo, "cbProvincia").setCurrentText(QStringLiteral("Granada"));
+  }
+  static void ImportarTodos(const DialogoImportar &dialogo) {
+    Pulsar(dialogo, "btnImportar");
+    QTRY_VERIFY_WITH_TIMEOUT(!dialogo.Trabajando(), ESPERA);
+  }
   [[nodiscard]] static bool Hay(const std::string &ruta) {
     return std::filesystem::is_regular_file(RutaDesdeTexto(ruta));
   }
