@@ -33,7 +33,7 @@ const QStringList EXTENSIONES{QStringLiteral("*.epw"),  QStringLiteral("*.csv"),
 /// Los ficheros climáticos de una carpeta por orden alfabético, sin entrar en las que tenga dentro.
 QStringList FicherosDeCarpeta(const QString &ruta) {
   QStringList rutas;
-  for (const QFileInfo &fichero : QDir(ruta).entryInfoList(EXTENSIONES, QDir::Files, QDir::Name))
+  for (const QFileInfo &fichero : QDir(ruta).entryInfoList(EXTENSIONES, QDir::Files, QDir::Name | QDir::IgnoreCase))
     rutas << fichero.filePath();
   return rutas;
 }

@@ -216,13 +216,14 @@ private slots:
   }
 
   void soltarUnaCarpetaAnadeSusFicherosClimaticos() {
-    for (const char *nombre : {"carpeta/b.epw", "carpeta/A.CSV", "carpeta/leame.pdf", "carpeta/otra/c.epw"})
+    for (const char *nombre :
+         {"carpeta/a.epw", "carpeta/B.CSV", "carpeta/c.dat", "carpeta/leame.pdf", "carpeta/otra/c.epw"})
       marco_->datos.Directorio().Escribir(nombre, "nada");
     QMimeData datos;
     datos.setUrls({QUrl::fromLocalFile(Ruta("carpeta")), QUrl::fromLocalFile(Ruta("carpeta/leame.pdf"))});
     const QDropEvent suceso(QPointF(50.0, 50.0), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
-    QCOMPARE(FicherosArrastrados(suceso),
-             QStringList({Ruta("carpeta/A.CSV"), Ruta("carpeta/b.epw"), Ruta("carpeta/leame.pdf")}));
+    QCOMPARE(FicherosArrastrados(suceso), QStringList({Ruta("carpeta/a.epw"), Ruta("carpeta/B.CSV"),
+                                                       Ruta("carpeta/c.dat"), Ruta("carpeta/leame.pdf")}));
   }
 
   void unaLocalidadDeTreceColumnasSeOfreceAImportar() {
