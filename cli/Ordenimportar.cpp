@@ -6,11 +6,11 @@
 #include "core/Codificacion.h"
 #include "core/Ficheros.h"
 #include "core/Rutas.h"
+#include "intercambio/Extensionesclimaticas.h"
 #include "intercambio/Importacionlote.h"
 #include "intercambio/sintesis/Normalesprograma.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <map>
 #include <memory>
@@ -29,11 +29,22 @@ struct Datos {
   bool reemplazar = false;
 };
 
-/// Extensiones de los ficheros que se toman de una carpeta.
 bool PareceClimatico(const fs::path &ruta) {
-  constexpr std::array<std::string_view, 5> EXTENSIONES{".epw", ".csv", ".met", ".tmy3", ".txt"};
   const std::string extension = PlegarMinusculas(TextoDeRuta(ruta.extension()));
-  return std::ranges::find(EXTENSIONES, extension) != EXTENSIONES.end();
+  return std::ranges::find(EXTENSIONES_CLIMATICAS, extension) != EXTENSIONES_CLIMATICAS.end();
+}
+
+std::string ListaDeExtensiones() {
+  std::string lista;
+  for (const std::string_view extension : EXTENSIONES_CLIMATICAS)
+    lista.append(lista.empty() ? "" : ", ").append(extension);
+  return lista;
+}
+
+/// El orden alfabético de las ventanas: las mayúsculas, con sus minúsculas.
+bool VaAntes(const std::string &a, const std::string &b) {
+  const std::string llanoA = PlegarMinusculas(a), llanoB = PlegarMinusculas(b);
+  return llanoA != llanoB ? llanoA < llanoB : a < b;
 }
 
 /// Los ficheros de la carpeta @p ruta por orden alfabético; @p ruta misma si no es una carpeta.
@@ -46,10 +57,9 @@ std::vector<std::string> Desplegar(const std::string &ruta) {
     std::error_code otro;
     if (it->is_regular_file(otro) && PareceClimatico(it->path())) ficheros.push_back(TextoDeRuta(it->path()));
   }
-  std::ranges::sort(ficheros);
+  std::ranges::sort(ficheros, VaAntes);
   if (ficheros.empty())
-    throw Fallo(Estado::FaltaEntrada,
-                ruta + ": no tiene ficheros climáticos (.epw, .csv, .met, .tmy3, .txt)");
+    throw Fallo(Estado::FaltaEntrada, ruta + ": no tiene ficheros climáticos (" + ListaDeExtensiones() + ')');
   return ficheros;
 }
 

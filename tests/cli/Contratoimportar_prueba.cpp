@@ -39,17 +39,18 @@ TEST_F(OrdenImportar, LaListaQueYaEstabaConservaSusBytes) {
 }
 
 TEST_F(OrdenImportar, UnaCarpetaEnteraConSuMarcha) {
-  static_cast<void>(Epw("c/b.epw", "Dos"));
+  static_cast<void>(Epw("c/B.epw", "Dos"));
   static_cast<void>(Epw("c/a.EPW", "Uno"));
+  static_cast<void>(Epw("c/c.dat", "Tres"));
   raiz_.Escribir("c/normales.csv", "a,b\n1,2\n");
   raiz_.Escribir("c/LEEME.md", "nada");
   const Ejecucion e = ConBase({"importar", (raiz_ / "c").string(), "--provincia", "P", "--zona", "COSTA"});
   EXPECT_EQ(e.estado, 0) << e.error;
-  EXPECT_NE(e.error.find("[1/3] a.EPW\n"), std::string::npos) << e.error;
+  EXPECT_NE(e.error.find("[1/4] a.EPW\n"), std::string::npos) << e.error;
   EXPECT_NE(e.error.find("Aviso: normales.csv: no es de ningún formato climático conocido; se salta\n"),
             std::string::npos)
       << e.error;
-  EXPECT_EQ(ConBase({"localidades", "--provincia", "P"}).Lineas().size(), 2U);
+  EXPECT_EQ(ConBase({"localidades", "--provincia", "P"}).Lineas().size(), 3U);
 }
 
 TEST_F(OrdenImportar, UnFicheroDadoDosVecesSeImportaUna) {

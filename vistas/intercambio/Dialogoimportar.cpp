@@ -1,5 +1,6 @@
 #include "vistas/intercambio/Dialogoimportar.h"
 
+#include "intercambio/Extensionesclimaticas.h"
 #include "intercambio/escritura/Nombrescatalogo.h"
 #include "vistas/comun/Textoqt.h"
 #include "vistas/intercambio/Dialogomapa.h"
@@ -27,13 +28,18 @@ namespace tesmo {
 
 namespace {
 
-const QStringList EXTENSIONES{QStringLiteral("*.epw"),  QStringLiteral("*.csv"), QStringLiteral("*.met"),
-                              QStringLiteral("*.tmy3"), QStringLiteral("*.txt"), QStringLiteral("*.dat")};
+QStringList Comodines() {
+  QStringList comodines;
+  for (const std::string_view extension : EXTENSIONES_CLIMATICAS)
+    comodines << QLatin1Char('*') + QLatin1String(extension.data(), static_cast<qsizetype>(extension.size()));
+  return comodines;
+}
 
 /// Los ficheros climáticos de una carpeta por orden alfabético, sin entrar en las que tenga dentro.
 QStringList FicherosDeCarpeta(const QString &ruta) {
   QStringList rutas;
-  for (const QFileInfo &fichero : QDir(ruta).entryInfoList(EXTENSIONES, QDir::Files, QDir::Name | QDir::IgnoreCase))
+  for (const QFileInfo &fichero :
+       QDir(ruta).entryInfoList(Comodines(), QDir::Files, QDir::Name | QDir::IgnoreCase))
     rutas << fichero.filePath();
   return rutas;
 }
@@ -55,7 +61,7 @@ PeticionImportacion ConLoTocado(const PeticionImportacion &antes, const Peticion
 } // namespace
 
 QString FiltroClimatico() {
-  return DialogoImportar::tr("Ficheros climáticos (%1);;Todos (*)").arg(EXTENSIONES.join(QLatin1Char(' ')));
+  return DialogoImportar::tr("Ficheros climáticos (%1);;Todos (*)").arg(Comodines().join(QLatin1Char(' ')));
 }
 
 QStringList FicherosArrastrados(const QDropEvent &suceso) {
