@@ -39,8 +39,8 @@ protected:
   [[nodiscard]] QString textFromValue(double valor) const override;
 };
 
-/// Casilla de un número real que puede no saberse: vacía, o bajada del mínimo, enseña un texto en su lugar. Lo
-/// que se teclee entre sus palabras, esté donde esté el cursor, las reemplaza.
+/// Casilla de un número real que puede no saberse: vacía, o bajada del mínimo, enseña un texto en su lugar.
+/// Lo que se teclee entre sus palabras, esté donde esté el cursor, las reemplaza.
 class CasillaOpcional : public CasillaReal {
   Q_OBJECT
 
