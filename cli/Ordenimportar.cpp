@@ -90,7 +90,7 @@ Entradas Reunir(const std::vector<std::string> &dados) {
     const std::string ruta = RutaDeEntrada(dado, "FICHERO");
     const std::vector<std::string> desplegados = Desplegar(ruta);
     const bool esCarpeta = desplegados.front() != ruta;
-    for (const std::string &ruta : desplegados) entradas.Anadir(ruta, esCarpeta);
+    for (const std::string &uno : desplegados) entradas.Anadir(uno, esCarpeta);
   }
   return entradas;
 }
