@@ -73,9 +73,18 @@ TEST_F(OrdenAuditar, SinNadaQueAuditarElJsonEsUnaListaVacia) {
 }
 
 TEST_F(OrdenAuditar, LaCopiaDeUnaBaseSeAuditaConSusNormales) {
-  const std::string copia = raiz_.Escribir("copia/Almeria.met", Contenido(almeria_));
+  // Un programa sin datos a su lado: las únicas normales son las de la base.
+  const std::string sinDatos = raiz_.Escribir("sindatos/tesmo-cli", "");
+  std::filesystem::copy_file(programa_, sinDatos, std::filesystem::copy_options::overwrite_existing);
+  std::filesystem::permissions(sinDatos, std::filesystem::perms::owner_all);
+  programa_ = sinDatos;
+  const std::string copia = raiz_.Escribir("copia/Meteo/Almeria.met", Contenido(almeria_));
+  constexpr const char *COTEJADO = "como las normales de Almería";
+  EXPECT_EQ(Orden({"auditar", copia}).salida.find(COTEJADO), std::string::npos);
+  raiz_.Escribir("copia/datos/normales.csv", Contenido(Raiz() + "/datos/normales.csv"));
   const Ejecucion e = Orden({"auditar", copia});
-  EXPECT_NE(e.salida.find("como las normales de Almería"), std::string::npos) << e.salida;
+  EXPECT_EQ(e.estado, 0) << e.error;
+  EXPECT_NE(e.salida.find(COTEJADO), std::string::npos) << e.salida;
 }
 
 TEST_F(OrdenAuditar, UnFicheroQueFaltaDaEstado3YLosDemasSeAuditan) {

@@ -1,5 +1,4 @@
 #include "tests/cli/Proceso.h"
-#include "tests/comun/Lugares.h"
 
 #include "core/Formato.h"
 
@@ -76,7 +75,7 @@ std::string LineaDeOrdenes::Met() {
 
 Ejecucion LineaDeOrdenes::Orden(const std::vector<std::string> &argumentos, const std::string &salida,
                                 const std::string &entrada) const {
-  std::vector<std::string> todos{tesmo::prueba::Programas() + "/tesmo-cli"};
+  std::vector<std::string> todos{programa_};
   todos.insert(todos.end(), argumentos.begin(), argumentos.end());
   const std::string ficheroSalida = salida.empty() ? (raiz_ / "salida.txt").string() : salida;
   const std::string ficheroError = (raiz_ / "error.txt").string();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/comun/Apoyos.h"
+#include "tests/comun/Lugares.h"
 
 #include <gtest/gtest.h>
 
@@ -36,6 +37,7 @@ protected:
   DirectorioTemporal raiz_;
   std::string base_ = (raiz_ / "base").string();
   std::string trabajo_ = (raiz_ / "trabajo").string();
+  std::string programa_ = Programas() + "/tesmo-cli"; ///< el que se ejecuta
 };
 
 } // namespace tesmo::prueba
