@@ -8,6 +8,7 @@
 #include "core/Varios.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
+#include "psicro/Atmosfera.h"
 #include "psicro/Psicrometrico.h"
 #include "solar/Posicionsolar.h"
 
@@ -121,8 +122,6 @@ ResultadoCarga PrepararDatos(Programa &programa, const Seleccion &seleccion) {
                                               *programa.DamePosicionSolar());
   return resultado;
 }
-
-bool AltitudCreible(float altitud) { return altitud >= ALTITUD_MINIMA && altitud <= ALTITUD_MAXIMA; }
 
 float AltitudEnUso(const Programa &programa, const Seleccion &seleccion) {
   const LeerMet *meteo = programa.DameLeerMet();

@@ -34,12 +34,6 @@ ResultadoCarga AsegurarCarga(Programa &programa, const Seleccion &seleccion);
 /// al día las series derivadas, con el horizonte del PosicionSolar del programa.
 ResultadoCarga PrepararDatos(Programa &programa, const Seleccion &seleccion);
 
-/// Altitudes [m] que se creen.
-inline constexpr float ALTITUD_MINIMA = -500.0F;
-inline constexpr float ALTITUD_MAXIMA = 9000.0F;
-/// Falso también si no es finita.
-[[nodiscard]] bool AltitudCreible(float altitud);
-
 /// Altitud [m] que fija la presión: la del usuario y, si no, el tercer dato del fichero cargado; la que no
 /// se cree vale 0.
 [[nodiscard]] float AltitudEnUso(const Programa &programa, const Seleccion &seleccion);

@@ -8,6 +8,7 @@
 #include "intercambio/formatos/Lectura.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
+#include "psicro/Atmosfera.h"
 #include "vistas/carta/Paginapsicrometrico.h"
 #include "vistas/carta/Vistapsicrometrico.h"
 #include "vistas/colores/Configuracion.h"

@@ -9,6 +9,7 @@
 #include "intercambio/formatos/Lectura.h"
 #include "localidades/Ciudad.h"
 #include "meteo/Leermet.h"
+#include "psicro/Atmosfera.h"
 #include "psicro/Psicrometrico.h"
 #include "solar/Edicionhorizonte.h"
 #include "solar/Posicionsolar.h"

@@ -3,6 +3,7 @@
 #include "cli/Argumentos.h"
 #include "core/Ficheros.h"
 #include "intercambio/comun/Aniocanonico.h"
+#include "psicro/Atmosfera.h"
 
 #include <array>
 #include <utility>
@@ -62,10 +63,9 @@ EleccionReloj InterpretarReloj(const OpcionesReloj &opciones) {
 }
 
 OpcionesLectura InterpretarLectura(const OpcionesReloj &opciones) {
-  constexpr double ALTITUD_MINIMA_M = -500.0, ALTITUD_MAXIMA_M = 9000.0;
   OpcionesLectura lectura;
   if (opciones.altitud)
-    lectura.altitud = LeerNumero(*opciones.altitud, "--altitud", ALTITUD_MINIMA_M, ALTITUD_MAXIMA_M);
+    lectura.altitud = LeerNumero(*opciones.altitud, "--altitud", ALTITUD_MINIMA, ALTITUD_MAXIMA);
   lectura.mapa = InterpretarMapa(opciones.mapa);
   if (opciones.rellenar) lectura.huecosLargos = HuecosLargos::RellenarVecinos;
   return lectura;

@@ -14,6 +14,8 @@ constexpr double EXPONENTE = 5.2559;
 
 } // namespace
 
+bool AltitudCreible(double altitud) { return altitud >= ALTITUD_MINIMA && altitud <= ALTITUD_MAXIMA; }
+
 double PresionEnAltitud(double altitud) {
   return PRESION_NORMAL * std::pow(1.0 - GRADIENTE * altitud, EXPONENTE);
 }

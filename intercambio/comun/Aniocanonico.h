@@ -86,9 +86,6 @@ enum class FormatoClima : std::uint8_t {
   Delimitado
 };
 
-/// Altitudes [m] que se creen en un fichero: de la orilla del mar Muerto a la cima más alta.
-inline constexpr double ALTITUD_CREIBLE_MENOR = -450.0, ALTITUD_CREIBLE_MAYOR = 9000.0;
-
 /// Dónde se midió un año.
 struct SitioClima {
   std::string nombre;

@@ -3,6 +3,7 @@
 #include "core/Caracteres.h"
 #include "core/Unidades.h"
 #include "intercambio/formatos/Numeros.h"
+#include "psicro/Atmosfera.h"
 
 #include <algorithm>
 #include <cmath>
@@ -42,7 +43,7 @@ void PonerSitio(std::optional<double> latitud, std::optional<double> longitud, s
   sitio.latitud = Angulo(latitud, LATITUD_MAXIMA, "latitud", linea, cuaderno);
   sitio.longitud = Angulo(longitud, LONGITUD_MAXIMA, "longitud", linea, cuaderno);
   if (!std::isnan(sitio.altitud)) return;
-  if (altitud && *altitud >= ALTITUD_CREIBLE_MENOR && *altitud <= ALTITUD_CREIBLE_MAYOR) {
+  if (altitud && AltitudCreible(*altitud)) {
     sitio.altitud = *altitud;
     return;
   }

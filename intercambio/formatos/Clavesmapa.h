@@ -1,6 +1,7 @@
 #pragma once
 
 #include "intercambio/formatos/Mapacolumnas.h"
+#include "psicro/Atmosfera.h"
 
 #include <array>
 #include <string>
@@ -37,7 +38,7 @@ struct ClaveNumero {
 inline constexpr std::array<ClaveNumero, 4> NUMEROS{
     {{"latitud", &MapaColumnas::latitud, -90.0, 90.0},
      {"longitud", &MapaColumnas::longitud, -180.0, 180.0},
-     {"altitud", &MapaColumnas::altitud, ALTITUD_CREIBLE_MENOR, ALTITUD_CREIBLE_MAYOR},
+     {"altitud", &MapaColumnas::altitud, ALTITUD_MINIMA, ALTITUD_MAXIMA},
      {"sin dato", &MapaColumnas::sinDato, -1e9, 1e9}}};
 
 /// Un texto del mapa: el nombre y las columnas de la fecha.

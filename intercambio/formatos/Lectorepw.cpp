@@ -5,6 +5,7 @@
 #include "intercambio/formatos/Lectores.h"
 #include "intercambio/formatos/Montaje.h"
 #include "intercambio/formatos/Numeros.h"
+#include "psicro/Atmosfera.h"
 
 #include <algorithm>
 #include <array>
@@ -67,7 +68,7 @@ bool PareceDeDatos(std::string_view linea, CamposLinea &campos) {
 /// ¿Son los @p cuantos campos desde @p i latitud, longitud, huso y altitud? El huso, en cuartos de hora: así
 /// no pasa por él una longitud.
 bool SonDelSitio(const CamposLinea &campos, std::size_t i, std::size_t cuantos) {
-  constexpr std::array<double, 4> MAYORES{90.0, 180.0, HUSO_MAXIMO, ALTITUD_CREIBLE_MAYOR};
+  constexpr std::array<double, 4> MAYORES{90.0, 180.0, HUSO_MAXIMO, ALTITUD_MAXIMA};
   constexpr std::size_t EL_HUSO = 2;
   constexpr double CUARTOS_POR_HORA = 4.0;
   for (std::size_t k = 0; k < cuantos; ++k) {

@@ -24,6 +24,12 @@ TEST(Atmosfera, LaAltitudDeshaceLaPresion) {
     EXPECT_NEAR(AltitudDePresion(PresionEnAltitud(z)), z, 1e-6);
 }
 
+TEST(Atmosfera, SeCreenLasAltitudesDeLaTierraHabitada) {
+  for (const double creible : {ALTITUD_MINIMA, -480.0, 0.0, ALTITUD_MAXIMA})
+    EXPECT_TRUE(AltitudCreible(creible));
+  for (const double no : {-500.5, 9000.5, -9999.0, std::nan(""), HUGE_VAL}) EXPECT_FALSE(AltitudCreible(no));
+}
+
 TEST(Atmosfera, PorEncimaDelModeloLaPresionNoEsUnNumero) {
   EXPECT_FALSE(std::isnan(PresionEnAltitud(44330.0)));
   EXPECT_TRUE(std::isnan(PresionEnAltitud(44332.0)));

@@ -1,6 +1,6 @@
 #include "vistas/carta/Paginapsicrometrico.h"
 
-#include "app/Carga.h"
+#include "psicro/Atmosfera.h"
 #include "vistas/carta/Marcocarta.h"
 #include "vistas/carta/Tablapuntos.h"
 #include "vistas/carta/Valoresaire.h"
@@ -179,7 +179,7 @@ QGroupBox *PaginaPsicrometrico::CrearFamilias() {
 void PaginaPsicrometrico::CrearAltitud(QGridLayout &rejilla) {
   csAltitud_ = new CasillaReal;
   csAltitud_->setObjectName(QStringLiteral("csAltitud"));
-  csAltitud_->setRange(double{ALTITUD_MINIMA}, double{ALTITUD_MAXIMA});
+  csAltitud_->setRange(ALTITUD_MINIMA, ALTITUD_MAXIMA);
   csAltitud_->setDecimals(2);
   csAltitud_->setAlignment(Qt::AlignRight);
   csAltitud_->setFixedWidth(ANCHO_VALOR);

@@ -4,6 +4,7 @@
 #include "core/Ficheros.h"
 #include "intercambio/comun/Aniocanonico.h"
 #include "intercambio/formatos/Clavesmapa.h"
+#include "psicro/Atmosfera.h"
 #include "vistas/comun/Casillanumero.h"
 #include "vistas/comun/Textoqt.h"
 #include "vistas/intercambio/Dialogomapa.h"
@@ -110,7 +111,7 @@ QWidget *DialogoMapa::CrearSitio() {
   csLatitud_->setToolTip(tr("Norte, positiva"));
   csLongitud_ = CrearReal("csLongitud", -180.0, 180.0, 4, tr(" °"));
   csLongitud_->setToolTip(tr("Este, positiva"));
-  csAltitud_ = new CasillaOpcional(ALTITUD_CREIBLE_MENOR, ALTITUD_CREIBLE_MAYOR, 1, tr("no se sabe"));
+  csAltitud_ = new CasillaOpcional(ALTITUD_MINIMA, ALTITUD_MAXIMA, 1, tr("no se sabe"));
   csAltitud_->setObjectName(QStringLiteral("csAltitud"));
   csAltitud_->setSuffix(tr(" m"));
   forma->addRow(tr("&Nombre"), edNombre_);

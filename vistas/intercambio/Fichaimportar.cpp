@@ -3,6 +3,7 @@
 #include "intercambio/Aniodefichero.h"
 #include "intercambio/comun/Aniocanonico.h"
 #include "intercambio/comun/Perfilmensual.h"
+#include "psicro/Atmosfera.h"
 #include "vistas/comun/Casillanumero.h"
 #include "vistas/comun/Textoqt.h"
 #include "vistas/intercambio/Dibujoreloj.h"
@@ -25,7 +26,6 @@ namespace {
 
 /// Medio día [min]: con un huso equivocado en su cabecera, un fichero puede ir desfasado horas.
 constexpr double DESFASE_MAXIMO = 720.0;
-constexpr double ALTITUD_MENOR = -500.0, ALTITUD_MAYOR = 9000.0; ///< [m]
 constexpr double PASO_DESFASE = 5.0, PASO_HUSO = 0.5;
 constexpr int CIFRAS_DESFASE = 1;
 constexpr int CIFRAS_HUSO = 2; ///< los hay de tres cuartos de hora
@@ -84,7 +84,7 @@ QWidget *FichaImportar::CrearDatos(const std::vector<std::string> &provincias) {
   cbZona_->addItem(QString(), QString());
   cbZona_->addItem(tr("Interior"), QString::fromLatin1(ZONA_INTERIOR));
   cbZona_->addItem(tr("Costa"), QString::fromLatin1(ZONA_COSTA));
-  csAltitud_ = new CasillaOpcional(ALTITUD_MENOR, ALTITUD_MAYOR, 1, tr("la del fichero"));
+  csAltitud_ = new CasillaOpcional(ALTITUD_MINIMA, ALTITUD_MAXIMA, 1, tr("la del fichero"));
   csAltitud_->setObjectName(QStringLiteral("csAltitudSitio"));
   csAltitud_->setSuffix(tr(" m"));
   csAltitud_->setToolTip(tr("Fija la presión y las humedades. Vacía: la que diga el fichero."));

@@ -156,6 +156,16 @@ TEST(Epw, SinAltitudSeAvisaYQuedaAusente) {
   EXPECT_TRUE(std::isnan(resultado.anio->sitio.altitud));
 }
 
+TEST(Epw, SeCreenLasAltitudesQueSePuedenTeclear) {
+  LineasFichero lineas = LineasEpw();
+  for (const auto &[texto, creible] : {std::pair{"-480", true}, {"9000", true}, {"-501", false}}) {
+    CambiarCampo(lineas[0], 9, texto);
+    const ResultadoLectura resultado = Leer(lineas);
+    ASSERT_TRUE(resultado.SinErrores());
+    EXPECT_EQ(std::isfinite(resultado.anio->sitio.altitud), creible) << texto;
+  }
+}
+
 TEST(Epw, UnaCiudadConComasNoCorreLosNumeros) {
   LineasFichero lineas = LineasEpw();
   lineas[0] = "LOCATION,Almena, la Alta, del Monte,Granada,ESP,Mano,084180,37.18,-3.78,1.0,567.0";

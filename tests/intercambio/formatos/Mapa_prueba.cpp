@@ -40,6 +40,15 @@ TEST(Mapa, SeLeenColumnasUnidadesYReloj) {
   EXPECT_EQ(mapa.columnas[4], (ColumnaMapa{Campo::DifusaHorizontal, "6", ""}));
 }
 
+TEST(Mapa, SuAltitudPuedeSerLaDeCualquierSitioCreible) {
+  const auto con = [](const std::string &altitud) {
+    std::string texto = MapaDePrueba();
+    return texto.replace(texto.find("altitud = 567"), 13, "altitud = " + altitud);
+  };
+  EXPECT_TRUE(LeerMapa(con("-480")).mapa);
+  EXPECT_FALSE(LeerMapa(con("-501")).mapa);
+}
+
 TEST(Mapa, ElDeLaDocumentacionVale) {
   const std::string texto = Contenido(RutaDesdeTexto(Raiz()) / "docs" / "formatos.md");
   const std::size_t inicio = texto.find("```\n");
