@@ -76,7 +76,7 @@ bool AbreMenu(const QWidget &control) {
 QString CodigoDeLasPruebas() {
   QString codigo;
   QDirIterator it(QString::fromStdString(tesmo::prueba::Raiz() + "/tests"),
-                  {QStringLiteral("*.cpp"), QStringLiteral("*.sh")}, QDir::Files,
+                  {QStringLiteral("*.cpp"), QStringLiteral("*.h"), QStringLiteral("*.sh")}, QDir::Files,
                   QDirIterator::Subdirectories);
   while (it.hasNext()) {
     QFile fichero(it.next());

@@ -180,7 +180,7 @@ private slots:
     const QString destino = base + QStringLiteral("/imagenes");
     QCOMPARE(Demostracion(base, destino, 0), 0);
     const QStringList nombres = QDir(destino).entryList(QDir::Files);
-    QCOMPARE(nombres.size(), 10);
+    QCOMPARE(nombres.size(), 13);
     const QMap<QString, QByteArray> antes = Ficheros(destino, nombres);
     int muertes = 0;
     for (const int limiteKb : {8, 32, 64, 128}) {

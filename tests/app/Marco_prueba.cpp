@@ -232,7 +232,7 @@ private slots:
     const QString destino = QString::fromStdString(TextoDeRuta(marco_->datos.Directorio() / "salida/dentro"));
     QVERIFY(EjecutarDemostracion(destino));
     const QStringList ficheros = QDir(destino).entryList(QDir::Files);
-    QCOMPARE(ficheros.size(), 10);
+    QCOMPARE(ficheros.size(), 13);
     for (const QString &fichero : ficheros) QVERIFY(QFileInfo(destino, fichero).size() > 1000);
     const std::string exportado = Contenido(marco_->datos.Directorio() / "salida/dentro/almeria.met");
     QCOMPARE(std::count(exportado.begin(), exportado.end(), '\n'), 4 + 8760);
