@@ -12,9 +12,9 @@
 #include "core/Mensajes.h"
 #include "core/Rutas.h"
 #include "extremos/Diasextremos.h"
-#include "vistas/comun/Abrirdocumento.h"
 #include "vistas/colores/Configuracion.h"
 #include "vistas/colores/Ventanacolores.h"
+#include "vistas/comun/Abrirdocumento.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -4,8 +4,9 @@ namespace tesmo::aire {
 
 // Aire húmedo como mezcla de gases ideales con calores específicos constantes (ASHRAE Handbook of
 // Fundamentals, 1997, cap. 6). No son erratas: las ediciones recientes (2017, cap. 1) dan, entre otras,
-// 0,621945 a EPSILON, 287,042 a RA, 1860 a CPV y 2326 a PENDIENTE_BULBO_HUMEDO. Cada valor guarda la precisión con que el modelo lo conoce: los que
-// son float lo son exactamente, y de ello dependen las últimas cifras de los resultados.
+// 0,621945 a EPSILON, 287,042 a RA, 1860 a CPV y 2326 a PENDIENTE_BULBO_HUMEDO. Cada valor guarda la
+// precisión con que el modelo lo conoce: los que son float lo son exactamente, y de ello dependen las últimas
+// cifras de los resultados.
 
 /// Cociente de masas molares agua / aire seco (18.01528 / 28.9645).
 inline constexpr double EPSILON = 0.6219779385109357;

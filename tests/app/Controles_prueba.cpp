@@ -9,11 +9,11 @@
 #include "tests/comun/Lugares.h"
 #include "tests/comun/ventanas/Manejo.h"
 #include "vistas/colores/Configuracion.h"
+#include "vistas/colores/Ventanacolores.h"
 #include "vistas/intercambio/Dialogoauditar.h"
-#include "vistas/sol/Dialogohorizonte.h"
 #include "vistas/intercambio/Dialogoimportar.h"
 #include "vistas/intercambio/Dialogomapa.h"
-#include "vistas/colores/Ventanacolores.h"
+#include "vistas/sol/Dialogohorizonte.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>

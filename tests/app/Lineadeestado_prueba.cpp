@@ -81,7 +81,8 @@ private slots:
     QTest::addColumn<QString>("fichero");
     QTest::addColumn<QString>("leidas");
     QTest::newRow("corto") << "Meteo/tarifa.met" << QString::number(DatosPrueba::REGISTROS_CORTADO);
-    QTest::newRow("ilegible") << "config.ini" << "0";
+    QTest::newRow("ilegible") << "config.ini"
+                              << "0";
   }
   void representarDiceQueElFicheroYaNoEstaEntero() {
     QFETCH(const QString, fichero);

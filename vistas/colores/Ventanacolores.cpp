@@ -1,11 +1,11 @@
 #include "vistas/colores/Ventanacolores.h"
 
-#include "vistas/comun/Botones.h"
 #include "vistas/colores/Configuracion.h"
-#include "vistas/comun/Etiquetapulsable.h"
-#include "vistas/datos/Gruposmagnitud.h"
 #include "vistas/colores/Selectorcolor.h"
+#include "vistas/comun/Botones.h"
+#include "vistas/comun/Etiquetapulsable.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/datos/Gruposmagnitud.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -1,9 +1,9 @@
 #include "vistas/datos/Paginaentorno.h"
 
 #include "vistas/comun/Botones.h"
-#include "vistas/grafico/Grafico.h"
-#include "vistas/datos/Gruposmagnitud.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/datos/Gruposmagnitud.h"
+#include "vistas/grafico/Grafico.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

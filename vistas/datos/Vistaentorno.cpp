@@ -6,11 +6,11 @@
 #include "meteo/Leermet.h"
 #include "vistas/colores/Configuracion.h"
 #include "vistas/comun/Cursorocupado.h"
-#include "vistas/grafico/Escalahoras.h"
-#include "vistas/grafico/Grafico.h"
-#include "vistas/datos/Paginaentorno.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/datos/Paginaentorno.h"
+#include "vistas/grafico/Escalahoras.h"
+#include "vistas/grafico/Grafico.h"
 #include "vistas/grafico/Trazosdistintos.h"
 
 #include <QAction>

@@ -7,9 +7,9 @@
 #include "meteo/Leermet.h"
 #include "vistas/comun/Cursorocupado.h"
 #include "vistas/comun/Dialogoguardar.h"
-#include "vistas/datos/Paginaexportacion.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/datos/Paginaexportacion.h"
 
 #include <QDir>
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "vistas/extremos/Paginadiasextremos.h"
 #include "vistas/datos/Textoderivacion.h"
+#include "vistas/extremos/Paginadiasextremos.h"
 
 #include <optional>
 

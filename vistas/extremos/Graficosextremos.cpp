@@ -1,11 +1,11 @@
 #include "vistas/extremos/Graficosextremos.h"
 
 #include "meteo/Magnitudes.h"
-#include "vistas/grafico/Ejescompartidos.h"
-#include "vistas/grafico/Grafico.h"
+#include "vistas/comun/Textoqt.h"
 #include "vistas/extremos/Paginaresultadosextremos.h"
 #include "vistas/extremos/Seriesextremos.h"
-#include "vistas/comun/Textoqt.h"
+#include "vistas/grafico/Ejescompartidos.h"
+#include "vistas/grafico/Grafico.h"
 
 #include <vector>
 

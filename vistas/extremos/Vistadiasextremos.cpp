@@ -9,11 +9,11 @@
 #include "localidades/Ciudad.h"
 #include "vistas/comun/Abrireditor.h"
 #include "vistas/comun/Cursorocupado.h"
-#include "vistas/extremos/Paginadiasextremos.h"
-#include "vistas/extremos/Paginaresultadosextremos.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
 #include "vistas/comun/Ultimodiagnostico.h"
+#include "vistas/extremos/Paginadiasextremos.h"
+#include "vistas/extremos/Paginaresultadosextremos.h"
 
 #include <QObject>
 

@@ -1,5 +1,5 @@
-#include "vistas/grafico/Graficointerno.h"
 #include "vistas/comun/Guardardibujo.h"
+#include "vistas/grafico/Graficointerno.h"
 #include "vistas/grafico/Lectura.h"
 
 #include <QApplication>

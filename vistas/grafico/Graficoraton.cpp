@@ -1,6 +1,6 @@
+#include "vistas/comun/Guardardibujo.h"
 #include "vistas/grafico/Encuadre.h"
 #include "vistas/grafico/Graficointerno.h"
-#include "vistas/comun/Guardardibujo.h"
 #include "vistas/grafico/Lectura.h"
 
 #include <QAction>

@@ -2,9 +2,9 @@
 
 #include "solar/Posicionsolar.h"
 #include "tests/comun/ventanas/Manejo.h"
-#include "vistas/sol/Graficosolar.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/sol/Graficosolar.h"
 #include "vistas/sol/Vistaposicionsolar.h"
 
 #include <QLabel>

@@ -5,9 +5,9 @@
 #include "meteo/Leermet.h"
 #include "tests/comun/ventanas/Manejo.h"
 #include "vistas/colores/Configuracion.h"
-#include "vistas/datos/Paginaentorno.h"
 #include "vistas/comun/Panelseleccion.h"
 #include "vistas/comun/Textoqt.h"
+#include "vistas/datos/Paginaentorno.h"
 #include "vistas/datos/Vistaentorno.h"
 
 #include <QCheckBox>
