@@ -122,7 +122,7 @@ nube_de_una_semana() {
   esperar 30 'las marcas' hay_marcas
   guardar "$trabajo/nube.svg" 640 300 g
   local trazos
-  trazos=$(grep -c '#0000ff' "$trabajo/nube.svg")
+  trazos=$(awk '/^<g /{azul=/#0000ff/} azul && /^<polyline/' "$trabajo/nube.svg" | wc -l)
   [ "$trazos" -eq $((2 * 7 * 24)) ] || fallar "la nube de la semana tiene $trazos trazos"
 }
 
