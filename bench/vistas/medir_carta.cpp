@@ -3,6 +3,7 @@
 // defecto (antialias y cambio de pluma en cada una), con el mismo tamaño y en una sola ejecución. Lee los
 // datos construidos.
 
+#include "app/Carga.h"
 #include "app/Programa.h"
 #include "app/Seleccion.h"
 #include "bench/comun/Mediana.h"
@@ -76,7 +77,10 @@ int main(int argc, char **argv) {
   tesmo::PaginaPsicrometrico pagina;
   tesmo::PanelSeleccion panel;
   panel.PonPeriodo({{1, 1, 1}, {12, 31, 24}});
-  tesmo::Vistapsicrometrico vista(pagina, panel, programa, seleccion, [] {});
+  const auto cargar = [&] {
+    return tesmo::CargarLocalidad(programa, seleccion) == tesmo::ResultadoCarga::Cargada;
+  };
+  tesmo::Vistapsicrometrico vista(pagina, panel, programa, seleccion, {cargar, [] {}});
   pagina.resize(TAMANO);
   pagina.show();
   QApplication::processEvents();
@@ -86,7 +90,7 @@ int main(int argc, char **argv) {
     vista.representar();
     marco.repaint();
   };
-  ver(); // la lectura del fichero se hace al elegir la localidad
+  ver(); // la primera vez pone además en memoria el fichero y las letras
   if (vista.Contenido().marcas.size() != tesmo::HORAS_DEL_ANIO) return EXIT_FAILURE;
 
   const double pulsacion = Mediana(VECES, ver);
